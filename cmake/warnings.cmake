@@ -1,0 +1,17 @@
+# One target holds the warnings; every target of the house links it.
+add_library(talvor_warnings INTERFACE)
+target_compile_options(talvor_warnings INTERFACE
+  -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wold-style-cast
+  -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wunused -Wnull-dereference
+  -Wimplicit-fallthrough -Werror)
+
+if(TALVOR_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+  # The sanitizers' instrumentation makes GCC report null paths that do not exist.
+  target_compile_options(talvor_warnings INTERFACE -Wno-null-dereference)
+  add_compile_definitions(_GLIBCXX_ASSERTIONS)
+endif()
+if(TALVOR_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all)
+endif()

@@ -1,0 +1,76 @@
+#include "base/line_file.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <fstream>
+#include <iterator>
+
+#include "base/code_page.h"
+
+namespace talvor {
+namespace {
+
+std::error_code LastError() { return {errno, std::generic_category()}; }
+
+std::error_code WriteAll(int descriptor, std::string_view bytes) {
+  while (!bytes.empty()) {
+    const auto written = ::write(descriptor, bytes.data(), bytes.size());
+    if (written < 0 && errno == EINTR) continue;
+    if (written < 0) return LastError();
+    bytes.remove_prefix(static_cast<std::size_t>(written));
+  }
+  return ::fsync(descriptor) == 0 ? std::error_code{} : LastError();
+}
+
+}  // namespace
+
+std::filesystem::path PathOf(TextView text) { return std::filesystem::path{ToUtf8(text)}; }
+
+std::optional<Text> TextOf(const std::filesystem::path& path) { return FromUtf8(path.native()); }
+
+std::optional<std::string> ReadBytes(const std::filesystem::path& file) {
+  std::error_code error;
+  if (!std::filesystem::is_regular_file(file, error)) return std::nullopt;
+  std::ifstream stream{file, std::ios::binary};
+  if (!stream) return std::nullopt;
+  std::string bytes{std::istreambuf_iterator<char>{stream}, {}};
+  return stream.bad() ? std::nullopt : std::optional{std::move(bytes)};
+}
+
+std::error_code WriteBytes(const std::filesystem::path& file, std::string_view bytes) {
+  std::error_code error;
+  std::filesystem::remove(file, error);
+  if (error) return error;
+  const int descriptor = ::open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+  if (descriptor < 0) return LastError();
+  error = WriteAll(descriptor, bytes);
+  if (::close(descriptor) != 0 && !error) error = LastError();
+  if (error) {
+    std::error_code ignored;  // the first failure is the one to tell
+    std::filesystem::remove(file, ignored);
+  }
+  return error;
+}
+
+std::vector<Text> SplitLines(TextView text) {
+  const char16_t end = Contains(text, u"\r") ? u'\r' : u'\n';
+  std::vector<Text> lines;
+  while (!text.empty()) {
+    const auto length = text.find(end);
+    lines.emplace_back(text.substr(0, length));
+    if (length == TextView::npos) break;
+    text.remove_prefix(length + 1);
+    if (end == u'\r' && text.starts_with(u'\n')) text.remove_prefix(1);
+  }
+  return lines;
+}
+
+std::optional<std::vector<Text>> ReadLines(const std::filesystem::path& file) {
+  const auto bytes = ReadBytes(file);
+  if (!bytes) return std::nullopt;
+  return SplitLines(FromCodePage(*bytes));
+}
+
+}  // namespace talvor

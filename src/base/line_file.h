@@ -1,0 +1,33 @@
+// The text files of the workspace: lines of code page 1252 that end in CR LF.
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <system_error>
+#include <vector>
+
+#include "base/text.h"
+
+namespace talvor {
+
+// The path of a name or path given as a text, and back; a path that is not UTF-8 has no text.
+[[nodiscard]] std::filesystem::path PathOf(TextView text);
+[[nodiscard]] std::optional<Text> TextOf(const std::filesystem::path& path);
+
+// The bytes of a regular file, nothing when it cannot be read to its end.
+[[nodiscard]] std::optional<std::string> ReadBytes(const std::filesystem::path& file);
+
+// Deletes the old file, then writes the new one and forces it to the disk. The error, if any step
+// failed; a file written in part is deleted again.
+[[nodiscard]] std::error_code WriteBytes(const std::filesystem::path& file, std::string_view bytes);
+
+// CR LF or a lone CR ends a line; in a text without any CR, LF does. A line end at the very end begins
+// no further line.
+[[nodiscard]] std::vector<Text> SplitLines(TextView text);
+
+// The lines of a file of the workspace, nothing when it cannot be read.
+[[nodiscard]] std::optional<std::vector<Text>> ReadLines(const std::filesystem::path& file);
+
+}  // namespace talvor

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "base/text.h"
+
+namespace talvor {
+
+class Environment {
+ public:
+  virtual ~Environment() = default;
+  // The value of a variable, empty when it is not set. `AppData`, `userprofile` and `temp` always
+  // answer with the folder that stands for them on this system.
+  [[nodiscard]] virtual Text Variable(TextView name) const = 0;
+};
+
+}  // namespace talvor
