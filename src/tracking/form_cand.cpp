@@ -1,0 +1,173 @@
+#include "tracking/form_cand.h"
+
+#include "base/fonctionnel.h"
+#include "tracking/contracts.h"
+#include "tracking/form_cand_messages.h"
+#include "tracking/status_lists.h"
+
+namespace talvor {
+namespace {
+
+constexpr TextView FormName = u"FormCand";
+
+// Raised for the life of a save, whatever way it ends.
+class Raised {
+ public:
+  explicit Raised(bool& flag) : flag_(flag) { flag_ = true; }
+  ~Raised() { flag_ = false; }
+  Raised(const Raised&) = delete;
+  Raised& operator=(const Raised&) = delete;
+
+ private:
+  bool& flag_;
+};
+
+}  // namespace
+
+FormCand::FormCand(Principale& principale, const Clock& clock, Dialogs& dialogs, Shell& shell,
+                   Browser& browser)
+    : principale_(principale), clock_(clock), dialogs_(dialogs), shell_(shell), browser_(browser) {}
+
+void FormCand::Charger() {
+  browser_.Navigate(BlankPage);
+  InitListe();
+  DescriptionConnue.clear();
+}
+
+Text FormCand::Today() const { return DateText(clock_.Today()); }
+
+// The key in `Num`, which holds digits only.
+std::optional<std::int32_t> FormCand::Key() const {
+  if (Num.empty()) return std::nullopt;
+  return static_cast<std::int32_t>(ValeurNumerique(Num));
+}
+
+void FormCand::ChargerCandidature(std::int16_t num) {
+  Num.clear();
+  base_ = Database::Open(clock_);
+  static_cast<CandidatureDetail&>(*this) = DetailOf(base_.ReadRow(num));
+  DescriptionConnue = Description;
+  PicturePostulerVisible = Statut == NonEmise;
+  SignatureCourante = SignatureEnregistree = Signature(*this);
+}
+
+void FormCand::ViderDetail() {
+  static_cast<CandidatureDetail&>(*this) = {};
+  DescriptionConnue.clear();
+}
+
+void FormCand::ValeursParDefaut() {
+  if (DateDiffusion.empty()) DateDiffusion = Today();
+  if (Statut.empty()) Statut = NonEmise;
+  if (Societe.empty()) Societe = u"N.C.";
+  if (Duree.empty() && Nature == ListeContrats.front()) Duree = u"Indéterminée";
+}
+
+bool FormCand::RefuseDate(TextView field, const Text& value) {
+  if (DateValide(value)) return false;
+  shell_.Focus(FormName, field);
+  dialogs_.Tell(messages::BadDate);
+  return true;
+}
+
+bool FormCand::ControleSaisie() {
+  if (Intitule.empty()) {
+    dialogs_.Tell(CadreWebVisible ? messages::NotIdentified : messages::TitleRequired);
+    return false;
+  }
+  return !RefuseDate(u"DateDiffusion", DateDiffusion) && !RefuseDate(u"DateLimite", DateLimite) &&
+         !RefuseDate(u"DateEnvoi", DateEnvoi);
+}
+
+void FormCand::Valider() {
+  const Raised saving(saving_);
+  ValeursParDefaut();
+  base_ = Database::Open(clock_);
+  EnregistrerLigne();
+  // Saved or not: a text that was refused counts as seen until something more changes.
+  SignatureEnregistree = SignatureCourante;
+  InitListe();
+}
+
+void FormCand::EnregistrerLigne() {
+  // The number of a new row is drawn before the check and is lost if that fails.
+  const auto key = Key();
+  const PendingRow row = key ? base_.EditRow(*key) : base_.BeginRow();
+  if (!ControleSaisie()) return;
+  const Candidature values = RowOf(*this);
+  Num = NumberText(row.num);
+  base_.Save(row, values);
+}
+
+void FormCand::Timer2() {
+  if (Num.empty() || saving_) return;
+  SignatureCourante = Signature(*this);
+  if (SignatureCourante != SignatureEnregistree) Valider();
+}
+
+void FormCand::Action(std::size_t index) {
+  switch (index) {
+    case 0:
+      ViderDetail();
+      browser_.Navigate(BlankPage);
+      break;
+    case 1:
+      Supprimer();
+      break;
+    case 3:
+      Valider();
+      break;
+    case 4:
+      MontrerCadreWeb();
+      break;
+    default:
+      break;  // index 2 has no label
+  }
+}
+
+void FormCand::MontrerCadreWeb() {
+  CadreWebVisible = true;
+  shell_.PumpEvents();
+  if (browser_.LocationURL() != BlankPage) return;
+  AdresseWeb = principale_.AdresseWeb;
+  browser_.Navigate(AdresseWeb);
+}
+
+void FormCand::Supprimer() {
+  if (!dialogs_.Confirm(messages::ConfirmDelete) || Num.empty()) return;
+  DeleteOn(base_);
+}
+
+void FormCand::MenuSupprimerCand() {
+  if (!dialogs_.Confirm(messages::ConfirmDelete) || Num.empty()) return;
+  Database own = Database::Open(clock_);
+  DeleteOn(own);
+}
+
+void FormCand::DeleteOn(Database& database) {
+  database.DeleteRow(*Key());
+  InitListe();
+  ViderControles();
+}
+
+// Empties the text of every control of the form: with the detail go the end markers of the analyser
+// and the address field.
+void FormCand::ViderControles() {
+  static_cast<CandidatureDetail&>(*this) = {};
+  TermFin.clear();
+  AdresseWeb.clear();
+}
+
+void FormCand::ClicPicturePostuler() {
+  if (OuvrirPostuler) OuvrirPostuler({Lettre, DateEnvoi.empty()});
+}
+
+void FormCand::MarquerEnvoyee(TextView cv, TextView lettre) {
+  Statut = ListeStatuts[1];
+  DateEnvoi = Today();
+  CV = cv;
+  Lettre = lettre;
+  Valider();
+}
+
+}  // namespace talvor

@@ -1,0 +1,138 @@
+// `FormCand`, the form of the candidatures as a view model: the list on its left, the detail on its
+// right. What browses, captures and prefills stands in ads.
+#pragma once
+
+#include <functional>
+#include <optional>
+
+#include "platform/browser.h"
+#include "platform/clock.h"
+#include "platform/dialogs.h"
+#include "platform/shell.h"
+#include "tracking/candidature_detail.h"
+#include "tracking/candidature_tree.h"
+#include "workspace/principale.h"
+
+namespace talvor {
+
+// The end markers of an advertisement as delivered, one to a line: a digit, which is 1 for a marker
+// in force, and the text. The last line ends in a line end.
+inline constexpr TextView TermFinDelivered =
+    u"1Offre suivante >>\r\n"
+    u"1Avec l'Apec et Linked\r\n"
+    u"1Joindre un CV de taille\r\n"
+    u"1Déposez votre CV WORD\r\n"
+    u"1Offres en relation\r\n"
+    u"1Pour postuler à cette offre\r\n"
+    u"1Réduire la fenêtre\r\n";
+
+// A popup list beside a text field.
+struct ChoiceList {
+  bool visible = false;
+  std::optional<std::size_t> selected;  // index of the row that equals the field, if any
+};
+
+// What `OuvrirPostuler` hands to the apply form.
+struct ApplyRequest {
+  Text Texte;              // the letter
+  bool canBeSent = false;  // shows `BoutonTLV1`
+};
+
+class FormCand : public CandidatureDetail {
+ public:
+  FormCand(Principale& principale, const Clock& clock, Dialogs& dialogs, Shell& shell, Browser& browser);
+
+  // -- State beside the fields of the detail.
+  Text SignatureEnregistree;  // as last loaded or saved
+  Text SignatureCourante;     // as last computed
+  Text DescriptionConnue;     // the description as last loaded or analysed
+  Text TermFin{TermFinDelivered};
+  Text AdresseWeb;  // the address field of the browser pane
+  bool CadreWebVisible = false;
+  bool PicturePostulerVisible = false;
+  ChoiceList ListeStatutsChoice;
+  ChoiceList ListeContratsChoice;
+
+  std::optional<Tri> TriChoisi = Tri::Statuts;
+  CandidatureTree Liste;
+  bool ListeVisible = false;
+  bool BoutonDroit = false;        // the last press on the tree was the right button
+  bool MenuPostulerActif = false;  // whether the popup offers "Postuler"
+
+  // -- Ways out to what stands on higher floors; one that is not set does nothing.
+  std::function<void(const ApplyRequest&)> OuvrirPostuler;
+  std::function<void()> OuvrirMenuItemCand;
+
+  // The form is loaded: blank browser, list built, no known description.
+  void Charger();
+
+  // -- The list.
+  // Rebuilds the tree from the rows and the sort option. Failures are not reported: the tree holds what
+  // could be read. Closes the handle that the detail keeps.
+  void InitListe();
+  void ClicTri(Tri tri);
+  // Opens the row of a leaf; the right button opens the popup as well. A key that passes as a leaf's and
+  // names no row is a failure of the engine.
+  void ClicNoeud(TextView key);
+  // Deletes every row after a question; the same from the main menu, which asks in other words and
+  // clears the tree instead of building it again.
+  void ToutSupprimer();
+  void MenuSupprimer();
+  // The links of the search panel, 0 or 1; the second one has no action.
+  void Rechercher(std::size_t index);
+
+  // -- The detail.
+  // Shows the row of a key and leaves the database open; throws StoreError when there is no such row.
+  void ChargerCandidature(std::int16_t num);
+  // Empties every field of the detail and the known description.
+  void ViderDetail();
+  // Fills what an empty field stands for.
+  void ValeursParDefaut();
+  // True if the fields can be saved; the first fault is told and takes the focus. `DateRDV` is not
+  // looked at.
+  [[nodiscard]] bool ControleSaisie();
+  // Saves the detail as a new row or over its own; the only writer of rows. Throws StoreError when the
+  // engine refuses, a `DateRDV` that is no date included.
+  void Valider();
+  // Every 3000 ms: saves a row that has a key and has changed. Nothing while a save is under way.
+  void Timer2();
+
+  // The action labels by index: 0 "Nouvelle", 1 "Supprimer", 3 "Valider", 4 "Internet".
+  void Action(std::size_t index);
+  // Deletes the row of the detail on the handle that the detail holds. Once the list has been built
+  // again that handle is closed and the delete fails like any failure of the engine.
+  void Supprimer();
+  // The same from the popup, on a handle of its own.
+  void MenuSupprimerCand();
+  void ClicPicturePostuler();
+
+  // Marks the row as sent today with that CV and letter, and saves it.
+  void MarquerEnvoyee(TextView cv, TextView lettre);
+
+  // -- The choices of status and contract.
+  void ClicImage2();
+  void ClicStatut(std::size_t index);
+  void QuitterStatut();
+  void ClicImage1();
+  void ClicContrat(std::size_t index);
+  void QuitterNature();
+
+ private:
+  [[nodiscard]] Text Today() const;
+  [[nodiscard]] std::optional<std::int32_t> Key() const;
+  void EnregistrerLigne();
+  bool RefuseDate(TextView field, const Text& value);
+  void MontrerCadreWeb();
+  void ViderControles();
+  void DeleteOn(Database& database);
+
+  Principale& principale_;
+  const Clock& clock_;
+  Dialogs& dialogs_;
+  Shell& shell_;
+  Browser& browser_;
+  Database base_;  // the handle of the last operation
+  bool saving_ = false;
+};
+
+}  // namespace talvor

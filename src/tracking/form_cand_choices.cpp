@@ -1,0 +1,60 @@
+// `FormCand`: the choices of status and contract, with the dates and remarks that a status stamps.
+
+#include <algorithm>
+
+#include "tracking/contracts.h"
+#include "tracking/form_cand.h"
+#include "tracking/status_lists.h"
+
+namespace talvor {
+namespace {
+
+// Answers begin at this index and interviews at that one.
+constexpr std::size_t FirstAnswer = 3;
+constexpr std::size_t FirstInterview = 5;
+
+template <std::size_t N>
+void Toggle(ChoiceList& list, const std::array<TextView, N>& rows, TextView value) {
+  const auto row = std::find(rows.begin(), rows.end(), value);
+  list.selected.reset();
+  if (row != rows.end()) list.selected = static_cast<std::size_t>(row - rows.begin());
+  list.visible = !list.visible;
+}
+
+}  // namespace
+
+void FormCand::ClicImage2() {
+  Toggle(ListeStatutsChoice, ListeStatuts, Statut);
+  shell_.Focus(u"FormCand", u"Statut");
+}
+
+void FormCand::ClicStatut(std::size_t index) {
+  const TextView entry = ListeStatuts.at(index);
+  if (Statut == entry) return;
+  Statut = entry;
+  if (Statut != ListeStatuts.front() && DateEnvoi.empty()) DateEnvoi = Today();
+  // The first stamp goes into empty remarks only, the second behind whatever stands there.
+  if (index >= FirstAnswer && Remarques.empty()) Remarques = u"Réponse le " + Today() + Text{LineEnd};
+  if (index >= FirstInterview && DateRDV.empty()) {
+    DateRDV = Today();
+    Remarques.append(LineEnd).append(u"Prise de rendez-vous le ").append(Today()).append(LineEnd);
+  }
+  ListeStatutsChoice.visible = false;
+  if (!Num.empty()) Valider();
+}
+
+void FormCand::QuitterStatut() { ListeStatutsChoice.visible = false; }
+
+void FormCand::ClicImage1() {
+  Toggle(ListeContratsChoice, ListeContrats, Nature);
+  shell_.Focus(u"FormCand", u"Nature");
+}
+
+void FormCand::ClicContrat(std::size_t index) {
+  Nature = ListeContrats.at(index);
+  ListeContratsChoice.visible = false;
+}
+
+void FormCand::QuitterNature() { ListeContratsChoice.visible = false; }
+
+}  // namespace talvor

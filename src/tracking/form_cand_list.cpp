@@ -1,0 +1,80 @@
+// `FormCand`: the tree of the candidatures, its sort options, its clicks and the search panel.
+
+#include <algorithm>
+#include <limits>
+
+#include "base/fonctionnel.h"
+#include "tracking/form_cand.h"
+#include "tracking/form_cand_messages.h"
+
+namespace talvor {
+namespace {
+
+// A whole text of digits as a signed 16-bit number.
+std::optional<std::int16_t> ShortNumber(TextView text) {
+  const bool digits =
+      std::all_of(text.begin(), text.end(), [](char16_t c) { return c >= u'0' && c <= u'9'; });
+  const double value = ValeurNumerique(text);
+  if (!digits || value > std::numeric_limits<std::int16_t>::max()) return std::nullopt;
+  return static_cast<std::int16_t>(value);
+}
+
+}  // namespace
+
+void FormCand::InitListe() {
+  ListeVisible = false;
+  Liste = {};
+  try {
+    base_ = Database::Open(clock_);
+    if (TriChoisi) Liste = CandidatureTree::Build(base_, *TriChoisi).tree;
+  } catch (const StoreError&) {
+    // A base that cannot be opened leaves the tree empty, without a message.
+  }
+  if (!Liste.Empty())
+    principale_.ImageMenu[Principale::CandidatureSlot].picture = SlotPicture::ImageCandidature;
+  base_.Close();
+  ListeVisible = true;
+}
+
+void FormCand::ClicTri(Tri tri) {
+  TriChoisi = tri;
+  InitListe();
+}
+
+void FormCand::ClicNoeud(TextView key) {
+  const TextView behindFirst = key.substr(std::min<std::size_t>(1, key.size()));
+  // A company of one letter and a number passes as a leaf here, too.
+  if (ValeurNumerique(behindFirst) > 0) {
+    const auto num = ShortNumber(behindFirst);
+    if (!num) {
+      dialogs_.Tell(messages::OutOfReach);
+      return;
+    }
+    ChargerCandidature(*num);
+    CadreWebVisible = false;
+  }
+  const TreeNode* node = Liste.Find(key);
+  if (node == nullptr || node->childCount != 0 || !BoutonDroit) return;
+  MenuPostulerActif = DateEnvoi.empty();
+  if (OuvrirMenuItemCand) OuvrirMenuItemCand();
+}
+
+void FormCand::ToutSupprimer() {
+  if (!dialogs_.Confirm(messages::ConfirmDeleteAll)) return;
+  Database::Open(clock_).DeleteAllRows();
+  principale_.ImageMenu[Principale::CandidatureSlot].picture = SlotPicture::ImageNew;
+  InitListe();
+}
+
+void FormCand::MenuSupprimer() {
+  if (!dialogs_.Confirm(messages::ConfirmDeleteAllFromMenu)) return;
+  Database::Open(clock_).DeleteAllRows();
+  principale_.ImageMenu[Principale::CandidatureSlot].picture = SlotPicture::ImageNew;
+  Liste = {};
+}
+
+void FormCand::Rechercher(std::size_t index) {
+  if (index == 0 && !CadreWebVisible) MontrerCadreWeb();
+}
+
+}  // namespace talvor

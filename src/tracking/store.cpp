@@ -1,0 +1,334 @@
+#include "tracking/store.h"
+
+#include <SQLiteCpp/Backup.h>
+#include <sqlite3.h>
+
+#include <array>
+#include <limits>
+#include <optional>
+#include <string>
+#include <system_error>
+
+#include "tracking/sqlite_engine.h"
+#include "workspace/workspace_paths.h"
+
+namespace talvor {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int SchemaVersion = 1;
+
+// Text columns are never null: a save writes an empty text. Dates are days since 30 December 1899.
+constexpr const char* Schema = R"sql(
+  create table Candidatures (
+    Num            integer primary key autoincrement,
+    Intitule       text not null default '' collate SansCasse,
+    Description    text not null default '' collate SansCasse,
+    Nature         text not null default '' collate SansCasse,
+    Lieu           text not null default '' collate SansCasse,
+    Duree          text not null default '' collate SansCasse,
+    Salaire        text not null default '' collate SansCasse,
+    Societe        text not null default '' collate SansCasse,
+    NomContact     text not null default '' collate SansCasse,
+    Telephone      text not null default '' collate SansCasse,
+    courriel       text not null default '' collate SansCasse,
+    Origine        text not null default '' collate SansCasse,
+    Datediffussion integer,
+    DateLimite     integer,
+    DateRDV        integer,
+    DateEnvoi      integer,
+    www            text not null default '' collate SansCasse,
+    Reference      text not null default '' collate SansCasse,
+    Statut         text not null default '' collate SansCasse,
+    CV             text not null default '' collate SansCasse,
+    Lettre         text not null default '' collate SansCasse,
+    Remarques      text not null default '' collate SansCasse,
+    Adresse        text not null default '' collate SansCasse,
+    CP             text not null default '' collate SansCasse,
+    Ville          text not null default '' collate SansCasse
+  );
+  insert into sqlite_sequence (name, seq) values ('Candidatures', 0);
+)sql";
+
+constexpr const char* AllRows = "select * from Candidatures";
+constexpr const char* OneRow = "select * from Candidatures where num = ";
+constexpr const char* DeleteOneRow = "delete from candidatures where num = ";
+constexpr const char* DeleteEveryRow = "delete from candidatures ";
+constexpr const char* CountStatus = "select count(*) as toto from Candidatures where statut = ?";
+
+// In this order, so that an interview long past moves through the second and the third at one start.
+constexpr std::array<const char*, 3> Ageing{
+    "update candidatures set statut = 'EMISE - SANS REPONSE' where statut = 'EMISE - EN ATTENTE DE REPONSE' "
+    "and (DateEnvoi + 30) < date()",
+    "update candidatures set statut = 'ENTRETIEN EFFECTUE - ATTENTE REPONSE' where statut = 'ENTRETIEN A "
+    "EFFECTUER' and (Daterdv) < date()",
+    "update candidatures set statut = 'SANS REPONSE APRES ENTRETIEN' where statut = 'ENTRETIEN EFFECTUE - "
+    "ATTENTE REPONSE' and (Daterdv + 30) < date()",
+};
+
+const char* QueryOf(RowOrder order) {
+  switch (order) {
+    case RowOrder::Company:
+      return "select * from Candidatures order by Societe";
+    case RowOrder::Date:
+      return "select * from Candidatures order by datediffussion desc";
+    case RowOrder::Status:
+      return "select * from Candidatures order by Statut desc";
+    case RowOrder::Origin:
+      return "select * from Candidatures order by Origine";
+    case RowOrder::Unsorted:
+      break;
+  }
+  return AllRows;
+}
+
+constexpr std::size_t ColumnCount = CandidatureFields.size();
+
+std::string ColumnName(std::size_t c) { return ToUtf8(CandidatureFields[c].name); }
+
+class StatementRow : public RowView {
+ public:
+  explicit StatementRow(SQLite::Statement& statement) : statement_(statement) {
+    // The file may hold its columns in another order, or spell their names in another case.
+    for (int i = 0; i < statement.getColumnCount(); ++i) {
+      const auto name = FromUtf8(statement.getColumnName(i));
+      for (std::size_t c = 0; name && c < ColumnCount; ++c)
+        if (CompareIgnoringCase(*name, CandidatureFields[c].name) == 0) index_[c] = i;
+    }
+  }
+
+  Text Value(Column column) const override {
+    const auto value = statement_.getColumn(index_[static_cast<std::size_t>(column)]);
+    if (value.isNull()) return {};
+    if (IsDate(column)) return DateText(Day{value.getInt()});
+    const std::string_view bytes{value.getText(), static_cast<std::size_t>(value.getBytes())};
+    if (auto text = FromUtf8(bytes)) return std::move(*text);
+    // Bytes that another program left there: each stands for a character rather than being lost.
+    Text text;
+    for (const char byte : bytes) text += static_cast<char16_t>(static_cast<unsigned char>(byte));
+    return text;
+  }
+
+  Candidature All() const {
+    Candidature row;
+    for (std::size_t c = 0; c < ColumnCount; ++c)
+      row.*(CandidatureFields[c].text) = Value(static_cast<Column>(c));
+    return row;
+  }
+
+ private:
+  SQLite::Statement& statement_;
+  std::array<int, ColumnCount> index_{};
+};
+
+// "Intitule = :Intitule, ..." or the lists of an insert, for every column from `first` on.
+std::string ForEachColumn(std::size_t first, const std::function<std::string(const std::string&)>& piece) {
+  std::string list;
+  for (std::size_t c = first; c < ColumnCount; ++c) list += (list.empty() ? "" : ", ") + piece(ColumnName(c));
+  return list;
+}
+
+std::string InsertStatement() {
+  return "insert into Candidatures (" + ForEachColumn(0, [](const auto& name) { return name; }) +
+         ") values (" + ForEachColumn(0, [](const auto& name) { return ":" + name; }) + ")";
+}
+
+std::string UpdateStatement() {
+  return "update Candidatures set " +
+         ForEachColumn(1, [](const auto& name) { return name + " = :" + name; }) + " where Num = :Num";
+}
+
+void BindColumn(SQLite::Statement& statement, const fs::path& file, std::size_t c, const Text& value) {
+  const std::string parameter = ":" + ColumnName(c);
+  if (!IsDate(static_cast<Column>(c))) {
+    statement.bind(parameter, ToUtf8(value));
+  } else if (value.empty()) {
+    statement.bind(parameter);  // null
+  } else if (const auto day = ParseDate(value)) {
+    statement.bind(parameter, day->serial);
+  } else {
+    throw StoreError(file.string() + " : la date « " + ToUtf8(value) + " » de la colonne " + ColumnName(c) +
+                     " est refusée.");
+  }
+}
+
+StoreError NoSuchRow(const fs::path& file, std::int32_t num) {
+  return StoreError(file.string() + " : la candidature n° " + std::to_string(num) + " n’existe plus.");
+}
+
+}  // namespace
+
+class Database::Engine {
+ public:
+  Engine(fs::path path, const Clock& clock) : file(std::move(path)), connection(OpenConnection(file)) {
+    Reporting(file, [&] {
+      PrepareConnection(connection, clock);
+      CheckVersion();
+    });
+  }
+
+  SQLite::Statement Row(std::int32_t num) {
+    SQLite::Statement row(connection, OneRow + std::to_string(num));
+    if (!row.executeStep()) throw NoSuchRow(file, num);
+    return row;
+  }
+
+  const fs::path file;
+  SQLite::Database connection;
+
+ private:
+  static SQLite::Database OpenConnection(const fs::path& file) {
+    std::error_code error;
+    if (!fs::exists(file, error)) throw StoreError(file.string() + " : la base est introuvable.");
+    return Reporting(file, [&] { return SQLite::Database(file.string(), SQLite::OPEN_READWRITE); });
+  }
+
+  void CheckVersion() {
+    const int version = connection.execAndGet("PRAGMA user_version").getInt();
+    if (version > SchemaVersion)
+      throw StoreError(file.string() + " : la base a été écrite par une version plus récente de Talvor.");
+    if (version < SchemaVersion || !connection.tableExists("Candidatures"))
+      throw StoreError(file.string() + " : ce fichier n’est pas une base de candidatures.");
+  }
+};
+
+Database::Database() = default;
+Database::~Database() = default;
+Database::Database(Database&&) noexcept = default;
+Database& Database::operator=(Database&&) noexcept = default;
+
+Database Database::Open(const Clock& clock) {
+  Database database;
+  database.engine_ = std::make_unique<Engine>(workspace_paths::Database(), clock);
+  return database;
+}
+
+void Database::Create(const fs::path& file) {
+  std::error_code error;
+  if (fs::exists(file, error)) return;
+  // Built beside its place and moved there whole.
+  const fs::path draft = file.string() + ".nouveau";
+  fs::remove(draft, error);
+  Reporting(file, [&] {
+    SQLite::Database connection(draft.string(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+    RegisterCollation(connection);
+    connection.exec(std::string{Schema} + "PRAGMA user_version = " + std::to_string(SchemaVersion));
+  });
+  fs::rename(draft, file, error);
+  if (error) throw StoreError(file.string() + " : la base ne peut pas être créée.");
+}
+
+bool Database::IsOpen() const noexcept { return engine_ != nullptr; }
+void Database::Close() noexcept { engine_.reset(); }
+
+Database::Engine& Database::Opened() {
+  if (!engine_) throw StoreError(workspace_paths::Database().string() + " : la base est déjà fermée.");
+  return *engine_;
+}
+
+std::int64_t Database::CountRows() {
+  Engine& engine = Opened();
+  return Reporting(engine.file, [&] {
+    return engine.connection.execAndGet("select count(*) from Candidatures").getInt64();
+  });
+}
+
+std::int64_t Database::CountByStatus(TextView status) {
+  Engine& engine = Opened();
+  return Reporting(engine.file, [&] {
+    SQLite::Statement count(engine.connection, CountStatus);
+    count.bind(1, ToUtf8(status));
+    count.executeStep();
+    return count.getColumn(0).getInt64();
+  });
+}
+
+void Database::WalkRows(RowOrder order, const std::function<void(const RowView&)>& visit) {
+  Engine& engine = Opened();
+  Reporting(engine.file, [&] {
+    SQLite::Statement rows(engine.connection, QueryOf(order));
+    const StatementRow row(rows);
+    while (rows.executeStep()) visit(row);
+  });
+}
+
+Candidature Database::ReadRow(std::int32_t num) {
+  Engine& engine = Opened();
+  return Reporting(engine.file, [&] {
+    SQLite::Statement row = engine.Row(num);
+    return StatementRow(row).All();
+  });
+}
+
+PendingRow Database::BeginRow() {
+  Engine& engine = Opened();
+  const auto next = Reporting(engine.file, [&] {
+    SQLite::Transaction transaction(engine.connection, SQLite::TransactionBehavior::IMMEDIATE);
+    engine.connection.exec("update sqlite_sequence set seq = seq + 1 where name = 'Candidatures'");
+    const auto number =
+        engine.connection.execAndGet("select seq from sqlite_sequence where name = 'Candidatures'")
+            .getInt64();
+    transaction.commit();
+    return number;
+  });
+  if (next > std::numeric_limits<std::int32_t>::max())
+    throw StoreError(engine.file.string() + " : tous les numéros de candidature sont pris.");
+  return {static_cast<std::int32_t>(next), true};
+}
+
+PendingRow Database::EditRow(std::int32_t num) {
+  Engine& engine = Opened();
+  return Reporting(engine.file, [&] {
+    static_cast<void>(engine.Row(num));  // only that it is there
+    return PendingRow{num, false};
+  });
+}
+
+void Database::Save(const PendingRow& row, const Candidature& values) {
+  Engine& engine = Opened();
+  Reporting(engine.file, [&] {
+    SQLite::Statement save(engine.connection, row.isNew ? InsertStatement() : UpdateStatement());
+    save.bind(":Num", row.num);
+    for (std::size_t c = 1; c < ColumnCount; ++c)
+      BindColumn(save, engine.file, c, values.*(CandidatureFields[c].text));
+    if (save.exec() != 1) throw NoSuchRow(engine.file, row.num);
+  });
+}
+
+void Database::DeleteRow(std::int32_t num) {
+  Engine& engine = Opened();
+  Reporting(engine.file, [&] { engine.connection.exec(DeleteOneRow + std::to_string(num)); });
+}
+
+void Database::DeleteAllRows() {
+  Engine& engine = Opened();
+  Reporting(engine.file, [&] { engine.connection.exec(DeleteEveryRow); });
+}
+
+void Database::AgeStatuses() {
+  Engine& engine = Opened();
+  Reporting(engine.file, [&] {
+    SQLite::Transaction transaction(engine.connection, SQLite::TransactionBehavior::IMMEDIATE);
+    for (const char* statement : Ageing) engine.connection.exec(statement);
+    transaction.commit();
+  });
+}
+
+void Database::BackUp(const fs::path& file) {
+  Engine& engine = Opened();
+  const fs::path draft = file.string() + ".nouveau";
+  std::error_code error;
+  fs::remove(draft, error);
+  Reporting(file, [&] {
+    SQLite::Database copy(draft.string(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+    SQLite::Backup backup(copy, engine.connection);
+    constexpr int AllPages = -1;
+    const int outcome = backup.executeStep(AllPages);
+    if (outcome != SQLITE_DONE) throw SQLite::Exception("copie inachevée", outcome);
+  });
+  fs::rename(draft, file, error);
+  if (error) throw StoreError(file.string() + " : la copie de la base ne peut pas être écrite.");
+}
+
+}  // namespace talvor
