@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstddef>
+#include <type_traits>
 
 #include "base/text.h"
 
@@ -27,8 +28,8 @@ template <class Record, std::size_t N>
 
 // Copies every field of `from` into the field of the same name of `to`, where there is one.
 template <class From, std::size_t N, class To, std::size_t M>
-void CopyFieldsByName(const FieldTable<From, N>& fromTable, const From& from,
-                      const FieldTable<To, M>& toTable, To& to) {
+void CopyFieldsByName(const FieldTable<From, N>& fromTable, const std::type_identity_t<From>& from,
+                      const FieldTable<To, M>& toTable, std::type_identity_t<To>& to) {
   for (const auto& field : fromTable)
     if (const auto* target = FindField(toTable, field.name)) to.*(target->text) = from.*(field.text);
 }

@@ -1,0 +1,72 @@
+// The company behind its label, and the company that a sentence or a group's name gives away.
+
+#include <algorithm>
+#include <array>
+
+#include "ads/phrase_reader.h"
+#include "ads/rules.h"
+
+namespace talvor::ads {
+namespace {
+
+// A text that holds one of these is a sentence of the advertisement and not a name. The blanks count;
+// the two without blanks also match inside a longer word.
+constexpr std::array<TextView, 10> CompanyFilter{u" DU ",  u"CLIENT", u"CONTACT", u" LE ",  u" VOTRE ",
+                                                 u" VOS ", u" UNE ",  u" LES ",   u" DES ", u" L "};
+
+bool IsTrigger(const Words& words, Index I) {
+  const TextView word = words(I);
+  const bool label =
+      word == u"SOCIETE" || word == u"ENTREPRISE" || (word == u"A" && words(I - 1) == u"CANDIDATURE");
+  return label && !Contains(words(I + 1), u"/");  // no date behind the label
+}
+
+// Reads the company behind word I. A phrase that has become a sentence is not read on: nothing of it
+// stays, but that its line must end.
+void ReadCompany(Run& run, Index I) {
+  Text& company = run.record.Societe;
+  for (Index K = CompanyReader.firstK;; ++K) {
+    const TextView word = run.words(I + K);
+    const Step step = ReadWord(CompanyReader, run.words, I, K, word, company);
+    if (step == Step::Stopped) return;
+    const TextView tail =
+        TextView{company}.substr(company.size() - std::min(company.size(), word.size() + 2));
+    if (step == Step::Took && IsCompanySentence(tail) && I + K < run.words.LastLineMark()) {
+      company.clear();
+      run.companySentenceAt = I + K;
+      return;
+    }
+  }
+}
+
+}  // namespace
+
+bool IsCompanySentence(TextView text) {
+  return std::any_of(CompanyFilter.begin(), CompanyFilter.end(),
+                     [&](TextView term) { return Contains(text, term); });
+}
+
+void CompanyRule(Run& run, Index I) {
+  // A trigger inside a sentence that an earlier one has read reads the rest of that sentence.
+  if (!run.record.Societe.empty() || !IsTrigger(run.words, I) || I + 1 < run.companySentenceAt) return;
+  ReadCompany(run, I);
+}
+
+void FindCompanyInWords(Run& run) {
+  Text& company = run.record.Societe;
+  const Words& words = run.words;
+  if (!company.empty() && company != u"N.C.") return;
+  // The last hit stands.
+  for (Index I = 1; I < words.U(); ++I) {
+    // A sentence «X est …» names its subject, but «n'est» does not.
+    if (words(I) == u"EST" && words(I - 1) != u"N") company = words(I - 1);
+    if (words(I) == u"GROUPE") {
+      const TextView second = words(I + 1);
+      const TextView third = words(I + 2);
+      company = u"GROUPE ";
+      company.append(second).append(u" ").append(third);
+    }
+  }
+}
+
+}  // namespace talvor::ads

@@ -1,0 +1,51 @@
+// The telephone: behind its label, or five numbers in a row without any.
+
+#include "ads/phrase_reader.h"
+#include "ads/rules.h"
+#include "base/fonctionnel.h"
+
+namespace talvor::ads {
+namespace {
+
+// True once the reading is known to have no value: its first character that is not a zero is no digit.
+bool HasNoValue(TextView reading) {
+  const auto decisive = reading.find_first_not_of(u"0 ");
+  return decisive != TextView::npos && (reading[decisive] < u'1' || reading[decisive] > u'9');
+}
+
+void ReadBehindLabel(Run& run, Index I) {
+  Text& telephone = run.record.Telephone;
+  for (Index K = TelephoneReader.firstK;; ++K) {
+    if (ReadWord(TelephoneReader, run.words, I, K, run.words(I + K), telephone) == Step::Stopped) return;
+    if (HasNoValue(telephone)) return;  // the check throws it away, however it goes on
+  }
+}
+
+// The five words that end at I, when each has a value: a French number written in pairs.
+bool AreFiveNumbers(const Words& words, Index I) {
+  constexpr Index EarliestEnd = 7;
+  if (I < EarliestEnd) return false;
+  for (Index back = 0; back < 5; ++back)
+    if (!(ValeurNumerique(words(I - back)) > 0)) return false;
+  return true;
+}
+
+Text FiveWords(const Words& words, Index I) {
+  Text number{words(I - 4)};
+  for (Index back = 3; back >= 0; --back) number.append(u" ").append(words(I - back));
+  return number;
+}
+
+}  // namespace
+
+void TelephoneRules(Run& run, Index I) {
+  Text& telephone = run.record.Telephone;
+  if (!telephone.empty()) return;
+  const TextView word = run.words(I);
+  if (word == u"PH" || word == u"TEL" || word == u"TELEPHONE") ReadBehindLabel(run, I);
+  if (AreFiveNumbers(run.words, I)) telephone = FiveWords(run.words, I);
+  // A reading that begins with a word is thrown away, and the rules stay open.
+  if (!telephone.empty() && ValeurNumerique(Normaliser(telephone)) == 0) telephone.clear();
+}
+
+}  // namespace talvor::ads

@@ -1,0 +1,25 @@
+#include "app/installation.h"
+
+#include "tracking/store.h"
+
+namespace talvor {
+namespace {
+
+namespace fs = std::filesystem;
+
+void CopyMissing(const fs::path& from, const fs::path& to) {
+  if (!fs::exists(from)) return;
+  fs::copy(from, to, fs::copy_options::recursive | fs::copy_options::skip_existing);
+}
+
+}  // namespace
+
+void InstallerDossier(const fs::path& folder, const fs::path& delivered) {
+  for (const char* name : {"CV", "Lettres", "Cand", "Modeles", "Visualisation", "Sauvegardes"})
+    fs::create_directories(folder / name);
+  for (const char* name : {"Modeles", "propositions.txt", "Listesites.txt", "listesites.htm", "DocWord.doc"})
+    CopyMissing(delivered / name, folder / name);
+  Database::Create(folder / "Talvor.mdb");
+}
+
+}  // namespace talvor

@@ -1,0 +1,159 @@
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <filesystem>
+
+#include "cli/commands.h"
+#include "tracking/store.h"
+
+namespace talvor::cli {
+namespace {
+
+// The words of the help that are not the commands' own.
+void SpeakFrench(CLI::App& app) {
+  app.set_help_flag("-h,--help", "Affiche cette aide");
+  auto formatter = std::make_shared<CLI::Formatter>();
+  formatter->column_width(36);
+  for (const auto& [key, word] :
+       std::initializer_list<std::pair<const char*, const char*>>{{"Usage", "Emploi "},
+                                                                  {"OPTIONS", "OPTIONS"},
+                                                                  {"SUBCOMMAND", "COMMANDE"},
+                                                                  {"SUBCOMMANDS", "COMMANDE"},
+                                                                  {"Options", "Options "},
+                                                                  {"Positionals", "Arguments "},
+                                                                  {"Subcommands", "Commandes "},
+                                                                  {"REQUIRED", "(obligatoire)"},
+                                                                  {"TEXT", "TEXTE"},
+                                                                  {"INT", "NOMBRE"}})
+    formatter->label(key, word);
+  app.formatter(formatter);
+}
+
+// What the parser refuses, in French; its own words are English.
+std::string Refusal(const CLI::App& app, const CLI::ParseError& error) {
+  if (dynamic_cast<const CLI::ExtrasError*>(&error) != nullptr) {
+    std::string words;
+    for (const auto& word : app.remaining(true)) words += " " + word;
+    return "argument inattendu :" + words;
+  }
+  if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr)
+    return "il manque une commande ou un argument";
+  if (dynamic_cast<const CLI::ConversionError*>(&error) != nullptr) return "un nombre est attendu";
+  if (dynamic_cast<const CLI::ExcludesError*>(&error) != nullptr) return "ces options ne vont pas ensemble";
+  if (dynamic_cast<const CLI::ValidationError*>(&error) != nullptr) return "une valeur n’est pas admise";
+  return "les arguments sont incorrects";
+}
+
+// The commands as the parser knows them; each one sets what is to run.
+class CommandLine {
+ public:
+  explicit CommandLine(Console& console) : console_(console) {
+    SpeakFrench(app_);
+    app_.name("talvorctl");
+    app_.require_subcommand(1);
+    app_.add_option("--espace", workspace_, "Dossier de données (par défaut, le dossier habituel)")
+        ->type_name("DOSSIER");
+    AddPreparer();
+    AddAnalyser();
+    AddCapturer();
+    AddCandidatures();
+    AddCandidature();
+  }
+
+  ExitCode Run(std::vector<std::string> arguments) {
+    std::reverse(arguments.begin(), arguments.end());  // as the parser takes them
+    try {
+      app_.parse(arguments);
+    } catch (const CLI::CallForHelp&) {
+      const auto chosen = app_.get_subcommands();
+      console_.out << (chosen.empty() ? app_ : *chosen.front()).help();
+      return Done;
+    } catch (const CLI::ParseError& error) {
+      console_.err << "talvorctl : " << Refusal(app_, error) << " (voir « talvorctl --help »)\n";
+      return WrongUsage;
+    }
+    return command_();
+  }
+
+ private:
+  CLI::App* Add(const char* name, const char* description, std::function<ExitCode()> command) {
+    CLI::App* sub = app_.add_subcommand(name, description);
+    sub->callback([this, command = std::move(command)] { command_ = command; });
+    return sub;
+  }
+
+  void AddPreparer() {
+    Add("preparer", "Met en place le dossier de données, sans rien écraser",
+        [this] { return Preparer(workspace_, console_); });
+  }
+
+  void AddAnalyser() {
+    CLI::App* sub = Add("analyser", "Analyse une annonce et en donne les champs en JSON",
+                        [this] { return batch_ ? AnalyserLot(console_) : Analyser(analyse_, console_); });
+    CLI::Option* batch =
+        sub->add_flag("--lot", batch_, "Lit des enregistrements JSON, un par ligne, sur l’entrée standard");
+    const auto add = [&](CLI::Option* option, const char* type) { option->type_name(type)->excludes(batch); };
+    add(sub->add_option("fichier", analyse_.file, "Texte UTF-8 de l’annonce, « - » pour l’entrée standard"),
+        "FICHIER");
+    add(sub->add_option("--adresse", analyse_.address, "Adresse de la page"), "URL");
+    add(sub->add_option("--date", analyse_.date, "Date du jour"), "JJ/MM/AAAA");
+    add(sub->add_option("--initial", analyse_.initial, "Champs déjà remplis"), "F.json");
+    add(sub->add_flag("--decoller", analyse_.unglue, "Sépare les mots collés d’une page"), "");
+    add(sub->add_flag("--brut", analyse_.raw, "Laisse les fins de ligne telles quelles"), "");
+  }
+
+  void AddCapturer() {
+    CLI::App* sub = Add("capturer", "Analyse une annonce, l’enregistre et donne son numéro",
+                        [this] { return Capturer(workspace_, capture_, console_); });
+    sub->add_option("fichier", capture_.file, "Texte UTF-8 de l’annonce, « - » pour l’entrée standard")
+        ->type_name("FICHIER")
+        ->required();
+    sub->add_option("--adresse", capture_.address, "Adresse de la page")->type_name("URL");
+  }
+
+  void AddCandidatures() {
+    CLI::App* sub = Add("candidatures", "Liste les candidatures par groupe",
+                        [this] { return Candidatures(workspace_, tri_, json_, console_); });
+    sub->add_option("--tri", tri_, "societes, dates, statuts ou origine")
+        ->type_name("TRI")
+        ->check(CLI::IsMember({"societes", "dates", "statuts", "origine"}));
+    sub->add_flag("--json", json_, "En JSON");
+  }
+
+  void AddCandidature() {
+    CLI::App* sub = Add("candidature", "Montre une candidature",
+                        [this] { return UneCandidature(workspace_, num_, json_, console_); });
+    sub->add_option("num", num_, "Numéro de la candidature")->type_name("NUM")->required();
+    sub->add_flag("--json", json_, "En JSON");
+  }
+
+  Console& console_;
+  CLI::App app_{"Talvor en ligne de commande : annonces, candidatures et dossier de données."};
+  std::function<ExitCode()> command_;
+
+  std::string workspace_;
+  AnalyseOptions analyse_;
+  bool batch_ = false;
+  CaptureOptions capture_;
+  std::string tri_ = "statuts";
+  bool json_ = false;
+  std::int32_t num_ = 0;
+};
+
+}  // namespace
+
+ExitCode RunCommandLine(std::vector<std::string> arguments, Console& console) {
+  try {
+    return CommandLine(console).Run(std::move(arguments));
+  } catch (const CommandError& error) {
+    console.err << "talvorctl : " << error.what() << '\n';
+  } catch (const StoreError& error) {
+    console.err << "talvorctl : " << error.what() << '\n';
+  } catch (const std::filesystem::filesystem_error& error) {
+    console.err << "talvorctl : « " << error.path1().string() << " » : " << error.code().message() << '\n';
+  } catch (const std::bad_alloc&) {
+    console.err << "talvorctl : la mémoire est insuffisante\n";
+  }
+  return Refused;
+}
+
+}  // namespace talvor::cli

@@ -1,0 +1,50 @@
+// The commands, one function each. They throw CommandError, StoreError or filesystem_error for what is
+// refused or fails, and otherwise return the exit code.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "cli/console.h"
+
+namespace talvor::cli {
+
+struct AnalyseOptions {
+  std::string file = "-";
+  std::optional<std::string> address;
+  std::optional<std::string> date;
+  std::optional<std::string> initial;
+  bool unglue = false;
+  bool raw = false;
+};
+
+// The fields of one advertisement as a JSON object.
+ExitCode Analyser(const AnalyseOptions& options, Console& console);
+
+// JSON Lines on standard input, a record a line on standard output. A line that is no record gives an
+// object with the key "erreur", and the command ends with a refusal once all lines are read.
+ExitCode AnalyserLot(Console& console);
+
+// The data folder given by --espace, empty for the usual one.
+ExitCode Preparer(const std::string& workspace, Console& console);
+
+struct CaptureOptions {
+  std::string file = "-";
+  std::optional<std::string> address;
+};
+
+// Analyses an advertisement, saves it and prints its number.
+ExitCode Capturer(const std::string& workspace, const CaptureOptions& options, Console& console);
+
+// The list, grouped by `tri` (societes, dates, statuts, origine).
+ExitCode Candidatures(const std::string& workspace, const std::string& tri, bool json, Console& console);
+
+// One candidature by its number.
+ExitCode UneCandidature(const std::string& workspace, std::int32_t num, bool json, Console& console);
+
+// Runs the tool on its arguments (without the program's name).
+[[nodiscard]] ExitCode RunCommandLine(std::vector<std::string> arguments, Console& console);
+
+}  // namespace talvor::cli

@@ -1,0 +1,32 @@
+#include "cli/workspace.h"
+
+#include <filesystem>
+
+#include "app/start_up.h"
+
+namespace talvor::cli {
+namespace {
+
+namespace fs = std::filesystem;
+
+// A folder that the user names is the data folder, and no other one stands in for it.
+void MoveTo(const std::string& folder) {
+  std::error_code error;
+  if (fs::exists(fs::path{folder} / "Talvor.mdb", error)) fs::current_path(folder, error);
+  if (error || !fs::exists(workspace_paths::Database()) || !fs::equivalent(folder, ".", error))
+    throw CommandError("La base n'est pas accessible dans « " + folder + " » (voir « talvorctl preparer »)");
+}
+
+}  // namespace
+
+Workspace::Workspace(const std::string& folder, Text address, Console& console)
+    : dialogs(console.err), browser(std::move(address)) {
+  if (folder.empty())
+    PreparerDossier(environment);
+  else
+    MoveTo(folder);
+  if (ChargerPrincipale(principale, environment, clock, dialogs) == StartOutcome::NoDatabase)
+    throw CommandError("il n’y a pas de dossier de données (voir « talvorctl preparer »)");
+}
+
+}  // namespace talvor::cli
