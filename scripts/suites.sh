@@ -8,15 +8,20 @@ count() {
   [ "$2" -eq 0 ]
 }
 
-# sources PATTERN ...: tracked files, one a line; all files where the repository came without its history.
+# sources PATTERN ...: the files that git keeps or would keep, one a line; all files where the repository came without its history.
 sources() {
   local git=(git -c safe.directory="$root")
   if command -v git >/dev/null && "${git[@]}" rev-parse --git-dir >/dev/null 2>&1; then
-    "${git[@]}" ls-files -- "$@"
+    "${git[@]}" ls-files --cached --others --exclude-standard -- "$@" | existing
   else
     find . -path ./build -prune -o -path ./.git -prune -o -type f -print | sed 's|^\./||' |
       grep -E "$(patterns_as_expression "$@")"
   fi
+}
+
+existing() {
+  local file
+  while IFS= read -r file; do [ ! -f "$file" ] || say "$file"; done
 }
 
 # patterns_as_expression '*.cpp' ...: the same patterns as one extended regular expression.
@@ -62,7 +67,7 @@ count_tests() {
   tests=$(total "$report" tests)
   failures=$(total "$report" failures)
   left_out=$(($(total "$report" skipped) + $(total "$report" disabled)))
-  say "   $((tests - failures - left_out)) tests réussis, $failures en échec, $left_out passés"
+  say "   $((tests - failures - left_out)) tests réussis, $failures en échec, $left_out sautés"
   [ "$tests" -gt "$left_out" ] || give_up "Aucun test n’a été exécuté."
   advice='Corrigez les tests en échec (voir ci-dessus), puis relancez ./check.'
   count $((tests - failures - left_out)) "$failures"
