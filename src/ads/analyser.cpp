@@ -13,6 +13,8 @@ constexpr TextView GenderMark = u"H/F";
 // A cut nearer to the start than this would cut into the advertisement itself. 1-based.
 constexpr std::size_t FirstCutPosition = 100;
 
+bool BeginsWithDigit(TextView word) { return !word.empty() && word.front() >= u'0' && word.front() <= u'9'; }
+
 // What lies far before the gender mark of the title is page furniture: the text begins at the line end
 // or the colon in front of it, or at position 10 when there is none.
 void CutStart(Text& texte) {
@@ -33,19 +35,18 @@ void CutEnd(Text& texte, TextView termFin) {
   }
 }
 
+// On each word the title, then what a number may be, then what a keyword asks for. A rule looks at the
+// record as those before it have left it.
 void Walk(Run& run) {
   for (Index I = 1; I < run.words.U(); ++I) {
     run.words.CutAtSlash(I);
     TitleRule(run, I);
-    CompanyRule(run, I);
-    PlaceRule(run, I);
-    SalaryRule(run, I);
-    DateRule(run, I);
-    ContactRule(run, I);
-    TelephoneRules(run, I);
-    DurationRule(run, I);
-    ReferenceRule(run, I);
-    PostalCodeRule(run, I);
+    if (BeginsWithDigit(run.words(I))) {
+      DateRule(run, I);
+      FiveNumbersRule(run, I);
+      PostalCodeRule(run, I);
+    }
+    FireTrigger(run, I);
   }
 }
 
@@ -53,7 +54,7 @@ void Walk(Run& run) {
 void CutDescription(AdFields& record) {
   constexpr std::size_t LastKept = 10;  // 1-based
   if (Contains(record.Description, GenderMark)) return;
-  const std::size_t p = Find(SansAccents(record.Description), SansAccents(record.Intitule));
+  const std::size_t p = FindSansAccents(record.Description, record.Intitule);
   if (p != Text::npos && p + 1 > LastKept) record.Description.erase(0, p);
 }
 
@@ -63,10 +64,14 @@ void RunStages(Text& texte, AdFields& record, const AdContext& context) {
   record.Description = ReplaceAll(texte, u"\r\n\r\n", LineEnd);
   FindEmail(texte, record);
   // A dash parts a title from what follows it, as a line end does.
-  texte = Normaliser(ReplaceAll(texte, u" - ", LineEnd));
+  if (Contains(texte, u" - ")) texte = ReplaceAll(texte, u" - ", LineEnd);
+  texte = Normaliser(texte);
   FindContract(texte, record);
 
-  Run run{record, context, Words{texte}, {}, {}, 0};
+  Run run{.record = record,
+          .context = context,
+          .words = Words{texte},
+          .thisYear = CivilDateOf(context.today).year};
   try {
     Walk(run);
   } catch (const AnalysisFailure&) {

@@ -14,13 +14,6 @@ namespace {
 constexpr std::array<TextView, 10> CompanyFilter{u" DU ",  u"CLIENT", u"CONTACT", u" LE ",  u" VOTRE ",
                                                  u" VOS ", u" UNE ",  u" LES ",   u" DES ", u" L "};
 
-bool IsTrigger(const Words& words, Index I) {
-  const TextView word = words(I);
-  const bool label =
-      word == u"SOCIETE" || word == u"ENTREPRISE" || (word == u"A" && words(I - 1) == u"CANDIDATURE");
-  return label && !Contains(words(I + 1), u"/");  // no date behind the label
-}
-
 // Reads the company behind word I. A phrase that has become a sentence is not read on: nothing of it
 // stays, but that its line must end.
 void ReadCompany(Run& run, Index I) {
@@ -47,9 +40,10 @@ bool IsCompanySentence(TextView text) {
 }
 
 void CompanyRule(Run& run, Index I) {
-  // A trigger inside a sentence that an earlier one has read reads the rest of that sentence.
-  if (!run.record.Societe.empty() || !IsTrigger(run.words, I) || I + 1 < run.companySentenceAt) return;
-  ReadCompany(run, I);
+  const bool dateBehind = Contains(run.words(I + 1), u"/");
+  // A label inside a sentence that an earlier one has read would read the rest of that sentence.
+  const bool insideSentence = I + 1 < run.companySentenceAt;
+  if (run.record.Societe.empty() && !dateBehind && !insideSentence) ReadCompany(run, I);
 }
 
 void FindCompanyInWords(Run& run) {

@@ -10,8 +10,6 @@
 namespace talvor::ads {
 namespace {
 
-constexpr std::array<TextView, 7> Titles{u"CONTACT", u"MR", u"MONSIEUR", u"MLE", u"M", u"MME", u"MLLE"};
-
 // A text that holds one of these is a sentence and not a name.
 constexpr std::array<TextView, 7> ContactFilter{u"CLIENT", u" DU ",   u" D ", u" UNE ",
                                                 u" LES ",  u" POUR ", u" DE "};
@@ -19,10 +17,8 @@ constexpr std::array<TextView, 7> ContactFilter{u"CLIENT", u" DU ",   u" D ", u"
 }  // namespace
 
 void ContactRule(Run& run, Index I) {
-  const TextView word = run.words(I);
-  const bool title = std::find(Titles.begin(), Titles.end(), word) != Titles.end();
   // There is no guard on the field: the last trigger decides, even when it leaves the field empty.
-  if (title || (word == u"A" && run.words(I - 1) == u"TRANSMISE")) run.contactAt = I;
+  run.contactAt = I;
 }
 
 void ReadContact(const Run& run, Index I) {

@@ -66,10 +66,7 @@ void TidyAddress(Text& address) {
 }  // namespace
 
 void PlaceRule(Run& run, Index I) {
-  if (!run.record.Lieu.empty()) return;
-  const TextView word = run.words(I);
-  if (word == u"LIEU" || word == u"LOCALISATION" || (word == u"A" && run.words(I - 1) == u"BASE"))
-    ReadPhrase(PlaceReader, run.words, I, run.record);
+  if (run.record.Lieu.empty()) ReadPhrase(PlaceReader, run.words, I, run.record);
 }
 
 void PostalCodeRule(Run& run, Index I) {

@@ -15,6 +15,7 @@ struct Run {
   AdFields& record;
   const AdContext& context;
   Words words;
+  int thisYear;
 
   // The last trigger decides what the contact and the reference are, and nothing reads them before the
   // walk is over; so the triggers are noted here and read once, by FinishPendingReadings.
@@ -33,17 +34,25 @@ struct Run {
 void FindEmail(TextView texte, AdFields& record);
 void FindContract(TextView normalForm, AdFields& record);
 
-// The rules of the walk, in the order in which they run on word I.
+// The rules of the walk on word I. A title begins at any job word.
 void TitleRule(Run& run, Index I);
+
+// Rules of words that begin with a digit.
+void DateRule(Run& run, Index I);
+void FiveNumbersRule(Run& run, Index I);
+void PostalCodeRule(Run& run, Index I);
+
+// Rules of keywords; the table of triggers says which word fires which one.
 void CompanyRule(Run& run, Index I);
 void PlaceRule(Run& run, Index I);
 void SalaryRule(Run& run, Index I);
-void DateRule(Run& run, Index I);
 void ContactRule(Run& run, Index I);
-void TelephoneRules(Run& run, Index I);
+void TelephoneRule(Run& run, Index I);
 void DurationRule(Run& run, Index I);
 void ReferenceRule(Run& run, Index I);
-void PostalCodeRule(Run& run, Index I);
+
+// Runs the rule that word I fires, if any.
+void FireTrigger(Run& run, Index I);
 
 // Reads what the last triggers of the contact and the reference have left to read. Never fails.
 void FinishPendingReadings(Run& run);

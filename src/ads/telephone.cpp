@@ -38,14 +38,17 @@ Text FiveWords(const Words& words, Index I) {
 
 }  // namespace
 
-void TelephoneRules(Run& run, Index I) {
+void TelephoneRule(Run& run, Index I) {
   Text& telephone = run.record.Telephone;
   if (!telephone.empty()) return;
-  const TextView word = run.words(I);
-  if (word == u"PH" || word == u"TEL" || word == u"TELEPHONE") ReadBehindLabel(run, I);
-  if (AreFiveNumbers(run.words, I)) telephone = FiveWords(run.words, I);
+  ReadBehindLabel(run, I);
   // A reading that begins with a word is thrown away, and the rules stay open.
-  if (!telephone.empty() && ValeurNumerique(Normaliser(telephone)) == 0) telephone.clear();
+  if (ValeurNumerique(Normaliser(telephone)) == 0) telephone.clear();
+}
+
+void FiveNumbersRule(Run& run, Index I) {
+  if (run.record.Telephone.empty() && AreFiveNumbers(run.words, I))
+    run.record.Telephone = FiveWords(run.words, I);
 }
 
 }  // namespace talvor::ads

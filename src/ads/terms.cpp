@@ -1,5 +1,7 @@
 // The terms of the post: salary, duration, date of publication and reference.
 
+#include <algorithm>
+
 #include "ads/phrase_reader.h"
 #include "ads/rules.h"
 #include "base/fonctionnel.h"
@@ -12,24 +14,14 @@ namespace {
 constexpr std::size_t WholeReference = 8;
 constexpr std::size_t LeastReference = 3;
 
-bool IsReferenceTrigger(const Words& words, Index I) {
-  const TextView word = words(I);
-  // By its ending, so that «PREFERENCE» counts as well.
-  return word.ends_with(u"REFERENCE") || (word == u"OFFRE" && words(I - 1) == u"D") || word == u"REF";
-}
-
 }  // namespace
 
 void SalaryRule(Run& run, Index I) {
-  if (!run.record.Salaire.empty()) return;
-  const TextView word = run.words(I);
-  if (word == u"SALAIRE" || word == u"SALARY" || word == u"REMUNERATION" || word == u"TAUX")
-    ReadPhrase(SalaryReader, run.words, I, run.record);
+  if (run.record.Salaire.empty()) ReadPhrase(SalaryReader, run.words, I, run.record);
 }
 
 void DurationRule(Run& run, Index I) {
-  if (run.record.Duree.empty() && run.words(I) == u"ENVISAGEE" && run.words(I - 1) == u"DUREE")
-    ReadPhrase(DurationReader, run.words, I, run.record);
+  if (run.record.Duree.empty()) ReadPhrase(DurationReader, run.words, I, run.record);
 }
 
 void DateRule(Run& run, Index I) {
@@ -38,12 +30,10 @@ void DateRule(Run& run, Index I) {
   const TextView word = run.words(I);
   const TextView tail = word.substr(word.size() - std::min(word.size(), YearDigits));
   // Only a date of this year, with the year in four digits; the first one of the advertisement.
-  if (ValeurNumerique(tail) == CivilDateOf(run.context.today).year && DateValide(word))
-    run.record.DateDiffusion = word;
+  if (ValeurNumerique(tail) == run.thisYear && DateValide(word)) run.record.DateDiffusion = word;
 }
 
 void ReferenceRule(Run& run, Index I) {
-  if (!IsReferenceTrigger(run.words, I)) return;
   // «DE L ANNONCE» and the like are skipped.
   const Index firstK = run.words(I + 1) == u"DE" ? 4 : 1;
   // There is no guard on the field: each trigger overwrites.

@@ -29,6 +29,17 @@ constexpr char16_t Fold(char16_t capital) {
   }
 }
 
+// Upper case and folding in one step. No character beyond the table changes.
+constexpr std::size_t FoldTableSize = 0x2000;
+
+const std::array<char16_t, FoldTableSize> FoldTable = [] {
+  std::array<char16_t, FoldTableSize> table{};
+  for (std::size_t c = 0; c < table.size(); ++c) table[c] = Fold(ToUpper(static_cast<char16_t>(c)));
+  return table;
+}();
+
+char16_t Folded(char16_t c) { return c < FoldTableSize ? FoldTable[c] : c; }
+
 // What a character becomes in the normal form: a character of the alphabet or a blank. No character
 // beyond the table folds into the alphabet.
 constexpr std::size_t NormalTableSize = 256;
@@ -36,7 +47,7 @@ constexpr std::size_t NormalTableSize = 256;
 const std::array<char16_t, NormalTableSize> NormalTable = [] {
   std::array<char16_t, NormalTableSize> table{};
   for (std::size_t c = 0; c < table.size(); ++c) {
-    const char16_t folded = Fold(ToUpper(static_cast<char16_t>(c)));
+    const char16_t folded = FoldTable[c];
     const bool inAlphabet =
         (folded >= u'A' && folded <= u'Z') || (folded >= u'0' && folded <= u'9') || folded == u'/';
     table[c] = inAlphabet ? folded : u' ';
@@ -128,8 +139,15 @@ double ReadDecimal(NumberReader& reader) {
 
 Text SansAccents(TextView text) {
   Text result(text.size(), u'\0');
-  std::transform(text.begin(), text.end(), result.begin(), [](char16_t c) { return Fold(ToUpper(c)); });
+  std::transform(text.begin(), text.end(), result.begin(), Folded);
   return result;
+}
+
+std::size_t FindSansAccents(TextView text, TextView what) {
+  const Text folded = SansAccents(what);
+  const auto at = std::search(text.begin(), text.end(), folded.begin(), folded.end(),
+                              [](char16_t c, char16_t wanted) { return Folded(c) == wanted; });
+  return at == text.end() && !folded.empty() ? TextView::npos : static_cast<std::size_t>(at - text.begin());
 }
 
 bool EstPrenomFeminin(TextView prenom) {
@@ -206,6 +224,7 @@ bool CodePostalValide(TextView text) {
 }
 
 double ValeurNumerique(TextView text) {
+  if (!text.empty() && text.front() >= u'A') return 0;  // no number begins with a letter
   NumberReader reader{text};
   if (!reader.Take(u'&')) return ReadDecimal(reader);
   if (reader.Take(u'H')) return ReadInBase(reader, 16);

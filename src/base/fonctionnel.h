@@ -10,6 +10,9 @@ namespace talvor {
 // Ç, Â, Ë, Î, Ù and Ü stay. The length never changes.
 [[nodiscard]] Text SansAccents(TextView text);
 
+// The 0-based position of SansAccents(`what`) in SansAccents(`text`), TextView::npos for none.
+[[nodiscard]] std::size_t FindSansAccents(TextView text, TextView what);
+
 // True if a first name reads as a woman's.
 [[nodiscard]] bool EstPrenomFeminin(TextView prenom);
 

@@ -3,9 +3,9 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <array>
 #include <cerrno>
 #include <fstream>
-#include <iterator>
 
 #include "base/code_page.h"
 
@@ -34,9 +34,11 @@ std::optional<std::string> ReadBytes(const std::filesystem::path& file) {
   std::error_code error;
   if (!std::filesystem::is_regular_file(file, error)) return std::nullopt;
   std::ifstream stream{file, std::ios::binary};
-  if (!stream) return std::nullopt;
-  std::string bytes{std::istreambuf_iterator<char>{stream}, {}};
-  return stream.bad() ? std::nullopt : std::optional{std::move(bytes)};
+  std::string bytes;
+  std::array<char, 65536> block{};
+  while (stream.read(block.data(), block.size()) || stream.gcount() > 0)
+    bytes.append(block.data(), static_cast<std::size_t>(stream.gcount()));
+  return stream.eof() && !stream.bad() ? std::optional{std::move(bytes)} : std::nullopt;
 }
 
 std::error_code WriteBytes(const std::filesystem::path& file, std::string_view bytes) {

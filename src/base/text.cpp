@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <utility>
 
 namespace talvor {
@@ -94,19 +95,15 @@ Text Mapped(TextView text, Map map) {
   return result;
 }
 
-// The first `c` at or after `from`. Blocks without it are passed over by a loop without branches,
-// which the compiler turns into vector instructions.
-std::size_t FindCharacter(TextView text, char16_t c, std::size_t from) noexcept {
-  constexpr std::size_t Block = 64;
-  const char16_t* data = text.data();
-  std::size_t at = from;
-  for (; at + Block <= text.size(); at += Block) {
-    unsigned found = 0;
-    for (std::size_t i = 0; i < Block; ++i) found |= static_cast<unsigned>(data[at + i] == c);
-    if (found != 0) break;
-  }
-  while (at < text.size() && data[at] != c) ++at;
-  return at < text.size() ? at : TextView::npos;
+constexpr std::size_t SearchBlock = 64;
+
+// True if the block at `data` may hold a text that begins with `first` and whose character `distance`
+// further on is `last`. Without branches, so that the compiler turns it into vector instructions.
+bool MayHold(const char16_t* data, char16_t first, char16_t last, std::size_t distance) noexcept {
+  std::uint16_t found = 0;
+  for (std::size_t i = 0; i < SearchBlock; ++i)
+    found = static_cast<std::uint16_t>(found | ((data[i] == first) & (data[i + distance] == last)));
+  return found != 0;
 }
 
 }  // namespace
@@ -168,12 +165,18 @@ int CompareIgnoringCase(TextView a, TextView b) noexcept {
 
 std::size_t Find(TextView text, TextView what, std::size_t from) noexcept {
   if (what.empty()) return from <= text.size() ? from : TextView::npos;
-  while (true) {
-    from = FindCharacter(text, what.front(), from);
-    if (from == TextView::npos || text.size() - from < what.size()) return TextView::npos;
-    if (text.compare(from, what.size(), what) == 0) return from;
-    ++from;
+  if (text.size() < what.size()) return TextView::npos;
+  const std::size_t distance = what.size() - 1;
+  const std::size_t end = text.size() - distance;  // behind the last place where it can begin
+  while (from < end) {
+    if (from + SearchBlock <= end && !MayHold(text.data() + from, what.front(), what.back(), distance)) {
+      from += SearchBlock;
+      continue;
+    }
+    for (const std::size_t stop = std::min(end, from + SearchBlock); from < stop; ++from)
+      if (text[from] == what.front() && text.compare(from, what.size(), what) == 0) return from;
   }
+  return TextView::npos;
 }
 
 bool Contains(TextView text, TextView what) noexcept { return Find(text, what) != TextView::npos; }

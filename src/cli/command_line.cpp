@@ -11,6 +11,8 @@ namespace {
 // The words of the help that are not the commands' own.
 void SpeakFrench(CLI::App& app) {
   app.set_help_flag("-h,--help", "Affiche cette aide");
+  app.get_help_ptr()->group("Options ");
+  app.option_defaults()->group("Options ");
   auto formatter = std::make_shared<CLI::Formatter>();
   formatter->column_width(36);
   for (const auto& [key, word] :
@@ -38,7 +40,6 @@ std::string Refusal(const CLI::App& app, const CLI::ParseError& error) {
   if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr)
     return "il manque une commande ou un argument";
   if (dynamic_cast<const CLI::ConversionError*>(&error) != nullptr) return "un nombre est attendu";
-  if (dynamic_cast<const CLI::ExcludesError*>(&error) != nullptr) return "ces options ne vont pas ensemble";
   if (dynamic_cast<const CLI::ValidationError*>(&error) != nullptr) return "une valeur n’est pas admise";
   return "les arguments sont incorrects";
 }
@@ -65,10 +66,15 @@ class CommandLine {
       app_.parse(arguments);
     } catch (const CLI::CallForHelp&) {
       const auto chosen = app_.get_subcommands();
-      console_.out << (chosen.empty() ? app_ : *chosen.front()).help();
+      console_.out << (chosen.empty() ? app_.help() : chosen.front()->help("talvorctl"));
       return Done;
     } catch (const CLI::ParseError& error) {
       console_.err << "talvorctl : " << Refusal(app_, error) << " (voir « talvorctl --help »)\n";
+      return WrongUsage;
+    }
+    const auto* analyse = app_.get_subcommand("analyser");
+    if (batch_ && analyse->count_all() > 2) {  // the command itself and --lot
+      console_.err << "talvorctl : --lot ne va avec aucune autre option (voir « talvorctl --help »)\n";
       return WrongUsage;
     }
     return command_();
@@ -77,6 +83,8 @@ class CommandLine {
  private:
   CLI::App* Add(const char* name, const char* description, std::function<ExitCode()> command) {
     CLI::App* sub = app_.add_subcommand(name, description);
+    sub->group("Commandes ");
+    sub->get_help_ptr()->group("Options ");
     sub->callback([this, command = std::move(command)] { command_ = command; });
     return sub;
   }
@@ -89,16 +97,16 @@ class CommandLine {
   void AddAnalyser() {
     CLI::App* sub = Add("analyser", "Analyse une annonce et en donne les champs en JSON",
                         [this] { return batch_ ? AnalyserLot(console_) : Analyser(analyse_, console_); });
-    CLI::Option* batch =
-        sub->add_flag("--lot", batch_, "Lit des enregistrements JSON, un par ligne, sur l’entrée standard");
-    const auto add = [&](CLI::Option* option, const char* type) { option->type_name(type)->excludes(batch); };
-    add(sub->add_option("fichier", analyse_.file, "Texte UTF-8 de l’annonce, « - » pour l’entrée standard"),
-        "FICHIER");
-    add(sub->add_option("--adresse", analyse_.address, "Adresse de la page"), "URL");
-    add(sub->add_option("--date", analyse_.date, "Date du jour"), "JJ/MM/AAAA");
-    add(sub->add_option("--initial", analyse_.initial, "Champs déjà remplis"), "F.json");
-    add(sub->add_flag("--decoller", analyse_.unglue, "Sépare les mots collés d’une page"), "");
-    add(sub->add_flag("--brut", analyse_.raw, "Laisse les fins de ligne telles quelles"), "");
+    sub->add_option("fichier", analyse_.file, "Texte UTF-8 de l’annonce, « - » pour l’entrée standard")
+        ->type_name("FICHIER");
+    sub->add_option("--adresse", analyse_.address, "Adresse de la page")->type_name("URL");
+    sub->add_option("--date", analyse_.date, "Date du jour")->type_name("JJ/MM/AAAA");
+    sub->add_option("--initial", analyse_.initial, "Champs déjà remplis")->type_name("F.json");
+    sub->add_flag("--decoller", analyse_.unglue, "Sépare les mots collés d’une page");
+    sub->add_flag("--brut", analyse_.raw, "Laisse les fins de ligne telles quelles");
+    sub->add_flag("--lot", batch_,
+                  "Lit des enregistrements JSON, un par ligne, sur l’entrée standard ; seule, cette option "
+                  "ne va avec aucune autre");
   }
 
   void AddCapturer() {
