@@ -12,8 +12,9 @@ namespace fs = std::filesystem;
 // A folder that the user names is the data folder, and no other one stands in for it.
 void MoveTo(const std::string& folder) {
   std::error_code error;
-  if (fs::exists(fs::path{folder} / "Talvor.mdb", error)) fs::current_path(folder, error);
-  if (error || !fs::exists(workspace_paths::Database()) || !fs::equivalent(folder, ".", error))
+  const bool hasBase = fs::exists(fs::path{folder} / "Talvor.mdb", error);
+  if (hasBase) fs::current_path(folder, error);
+  if (!hasBase || error)
     throw CommandError("La base n'est pas accessible dans « " + folder + " » (voir « talvorctl preparer »)");
 }
 
