@@ -10,7 +10,7 @@ namespace talvor {
 
 // No page grows beyond this many characters: a replacement that would make it longer is not done and
 // its mark stays. It bounds what a hostile file can ask for, far above any real CV.
-inline constexpr std::size_t LargestPage = std::size_t{1} << 26;
+inline constexpr std::size_t LargestPage = std::size_t{1} << 25;
 
 enum class PhotoOnPage { None, Picture };
 
