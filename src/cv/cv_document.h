@@ -95,6 +95,7 @@ struct CheckGroup {
   Checks CvDocument::*values;
 };
 
+// In the order of the file.
 inline constexpr std::array<CheckGroup, 6> CheckGroups{{
     {u"LangueCourant", LanguageCount, &CvDocument::LangueCourant},
     {u"LangueProf", LanguageCount, &CvDocument::LangueProf},

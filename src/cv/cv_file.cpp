@@ -1,5 +1,7 @@
 #include "cv/cv_file.h"
 
+#include <span>
+
 #include "base/code_page.h"
 #include "base/fonctionnel.h"
 #include "base/line_file.h"
@@ -41,12 +43,12 @@ class CvFileWriter {
       AddText(field.name, cv_.*(field.text));
       // Checks stand where their boxes stand among the fields of the form, the last index first.
       if (field.name == u"Competences")
-        AddChecks({u"LangueCourant", u"LangueProf", u"LangueScolaire"});
+        AddChecks(Groups.first(3));
       else if (field.name == u"Age")
-        AddChecks({u"LangueBilingue"});
+        AddChecks(Groups.subspan(3, 1));
       else if (field.name == u"Police") {
-        AddChecks({u"CheckDisposition"});
-        AddChecks({u"CheckParagraphe"});
+        AddChecks(Groups.subspan(4, 1));
+        AddChecks(Groups.subspan(5, 1));
       }
     }
     return std::move(lines_);
@@ -58,14 +60,16 @@ class CvFileWriter {
   }
 
   // Groups of one size, row by row.
-  void AddChecks(std::initializer_list<TextView> names) {
-    for (std::size_t i = FindCheckGroup(*names.begin())->size; i-- > 0;)
-      for (const TextView name : names) {
-        const bool ticked = (cv_.*(FindCheckGroup(name)->values))[i];
-        lines_.append(NumberText(static_cast<long long>(i))).append(u":").append(name);
+  void AddChecks(std::span<const CheckGroup> groups) {
+    for (std::size_t i = groups.front().size; i-- > 0;)
+      for (const auto& group : groups) {
+        const bool ticked = (cv_.*(group.values))[i];
+        lines_.append(NumberText(static_cast<long long>(i))).append(u":").append(group.name);
         lines_.append(ticked ? u"=1" : u"=0").append(LineEnd);
       }
   }
+
+  static constexpr std::span<const CheckGroup> Groups{CheckGroups};
 
   const CvDocument& cv_;
   Text lines_;
@@ -74,10 +78,7 @@ class CvFileWriter {
 }  // namespace
 
 std::filesystem::path CvFile(TextView name) {
-  // Joined as text: a name that begins with "/" stays inside the folder.
-  std::filesystem::path file = workspace_paths::CvFolder();
-  file += "/" + ToUtf8(name) + ".dat";
-  return file;
+  return FileIn(workspace_paths::CvFolder(), Text{name} + u".dat");
 }
 
 std::optional<CvLine> ParseCvLine(TextView line) {
@@ -89,15 +90,15 @@ std::optional<CvLine> ParseCvLine(TextView line) {
                 ReplaceAll(line.substr(equals + 1), LineBreakInValue, LineEnd)};
 }
 
-bool ApplyCvLine(CvDocument& cv, CvLine line) {
+const Field<CvDocument>* ApplyCvLine(CvDocument& cv, CvLine line) {
   if (line.index) {
     ApplyCheck(cv, line);
-    return false;
+    return nullptr;
   }
   const auto* field = FindField(CvFields, line.name);
-  if (field == nullptr || field - CvFields.data() >= std::ptrdiff_t{FirstUnreadField}) return false;
+  if (field == nullptr || field - CvFields.data() >= std::ptrdiff_t{FirstUnreadField}) return nullptr;
   cv.*(field->text) = std::move(line.value);
-  return true;
+  return field;
 }
 
 bool ReadCv(const std::filesystem::path& file, CvDocument& cv) {

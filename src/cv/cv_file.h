@@ -24,9 +24,9 @@ struct CvLine {
 // check line.
 [[nodiscard]] std::optional<CvLine> ParseCvLine(TextView line);
 
-// Sets the field or check that the line names; every other one stays as it was. True for a text field
-// that was set, whether its text changed or not.
-bool ApplyCvLine(CvDocument& cv, CvLine line);
+// Sets the field or check that the line names; every other one stays as it was. The text field that
+// was set, whether its text changed or not; null for a check and for a name that is not known.
+const Field<CvDocument>* ApplyCvLine(CvDocument& cv, CvLine line);
 
 // Pours a file over `cv`: what the file lacks keeps its value. False when it cannot be read; `cv` is
 // then as it was.

@@ -108,13 +108,9 @@ void FormRédigerCV::Leave(TextView field) {
     capitalised(LieuNaissance);
   } else if (IsAnyOf(field, {u"NomModele", u"Police"})) {
     ClosePanels();
-  } else if (RendersOnLeaving(field)) {
-    RenderUnlessEmpty(this->*(FindField(CvFields, field)->text));
+  } else if (const auto* zone = FindField(CvFields, field); zone != nullptr && RendersOnLeaving(field)) {
+    if (!(this->*(zone->text)).empty()) VisualisationCV();
   }
-}
-
-void FormRédigerCV::RenderUnlessEmpty(const Text& field) {
-  if (!field.empty()) VisualisationCV();
 }
 
 }  // namespace talvor

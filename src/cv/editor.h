@@ -105,7 +105,6 @@ class FormRédigerCV : public CvDocument {
   void TakeLine(TextView line);
   void LoadPhotoOf(TextView name);
   void AgeFromBirthDate();
-  void RenderUnlessEmpty(const Text& field);
   void TakeColour(Colour colour);
   void OpenPanel(Panel panel);
   void OpenPanelFocusing(Panel panel, TextView field);

@@ -26,11 +26,11 @@ Text NameFromOwner(const CvDocument& cv) {
 void FormRédigerCV::TakeLine(TextView line) {
   auto parsed = ParseCvLine(line);
   if (!parsed) return;
-  const Text name = parsed->name;
-  if (!ApplyCvLine(*this, *std::move(parsed))) return;
-  if (name == u"DateNaissance") AgeFromBirthDate();
-  if (const auto* mirror = FindField(IdentityFields, name))
-    around_.principale.*(mirror->text) = this->*(FindField(CvFields, name)->text);
+  const auto* field = ApplyCvLine(*this, *std::move(parsed));
+  if (field == nullptr) return;
+  if (field->name == u"DateNaissance") AgeFromBirthDate();
+  if (const auto* mirror = FindField(IdentityFields, field->name))
+    around_.principale.*(mirror->text) = this->*(field->text);
 }
 
 void FormRédigerCV::LoadPhotoOf(TextView name) {

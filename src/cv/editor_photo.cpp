@@ -3,6 +3,7 @@
 #include "cv/editor.h"
 #include "cv/editor_texts.h"
 #include "cv/model_files.h"
+#include "workspace/document_keeping.h"
 
 namespace talvor {
 namespace {
@@ -17,9 +18,8 @@ std::filesystem::path PhotoFile(TextView nomCV) {
 // show it. A copy that fails leaves the picture on show in the form.
 void KeepPastedPhoto(TextView nomModele, std::string_view picture) {
   if (!IsBareName(nomModele)) return;
-  auto file = std::filesystem::current_path() / "Visualisation";
-  file += "/" + ToUtf8(nomModele) + ".jpg";
-  static_cast<void>(WriteBytes(file, picture));
+  const auto folder = std::filesystem::current_path() / "Visualisation";
+  static_cast<void>(WriteBytes(FileIn(folder, Text{nomModele} + u".jpg"), picture));
 }
 
 }  // namespace

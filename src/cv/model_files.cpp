@@ -9,11 +9,7 @@ namespace fs = std::filesystem;
 
 bool IsBareName(TextView name) { return name.find_first_of(u"/\\") == TextView::npos; }
 
-fs::path ModelFile(TextView name) {
-  fs::path file = workspace_paths::ModelFolder();
-  file += "/" + ToUtf8(name);
-  return file;
-}
+fs::path ModelFile(TextView name) { return FileIn(workspace_paths::ModelFolder(), name); }
 
 std::optional<fs::path> ExistingModelFile(TextView name) {
   if (!IsBareName(name)) return std::nullopt;

@@ -38,7 +38,7 @@ bool IsLongParagraph(TextView name) {
 
 void FillFields(Text& page, const CvDocument& cv) {
   for (const auto& field : CvFields) {
-    const Text mark = u"#" + ReplaceAll(field.name, u"é", u"e") + u"#";
+    const Text mark = Text{u"#"}.append(ReplaceAll(field.name, u"é", u"e")).append(u"#");
     if (!Contains(page, mark)) continue;
     const Text& value = cv.*(field.text);
     if (!IsLongParagraph(field.name))
@@ -70,15 +70,14 @@ Text Children(TextView value) {
 
 Text WithWords(const CvDocument& cv, TextView name, TextView value) {
   if (value.empty()) return {};
-  const Text text{value};
   if (name == u"DateNaissance") return BirthDate(cv, value);
   if (name == u"Situation") return Situation(cv, value);
-  if (name == u"LieuNaissance") return u"à " + text;
-  if (name == u"Tel") return u"Téléphone : " + text;
-  if (name == u"Mob") return u"Mobile : " + text;
-  if (name == u"Age") return u"(" + text + u" ans)";
+  if (name == u"LieuNaissance") return Text{u"à "}.append(value);
+  if (name == u"Tel") return Text{u"Téléphone : "}.append(value);
+  if (name == u"Mob") return Text{u"Mobile : "}.append(value);
+  if (name == u"Age") return Text{u"("}.append(value).append(u" ans)");
   if (name == u"NbEnfants") return Children(value);
-  return text;
+  return Text{value};
 }
 
 }  // namespace

@@ -41,6 +41,13 @@ std::error_code Keep(const fs::path& document) {
 
 }  // namespace
 
+fs::path FileIn(const fs::path& folder, TextView name) {
+  fs::path file = folder;
+  file += "/";
+  file += ToUtf8(name);
+  return file;
+}
+
 std::optional<fs::path> ExistingFile(const fs::path& file) {
   if (IsFile(file)) return file;
   const auto wanted = TextOf(file.filename());
@@ -56,7 +63,8 @@ std::optional<fs::path> ExistingFile(const fs::path& file) {
 
 fs::path KeptVersion(const fs::path& document, int age) {
   fs::path name = document.stem();
-  name += "." + std::to_string(age);
+  name += ".";
+  name += std::to_string(age);
   name += document.extension();
   return workspace_paths::BackupFolder() / document.parent_path().filename() / name;
 }

@@ -6,9 +6,15 @@
 #include <string_view>
 #include <system_error>
 
+#include "base/text.h"
+
 namespace talvor {
 
 inline constexpr int KeptVersions = 5;
+
+// The path of a file in a folder. The two are joined as texts, so that a name that begins with "/"
+// stays inside.
+[[nodiscard]] std::filesystem::path FileIn(const std::filesystem::path& folder, TextView name);
 
 // The file of that name in the folder of `file`, without regard to case; the one of exactly that name
 // goes first. Nothing when there is none, or its folder cannot be read.
