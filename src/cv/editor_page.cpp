@@ -1,4 +1,6 @@
 // The part of the editor that loads a CV and renders its page.
+#include <algorithm>
+
 #include "base/code_page.h"
 #include "base/fonctionnel.h"
 #include "base/line_file.h"
