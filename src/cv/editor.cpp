@@ -1,0 +1,116 @@
+#include "cv/editor.h"
+
+#include <algorithm>
+
+#include "base/fonctionnel.h"
+#include "cv/cv_file.h"
+#include "cv/editor_texts.h"
+#include "cv/identity_parser.h"
+
+namespace talvor {
+namespace {
+
+constexpr TextView EmptyPage = u"about:<html><body bgcolor=#FFFFFE></body></html>";
+constexpr TextView TemplateEnding = u".htm";
+
+bool IsAnyOf(TextView name, std::initializer_list<TextView> names) {
+  return std::find(names.begin(), names.end(), name) != names.end();
+}
+
+bool RendersOnChange(TextView field) {
+  return IsAnyOf(
+      field, {u"Gras", u"Souligné", u"Indentation", u"Saut", u"Couleur", u"Police", u"Modèle", u"LangueCV"});
+}
+
+// The zones that render when they are left with a text in them.
+bool RendersOnLeaving(TextView field) {
+  return IsAnyOf(field, {u"Fonction", u"Etudes", u"Formations", u"Experiences", u"Competences", u"Objectifs",
+                         u"Divers", u"LanguesPlus"});
+}
+
+bool EndsLikeTemplate(TextView name) {
+  return name.size() >= TemplateEnding.size() &&
+         CompareIgnoringCase(name.substr(name.size() - TemplateEnding.size()), TemplateEnding) == 0;
+}
+
+}  // namespace
+
+FormRédigerCV::FormRédigerCV(Surroundings surroundings)
+    : Label5(editor_texts::ZonesLabel), around_(std::move(surroundings)) {}
+
+void FormRédigerCV::Open(int width) {
+  if (width < CompactUnder) BoutonTLV1();
+
+  FileList files;
+  files.Point(workspace_paths::ModelFolder());
+  templateRows.clear();
+  for (std::size_t i = 0; i < files.Count(); ++i) {
+    const Text name = files.List(i);
+    if (EndsLikeTemplate(name)) templateRows.push_back(name.substr(0, name.size() - TemplateEnding.size()));
+  }
+
+  around_.webBrowser1.Navigate(EmptyPage);
+
+  // The user's first CV.
+  if (around_.principale.ImageMenu[0].picture != SlotPicture::ImageNew) return;
+  constexpr int UntilTheFormStands = 500;
+  around_.shell.Wait(UntilTheFormStands);
+  around_.principale.AfficherGuide(editor_texts::Welcome);
+}
+
+void FormRédigerCV::SauvegarderCV() { talvor::SauvegarderCV(*this, around_.dialogs, around_.principale); }
+
+void FormRédigerCV::Change(TextView field, TextView text) {
+  const auto* known = FindField(CvFields, field);
+  if (known == nullptr || this->*(known->text) == text) return;
+  this->*(known->text) = text;
+  if (field == u"DateNaissance") AgeFromBirthDate();
+  if (RendersOnChange(field)) VisualisationCV();
+}
+
+void FormRédigerCV::AgeFromBirthDate() {
+  constexpr double YoungestLikely = 15;
+  constexpr double OldestLikely = 80;
+  constexpr int DaysOfAYear = 365;
+  const double age = ValeurNumerique(Age);
+  // An age that looks right stays, even where the date says another.
+  if (age >= YoungestLikely && age <= OldestLikely) return;
+  if (const auto birth = ParseDate(DateNaissance))
+    Age = NumberText((around_.clock.Today().serial - birth->serial) / DaysOfAYear);
+}
+
+void FormRédigerCV::Enter(TextView field) {
+  if (field == u"NomModele") OpenPanel(Panel::ListeModeles);
+  if (field == u"Police") OpenPanel(Panel::FramePolice);
+}
+
+void FormRédigerCV::Leave(TextView field) {
+  const auto capitalised = [](Text& text) {
+    if (text.size() >= 2) text.front() = ToUpper(text.front());
+  };
+  if (field == u"Identite") {
+    if (!ParseIdentity(*this, [this] { AgeFromBirthDate(); })) return;
+    FrameIdentite = false;
+    VisualisationCV();
+  } else if (field == u"Nom") {
+    Nom = UpperCase(Nom);
+    ClosePanels();
+  } else if (field == u"Prénom" && Prénom.size() > 1) {
+    Prénom = NomPropre(Prénom);
+    VisualisationCV();
+  } else if (field == u"Adresse1") {
+    Adresse1 = NomPropre(Adresse1);
+  } else if (field == u"Pays") {
+    Pays = NomPropre(Pays);
+  } else if (field == u"Ville") {
+    capitalised(Ville);
+  } else if (field == u"LieuNaissance") {
+    capitalised(LieuNaissance);
+  } else if (IsAnyOf(field, {u"NomModele", u"Police"})) {
+    ClosePanels();
+  } else if (const auto* zone = FindField(CvFields, field); zone != nullptr && RendersOnLeaving(field)) {
+    if (!(this->*(zone->text)).empty()) VisualisationCV();
+  }
+}
+
+}  // namespace talvor

@@ -1,0 +1,118 @@
+// `FormRédigerCV`, the editor of one CV: the zones to fill, how the page looks, and its live preview.
+//
+// The fields of the form are those of the document. A window reports what the user does by the methods
+// below and shows the fields afterwards; a method that is given an index or a name that does not exist
+// does nothing. Indexes are 0-based.
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "cv/cv_document.h"
+#include "platform/browser.h"
+#include "platform/clipboard.h"
+#include "platform/clock.h"
+#include "platform/dialogs.h"
+#include "platform/environment.h"
+#include "platform/menus.h"
+#include "platform/pickers.h"
+#include "platform/shell.h"
+#include "workspace/principale.h"
+
+namespace talvor {
+
+class FormRédigerCV : public CvDocument {
+ public:
+  struct Surroundings {
+    Principale& principale;
+    Shell& shell;
+    Dialogs& dialogs;
+    Pickers& pickers;
+    Menus& menus;
+    Browser& webBrowser1;  // the preview
+    Clipboard& clipboard;
+    const Environment& environment;
+    const Clock& clock;
+    std::function<void(TextView)> showHelp;  // puts a text into the panel `Aide`
+    std::function<void()> layOut;            // gives the controls and the preview their sizes
+  };
+
+  // The option panels, of which one at most is open.
+  enum class Panel { None, ListeModeles, FramePolice, FrameParagraphe, CadreCouleur };
+
+  explicit FormRédigerCV(Surroundings surroundings);
+
+  bool Génère = true;         // the button that renders; nothing renders while it is off
+  bool FrameIdentite = true;  // the box of the pasted identity block is visible
+  bool compact = false;       // the layout is the compact one
+  Panel openPanel = Panel::None;
+  Text Label5;                     // the title of the zones
+  std::string Photo;               // bytes of the picture on show, whatever its kind; empty without
+  std::vector<Text> templateRows;  // the rows of `ListeModeles`: templates without extension
+  static constexpr int CompactUnder = 16000;  // width of the form in twips
+
+  // Opening the editor; `width` is that of the form in twips, 15 to a pixel.
+  void Open(int width);
+
+  // Fills the form from a file, given by its full path, and renders. A field that the file lacks keeps
+  // its text; a file that cannot be read changes none. The CV takes the file's own name.
+  void ChargerFichierCV(const std::filesystem::path& chemin);
+
+  // Writes the CV to its file; failures are told to the user.
+  void SauvegarderCV();
+
+  // Renders the page into Modeles/CVtemp.html and shows it; a CV with a surname is saved at once.
+  // Without its template it does nothing. Template names are bare file names: one that holds a folder
+  // counts as missing.
+  void VisualisationCV();
+
+  // Sets a text field, as typing or choosing does, and runs the rule of its change.
+  void Change(TextView field, TextView text);
+  // The focus comes to a field, or leaves it.
+  void Enter(TextView field);
+  void Leave(TextView field);
+
+  void ClicGénère() { VisualisationCV(); }
+  void ClicCheckParagraphe(std::size_t i);
+  void ClicCheckDisposition(std::size_t i);
+  // A click on a box of the grid; `grid` is the name of the check group, `i` the language.
+  void ClicLangue(TextView grid, std::size_t i);
+
+  void ClicCoul(std::size_t i);
+  void BoutonTLV3();  // another colour, by the dialog
+  void ClicImage2();  // opens the list of templates
+  void ClicImage3();  // opens the fonts
+  void ClicListeModeles(std::size_t row);
+  void ClicPoliceT(std::size_t i);
+  void ClicListeSituations(std::size_t row);
+  void ClosePanels() { openPanel = Panel::None; }
+
+  void SaiseDetaillee();
+  void BoutonTLV1();  // compacts the layout
+  void ClicImageMenu(std::size_t i);
+  void MouseOverImage6(int i);
+
+  void MenuFrancais();
+  void MenuAnglais();
+
+  void RattacherPhoto();
+  void CollerPhoto();
+  void SupprimerPhoto();
+
+ private:
+  void TakeLine(TextView line);
+  void LoadPhotoOf(TextView name);
+  void AgeFromBirthDate();
+  void TakeColour(Colour colour);
+  void OpenPanel(Panel panel);
+  void OpenPanelFocusing(Panel panel, TextView field);
+  void OfferLastWordVersion();
+
+  Surroundings around_;
+};
+
+inline constexpr TextView EditorForm = u"FormRédigerCV";
+
+}  // namespace talvor

@@ -1,0 +1,55 @@
+// The part of the editor that changes the photo of a CV.
+#include "base/line_file.h"
+#include "cv/editor.h"
+#include "cv/editor_texts.h"
+#include "cv/model_files.h"
+#include "workspace/document_keeping.h"
+
+namespace talvor {
+namespace {
+
+// Photos by a name that differs in case alone are one photo.
+std::filesystem::path PhotoFile(TextView nomCV) {
+  const Text name = Text{nomCV} + u".jpg";
+  return ExistingModelFile(name).value_or(ModelFile(name));
+}
+
+// A pasted photo goes to another folder and under another name than an attached one: the page does not
+// show it. A copy that fails leaves the picture on show in the form.
+void KeepPastedPhoto(TextView nomModele, std::string_view picture) {
+  if (!IsBareName(nomModele)) return;
+  const auto folder = std::filesystem::current_path() / "Visualisation";
+  static_cast<void>(WriteBytes(FileIn(folder, Text{nomModele} + u".jpg"), picture));
+}
+
+}  // namespace
+
+void FormRédigerCV::RattacherPhoto() {
+  const auto pictures = PathOf(around_.environment.Variable(u"homepath") + u"/Pictures");
+  const auto chosen =
+      around_.pickers.OpenFile({Text{editor_texts::PhotoTitle}, pictures, Text{editor_texts::PhotoFilter}});
+  if (!chosen) return;
+  auto picture = ReadBytes(*chosen);
+  // The bytes are copied as they stand, whatever kind of picture they are.
+  if (!picture || WriteBytes(PhotoFile(NomCV), *picture)) return;
+  Photo = *std::move(picture);
+  VisualisationCV();
+}
+
+void FormRédigerCV::CollerPhoto() {
+  auto picture = around_.clipboard.Image();
+  if (!picture) return;
+  Photo = *std::move(picture);
+  KeepPastedPhoto(NomModele, Photo);
+  VisualisationCV();
+}
+
+void FormRédigerCV::SupprimerPhoto() {
+  std::error_code ignored;  // a photo that is not there is gone already
+  std::filesystem::remove(PhotoFile(NomCV), ignored);
+  std::filesystem::remove(PhotoFile(u"Photo"), ignored);
+  Photo.clear();
+  VisualisationCV();
+}
+
+}  // namespace talvor

@@ -1,0 +1,145 @@
+// The part of the editor that sets how the page looks, and its menus and help.
+#include <algorithm>
+
+#include "base/line_file.h"
+#include "cv/colours.h"
+#include "cv/editor.h"
+#include "cv/editor_texts.h"
+#include "workspace/document_keeping.h"
+
+namespace talvor {
+
+void FormRédigerCV::ClicCheckParagraphe(std::size_t i) {
+  static constexpr std::array<TextView, 4> Mirrors{u"Gras", u"Souligné", u"Indentation", u"Saut"};
+  if (i >= Mirrors.size()) return;
+  CheckParagraphe[i] = !CheckParagraphe[i];
+  Change(Mirrors[i], CheckParagraphe[i] ? u"1" : u"0");
+}
+
+void FormRédigerCV::ClicCheckDisposition(std::size_t i) {
+  if (i > 1) return;
+  CheckDisposition[i] = !CheckDisposition[i];
+  CheckDisposition[1 - i] = !CheckDisposition[i];
+  VisualisationCV();
+}
+
+void FormRédigerCV::ClicLangue(TextView grid, std::size_t i) {
+  const CheckGroup* clicked = FindCheckGroup(grid);
+  if (clicked == nullptr || !grid.starts_with(u"Langue") || i >= clicked->size) return;
+  const bool ticked = !(this->*(clicked->values))[i];
+  // A click that unticks a box empties the row as well.
+  for (const auto& group : CheckGroups)
+    if (group.name.starts_with(u"Langue")) (this->*(group.values))[i] = &group == clicked && ticked;
+  VisualisationCV();
+}
+
+void FormRédigerCV::TakeColour(Colour colour) {
+  // The change of the main colour renders, so that the pale one must stand before it.
+  CouleurClaire = ColourText(PaleColour(colour));
+  const Text main = ColourText(colour);
+  if (Couleur == main)
+    VisualisationCV();
+  else
+    Change(u"Couleur", main);
+}
+
+void FormRédigerCV::ClicCoul(std::size_t i) {
+  if (i < Coul.size()) TakeColour(Coul[i]);
+}
+
+void FormRédigerCV::BoutonTLV3() {
+  if (const auto colour = around_.pickers.PickColour()) TakeColour(*colour);
+}
+
+void FormRédigerCV::OpenPanel(Panel panel) {
+  ClosePanels();
+  openPanel = panel;
+}
+
+void FormRédigerCV::ClicImage2() { OpenPanel(Panel::ListeModeles); }
+void FormRédigerCV::ClicImage3() { OpenPanel(Panel::FramePolice); }
+
+void FormRédigerCV::ClicListeModeles(std::size_t row) {
+  if (row >= templateRows.size()) return;
+  ListeModeles = templateRows[row];
+  Change(u"NomModele", ListeModeles);
+  Change(u"Modèle", ListeModeles + u".htm");
+  ClosePanels();
+}
+
+void FormRédigerCV::ClicPoliceT(std::size_t i) {
+  if (i < editor_texts::Fonts.size()) Change(u"Police", editor_texts::Fonts[i]);
+}
+
+void FormRédigerCV::ClicListeSituations(std::size_t row) {
+  if (row >= editor_texts::Situations.size()) return;
+  ListeSituations = editor_texts::Situations[row];
+  Change(u"Situation", ListeSituations);
+}
+
+void FormRédigerCV::SaiseDetaillee() { FrameIdentite = false; }
+
+void FormRédigerCV::BoutonTLV1() {
+  compact = true;
+  if (around_.layOut) around_.layOut();
+}
+
+void FormRédigerCV::OpenPanelFocusing(Panel panel, TextView field) {
+  // The focus moves first: the field that it leaves may close the panels.
+  around_.shell.Focus(EditorForm, field);
+  OpenPanel(panel);
+}
+
+void FormRédigerCV::OfferLastWordVersion() {
+  const Text documents = around_.environment.Variable(u"userprofile") + u"/Documents/";
+  around_.menus.Enable(u"ConsulterWord", ExistingFile(PathOf(documents + NomCV + u".doc")).has_value());
+  around_.menus.Open(u"MenuConvertirWord");
+}
+
+void FormRédigerCV::ClicImageMenu(std::size_t i) {
+  ClosePanels();
+  switch (i) {
+    case 0:
+      OpenPanelFocusing(Panel::FrameParagraphe, u"Age");
+      break;
+    case 1:
+      OpenPanelFocusing(Panel::CadreCouleur, u"Nom");
+      break;
+    case 2:
+      around_.menus.Open(u"MenuLangues");
+      break;
+    case 3:
+      around_.menus.Open(u"MenuImprimer");
+      break;
+    case 4:
+      OfferLastWordVersion();
+      break;
+    default:
+      break;
+  }
+}
+
+void FormRédigerCV::MouseOverImage6(int i) {
+  const auto help = std::find_if(editor_texts::Help.begin(), editor_texts::Help.end(),
+                                 [i](const auto& row) { return row.icon == i; });
+  if (help == editor_texts::Help.end()) return;
+  Text text;
+  if (help->paragraph) text.append(editor_texts::ParagraphNote).append(LineEnd);
+  text.append(help->text);
+  if (!around_.shell.FormeVisible(u"Aide")) around_.shell.Show(u"Aide");
+  if (around_.showHelp) around_.showHelp(text);
+}
+
+void FormRédigerCV::MenuFrancais() {
+  around_.menus.Check(u"MenuFrancais", true);
+  around_.menus.Check(u"MenuAnglais", false);
+  Change(u"LangueCV", u"0");
+}
+
+void FormRédigerCV::MenuAnglais() {
+  around_.menus.Check(u"MenuAnglais", true);
+  around_.menus.Check(u"MenuFrancais", false);
+  Change(u"LangueCV", u"1");
+}
+
+}  // namespace talvor

@@ -1,0 +1,125 @@
+#include "cv/renderer.h"
+
+#include "base/fonctionnel.h"
+#include "cv/page_sections.h"
+#include "cv/paragraph.h"
+#include "cv/vocabulary.h"
+
+namespace talvor {
+namespace {
+
+constexpr TextView PhotoMarkup =
+    u"<IMG STYLE='border: 1.00pt solid #FF6600; padding: 0.05cm' SRC='Photo.jpg' WIDTH=100>";
+
+std::size_t CountOf(TextView text, TextView what) {
+  std::size_t count = 0;
+  for (auto at = Find(text, what); at != TextView::npos; at = Find(text, what, at + what.size())) ++count;
+  return count;
+}
+
+// Replaces every occurrence, unless the page would grow too long.
+void Replace(Text& page, TextView what, TextView by) {
+  const std::size_t count = CountOf(page, what);
+  if (count == 0) return;
+  const std::size_t left = page.size() - count * what.size();
+  if (!by.empty() && (left > LargestPage || count > (LargestPage - left) / by.size())) return;
+  page = ReplaceAll(page, what, by);
+}
+
+bool IsOne(TextView text) { return ValeurNumerique(text) == 1; }
+
+ParagraphStyle StyleOf(const CvDocument& cv) {
+  return {IsOne(cv.Gras), IsOne(cv.Souligné), IsOne(cv.Indentation), IsOne(cv.Saut)};
+}
+
+bool IsLongParagraph(TextView name) {
+  return name == u"Experiences" || name == u"Etudes" || name == u"Competences";
+}
+
+void FillFields(Text& page, const CvDocument& cv) {
+  for (const auto& field : CvFields) {
+    const Text mark = Text{u"#"}.append(ReplaceAll(field.name, u"é", u"e")).append(u"#");
+    if (!Contains(page, mark)) continue;
+    const Text& value = cv.*(field.text);
+    if (!IsLongParagraph(field.name))
+      Replace(page, mark, IdentityOnPage(cv, field.name, value));
+    else if (const auto paragraph = FormatParagraph(value, StyleOf(cv), LargestPage))
+      Replace(page, mark, *paragraph);
+  }
+}
+
+Text BirthDate(const CvDocument& cv, TextView value) {
+  Text text{EstPrenomFeminin(cv.Prénom) ? u"Née le " : u"Né le "};
+  return text.append(value);
+}
+
+// The two situations that agree with the first name; the others print as they stand.
+Text Situation(const CvDocument& cv, TextView value) {
+  const bool feminine = EstPrenomFeminin(cv.Prénom);
+  if (value == u"Marié(e)") return feminine ? u"Mariée" : u"Marié";
+  if (value == u"Divorcé(e)") return feminine ? u"Divorcée" : u"Divorcé";
+  return Text{value};
+}
+
+Text Children(TextView value) {
+  Text text{value};
+  if (ValeurNumerique(text) > 0) text += u" enfant";
+  if (ValeurNumerique(text) > 1) text += u"s";
+  return text;
+}
+
+Text WithWords(const CvDocument& cv, TextView name, TextView value) {
+  if (value.empty()) return {};
+  if (name == u"DateNaissance") return BirthDate(cv, value);
+  if (name == u"Situation") return Situation(cv, value);
+  if (name == u"LieuNaissance") return Text{u"à "}.append(value);
+  if (name == u"Tel") return Text{u"Téléphone : "}.append(value);
+  if (name == u"Mob") return Text{u"Mobile : "}.append(value);
+  if (name == u"Age") return Text{u"("}.append(value).append(u" ans)");
+  if (name == u"NbEnfants") return Children(value);
+  return Text{value};
+}
+
+}  // namespace
+
+Text LanguageSummary(const CvDocument& cv) {
+  Text list;
+  const auto add = [&](bool ticked, std::size_t i, TextView level) {
+    if (ticked) list.append(LanguageNames[i]).append(level).append(LineEnd);
+  };
+  for (std::size_t i = 0; i < LanguageCount; ++i) {
+    add(cv.LangueScolaire[i], i, u" scolaire");
+    add(cv.LangueProf[i], i, u" professionnel");
+    add(cv.LangueCourant[i], i, u" courant");
+    add(cv.LangueBilingue[i], i, u" bilingue");
+  }
+  if (TrimBlanks(cv.LanguesPlus).empty()) return list;
+  return list.append(LineEnd).append(cv.LanguesPlus);
+}
+
+Text IdentityOnPage(const CvDocument& cv, TextView name, TextView value) {
+  return ReplaceAll(WithWords(cv, name, value), LineEnd, u"<br>");
+}
+
+Text FillTemplate(const CvDocument& cv, Text page, PhotoOnPage photo) {
+  if (!cv.Police.empty() && cv.Police != u"Arial") Replace(page, u"Arial", cv.Police);
+
+  RemoveEmptySections(page, cv);
+  FillFields(page, cv);
+  // From here on a boundary mark written in a field counts like one of the template.
+  if (cv.CheckDisposition[1]) PutExperienceFirst(page);
+
+  // The photo comes before the colours, so that its frame takes the main one.
+  Replace(page, u"#Photographie#", photo == PhotoOnPage::Picture ? PhotoMarkup : TextView{});
+  Replace(page, u"#Prénom#", cv.Prénom);
+  Replace(page, u"#FF6600", cv.Couleur);
+  Replace(page, u"#808080", cv.Couleur);
+  Replace(page, u"#c0c0c0", cv.CouleurClaire);
+  Replace(page, u"#FFE6D5", cv.CouleurClaire);
+
+  if (IsOne(cv.LangueCV)) page = TraduireCV(page);
+  RemoveSectionMarks(page);
+  return page;
+}
+
+}  // namespace talvor

@@ -1,0 +1,81 @@
+#include "workspace/document_keeping.h"
+
+#include <string>
+
+#include "base/line_file.h"
+#include "workspace/workspace_paths.h"
+
+namespace talvor {
+namespace fs = std::filesystem;
+namespace {
+
+bool IsFile(const fs::path& file) {
+  std::error_code unreadable;
+  return fs::is_regular_file(file, unreadable);
+}
+
+// Moves each kept version one place on; the newest place is free afterwards.
+std::error_code MakePlaceForNewest(const fs::path& document) {
+  std::error_code error;
+  for (int age = KeptVersions - 1; age >= 1 && !error; --age)
+    if (IsFile(KeptVersion(document, age)))
+      fs::rename(KeptVersion(document, age), KeptVersion(document, age + 1), error);
+  return error;
+}
+
+std::error_code Keep(const fs::path& document) {
+  const auto bytes = ReadBytes(document);
+  if (!bytes) return std::make_error_code(std::errc::io_error);
+  const fs::path newest = KeptVersion(document, 1);
+  if (ReadBytes(newest) == bytes) return {};
+  std::error_code error;
+  fs::create_directories(newest.parent_path(), error);
+  if (error) return error;
+  // The new copy is whole before an old one moves.
+  const fs::path arriving = KeptVersion(document, 0);
+  error = WriteBytes(arriving, *bytes);
+  if (!error) error = MakePlaceForNewest(document);
+  if (!error) fs::rename(arriving, newest, error);
+  return error;
+}
+
+}  // namespace
+
+fs::path FileIn(const fs::path& folder, TextView name) {
+  fs::path file = folder;
+  file += "/";
+  file += ToUtf8(name);
+  return file;
+}
+
+std::optional<fs::path> ExistingFile(const fs::path& file) {
+  if (IsFile(file)) return file;
+  const auto wanted = TextOf(file.filename());
+  if (!wanted) return std::nullopt;
+  std::error_code error;
+  for (fs::directory_iterator entry{file.parent_path(), error}, end; !error && entry != end;
+       entry.increment(error)) {
+    const auto name = TextOf(entry->path().filename());
+    if (name && CompareIgnoringCase(*name, *wanted) == 0 && IsFile(entry->path())) return entry->path();
+  }
+  return std::nullopt;
+}
+
+fs::path KeptVersion(const fs::path& document, int age) {
+  fs::path name = document.stem();
+  name += ".";
+  name += std::to_string(age);
+  name += document.extension();
+  return workspace_paths::BackupFolder() / document.parent_path().filename() / name;
+}
+
+std::error_code SaveDocument(const fs::path& document, std::string_view bytes) {
+  if (const auto old = ExistingFile(document)) {
+    std::error_code error = Keep(*old);
+    if (!error) fs::remove(*old, error);
+    if (error) return error;
+  }
+  return WriteBytes(document, bytes);
+}
+
+}  // namespace talvor

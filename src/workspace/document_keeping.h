@@ -1,0 +1,33 @@
+// How documents of the workspace (CVs, letter models) are found, kept and saved.
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string_view>
+#include <system_error>
+
+#include "base/text.h"
+
+namespace talvor {
+
+inline constexpr int KeptVersions = 5;
+
+// The path of a file in a folder. The two are joined as texts, so that a name that begins with "/"
+// stays inside.
+[[nodiscard]] std::filesystem::path FileIn(const std::filesystem::path& folder, TextView name);
+
+// The file of that name in the folder of `file`, without regard to case; the one of exactly that name
+// goes first. Nothing when there is none, or its folder cannot be read.
+[[nodiscard]] std::optional<std::filesystem::path> ExistingFile(const std::filesystem::path& file);
+
+// Where the old versions of a document stand: CV/a.dat gives Sauvegardes/CV/a.1.dat for the last one
+// (`age` 1) up to a.5.dat for the oldest (`age` 5).
+[[nodiscard]] std::filesystem::path KeptVersion(const std::filesystem::path& document, int age);
+
+// Writes a document anew under its name, the old file deleted first, whatever its case. Before that
+// the old version joins the five kept ones and pushes the oldest out; one that is kept already is not
+// kept twice. The error, if any step failed: a version that cannot be kept is not deleted; after any
+// other failure it stands among the kept ones.
+[[nodiscard]] std::error_code SaveDocument(const std::filesystem::path& document, std::string_view bytes);
+
+}  // namespace talvor
