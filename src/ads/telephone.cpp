@@ -7,17 +7,25 @@
 namespace talvor::ads {
 namespace {
 
-// True once the reading is known to have no value: its first character that is not a zero is no digit.
-bool HasNoValue(TextView reading) {
-  const auto decisive = reading.find_first_not_of(u"0 ");
-  return decisive != TextView::npos && (reading[decisive] < u'1' || reading[decisive] > u'9');
+// Zeros and line marks decide nothing yet.
+bool IsZeros(TextView word) { return word == LineMark || word.find_first_not_of(u'0') == TextView::npos; }
+
+// The first word that is more than zeros decides whether a reading has a value.
+bool BeginsWithValue(TextView word) {
+  const char16_t decisive = word[word.find_first_not_of(u'0')];
+  return decisive >= u'1' && decisive <= u'9';
 }
 
 void ReadBehindLabel(Run& run, Index I) {
   Text& telephone = run.record.Telephone;
+  bool undecided = true;
   for (Index K = TelephoneReader.firstK;; ++K) {
-    if (ReadWord(TelephoneReader, run.words, I, K, run.words(I + K), telephone) == Step::Stopped) return;
-    if (HasNoValue(telephone)) return;  // the check throws it away, however it goes on
+    const TextView word = run.words(I + K);
+    if (ReadWord(TelephoneReader, run.words, I, K, word, telephone) == Step::Stopped) return;
+    if (undecided && !IsZeros(word)) {
+      undecided = false;
+      if (!BeginsWithValue(word)) return;  // the check throws the reading away, however it goes on
+    }
   }
 }
 

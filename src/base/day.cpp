@@ -18,12 +18,12 @@ struct MonthWord {
   int month;
 };
 
-constexpr std::array<MonthWord, 26> MonthWords{{
-    {u"JANVIER", 1},   {u"JANV", 1}, {u"JAN", 1},      {u"FEVRIER", 2}, {u"FEVR", 2},      {u"FEV", 2},
-    {u"MARS", 3},      {u"MAR", 3},  {u"AVRIL", 4},    {u"AVR", 4},     {u"MAI", 5},       {u"JUIN", 6},
-    {u"JUILLET", 7},   {u"JUIL", 7}, {u"JUI", 6},      {u"AOUT", 8},    {u"AOU", 8},       {u"SEPTEMBRE", 9},
-    {u"SEPT", 9},      {u"SEP", 9},  {u"OCTOBRE", 10}, {u"OCT", 10},    {u"NOVEMBRE", 11}, {u"NOV", 11},
-    {u"DECEMBRE", 12}, {u"DEC", 12},
+constexpr std::array<MonthWord, 25> MonthWords{{
+    {u"JANVIER", 1}, {u"JANV", 1},      {u"JAN", 1},     {u"FEVRIER", 2},   {u"FEVR", 2},
+    {u"FEV", 2},     {u"MARS", 3},      {u"MAR", 3},     {u"AVRIL", 4},     {u"AVR", 4},
+    {u"MAI", 5},     {u"JUIN", 6},      {u"JUILLET", 7}, {u"JUIL", 7},      {u"AOUT", 8},
+    {u"AOU", 8},     {u"SEPTEMBRE", 9}, {u"SEPT", 9},    {u"SEP", 9},       {u"OCTOBRE", 10},
+    {u"OCT", 10},    {u"NOVEMBRE", 11}, {u"NOV", 11},    {u"DECEMBRE", 12}, {u"DEC", 12},
 }};
 
 bool IsDigit(char16_t c) { return c >= u'0' && c <= u'9'; }
@@ -128,12 +128,12 @@ std::optional<Day> ParseDate(TextView text) {
   Scanner scanner{folded};
   const auto day = scanner.Number(1, 2);
   if (!day) return std::nullopt;
-  if (day->first == 1) scanner.Skip(u"ER");
+  const bool ordinal = day->first == 1 && scanner.Skip(u"ER");
   if (!scanner.Separator()) return std::nullopt;
   scanner.Blanks();
 
   std::optional<int> month;
-  if (const auto number = scanner.Number(1, 2)) {
+  if (const auto number = ordinal ? std::nullopt : scanner.Number(1, 2)) {
     month = number->first;
     if (!scanner.Separator()) return std::nullopt;
   } else {

@@ -315,12 +315,13 @@ TEST(Analyser, TheTextComesBackAsItsNormalForm) {
 // Each of these would take hours if a keyword read its line anew every time it stands there.
 TEST(Analyser, EndlessLinesOfKeywordsStayQuick) {
   for (const TextView word :
-       {u"SOCIETE ", u"SOCIETE LE ", u"M ", u"REF ", u"TEL ", u"TEL 0 ", u"CANDIDATURE A ",
+       {u"SOCIETE ", u"SOCIETE LE ", u"M ", u"REF ", u"TEL ", u"TEL 0 ", u"0 ", u"CANDIDATURE A ",
         u"LIEU LOCALISER ", u"A@", u"RUE 75001 ", u"H/F ", u"GROUPE EST "}) {
     Text endless;
     while (endless.size() < 500'000) endless += word;
     Analysed(endless);
     Analysed(endless + u"LE\r\nx");
+    Analysed(u"TEL " + endless + u"\r\nx");
   }
   Analysed(u"rue " + Text(200'000, u'x') + u" " + ReplaceAll(Text(200'000, u'y'), u"yy", u"y ") +
            u"rue 75001 Paris\r\nx");

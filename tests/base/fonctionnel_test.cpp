@@ -168,9 +168,10 @@ TEST(ParseDate, TakesFrenchDatesDayFirst) {
 }
 
 TEST(ParseDate, RefusesAnythingElse) {
-  for (const TextView text : {u"29/02/2023", u"31/04/2020", u"12/25/2007", u"03/2007", u"2007", u"2007-03-12",
-                              u"12/03", u"x", u"12/03/2007 14:00", u"12/03/200", u"12 mois 2007", u"0/1/2007",
-                              u"1/0/2007", u"12//2007", u"123/1/2007", u"1/1/0000", u"12/03/20077"})
+  for (const TextView text :
+       {u"29/02/2023", u"31/04/2020", u"12/25/2007", u"03/2007", u"2007", u"2007-03-12", u"12/03", u"x",
+        u"12/03/2007 14:00", u"12/03/200", u"12 mois 2007", u"0/1/2007", u"1/0/2007", u"12//2007",
+        u"123/1/2007", u"1/1/0000", u"12/03/20077", u"1er/03/2007", u"3 jui 2007"})
     EXPECT_FALSE(ParseDate(text).has_value()) << ToUtf8(text);
   EXPECT_TRUE(DateValide(u"")) << "an empty field is no mistake";
   EXPECT_FALSE(DateValide(u"demain"));
