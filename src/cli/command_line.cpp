@@ -58,6 +58,8 @@ class CommandLine {
     AddCapturer();
     AddCandidatures();
     AddCandidature();
+    AddRapport();
+    AddStatistiques();
   }
 
   ExitCode Run(std::vector<std::string> arguments) {
@@ -134,6 +136,21 @@ class CommandLine {
     sub->add_flag("--json", json_, "En JSON");
   }
 
+  void AddRapport() {
+    CLI::App* sub = Add("rapport", "Écrit la page HTML de la liste ou du justificatif de recherche d’emploi",
+                        [this] { return Rapport(workspace_, report_, console_); });
+    sub->add_option("rapport", report_, "liste ou justificatif")
+        ->type_name("RAPPORT")
+        ->required()
+        ->check(CLI::IsMember({"liste", "justificatif"}));
+  }
+
+  void AddStatistiques() {
+    CLI::App* sub = Add("statistiques", "Compte les candidatures par statut et liste les entretiens à venir",
+                        [this] { return Statistiques(workspace_, json_, console_); });
+    sub->add_flag("--json", json_, "En JSON");
+  }
+
   Console& console_;
   CLI::App app_{"Talvor en ligne de commande : annonces, candidatures et dossier de données."};
   std::function<ExitCode()> command_;
@@ -145,6 +162,7 @@ class CommandLine {
   std::string tri_ = "statuts";
   bool json_ = false;
   std::int32_t num_ = 0;
+  std::string report_;
 };
 
 }  // namespace

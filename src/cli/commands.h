@@ -44,6 +44,12 @@ ExitCode Candidatures(const std::string& workspace, const std::string& tri, bool
 // One candidature by its number.
 ExitCode UneCandidature(const std::string& workspace, std::int32_t num, bool json, Console& console);
 
+// The page of a report, "liste" or "justificatif", on standard output; nothing without any row.
+ExitCode Rapport(const std::string& workspace, const std::string& report, Console& console);
+
+// The counts by status and the interviews to come.
+ExitCode Statistiques(const std::string& workspace, bool json, Console& console);
+
 // Runs the tool on its arguments (without the program's name).
 [[nodiscard]] ExitCode RunCommandLine(std::vector<std::string> arguments, Console& console);
 

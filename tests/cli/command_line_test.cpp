@@ -170,6 +170,22 @@ INSTANTIATE_TEST_SUITE_P(
               Refused,
               "n’est pas une base de données"}));
 
+TEST_F(CommandLineTest, ReportsAndStatisticsComeFromTheSameRows) {
+  Prepare();
+  EXPECT_EQ(Talvorctl({"--espace", "d", "rapport", "liste"}).out, "") << "no row, no page";
+  ASSERT_EQ(Talvorctl({"--espace", "d", "capturer", "-"}, "Caissier\nSociété : Acmé\nfin\n").code, Done);
+  const std::string list = Talvorctl({"--espace", "d", "rapport", "liste"}).out;
+  EXPECT_NE(list.find("<FONT SIZE=2>ACM"), std::string::npos);
+  EXPECT_NE(
+      Talvorctl({"--espace", "d", "rapport", "justificatif"}).out.find("Activité de recherche d'emploi"),
+      std::string::npos);
+  EXPECT_EQ(Talvorctl({"--espace", "d", "rapport", "x"}).code, WrongUsage);
+  const auto counts = nlohmann::json::parse(Talvorctl({"--espace", "d", "statistiques", "--json"}).out);
+  EXPECT_EQ(counts["Statuts"]["NON EMISE"], 1);
+  const std::string text = Talvorctl({"--espace", "d", "statistiques"}).out;
+  EXPECT_NE(text.find("NON EMISE" + std::string(31, ' ') + "1  #\n"), std::string::npos) << text;
+}
+
 TEST_F(CommandLineTest, ARowThatIsNotThereIsNamed) {
   Prepare();
   const Result result = Talvorctl({"--espace", "d", "candidature", "99999"});
@@ -178,7 +194,8 @@ TEST_F(CommandLineTest, ARowThatIsNotThereIsNamed) {
 }
 
 TEST_F(CommandLineTest, EveryCommandExplainsItselfInFrench) {
-  for (const char* command : {"preparer", "analyser", "capturer", "candidatures", "candidature"}) {
+  for (const char* command :
+       {"preparer", "analyser", "capturer", "candidatures", "candidature", "rapport", "statistiques"}) {
     const Result help = Talvorctl({command, "--help"});
     EXPECT_EQ(help.code, Done);
     EXPECT_NE(help.out.find("Emploi : talvorctl " + std::string{command}), std::string::npos) << help.out;
