@@ -35,7 +35,7 @@ QString PictureOf(QChar label) {
 
 BoutonTLV::BoutonTLV(const Theme& theme, const QString& libelle, QWidget* parent)
     : QPushButton(parent), theme_(theme) {
-  setIconSize({16, 16});
+  setIconSize({16 + TextGap, 16});
   connect(&theme, &Theme::Changed, this, &BoutonTLV::TakeGlyph);
   SetLibelle(libelle);
 }
@@ -59,13 +59,13 @@ void BoutonTLV::TakeGlyph() {
         setIcon({});
         break;
       case ButtonGlyph::Check:
-        setIcon(theme_.Icon(QStringLiteral("check"), QStringLiteral("ok")));
+        setIcon(theme_.Icon(QStringLiteral("check"), QStringLiteral("ok"), 16, TextGap));
         break;
       case ButtonGlyph::Cross:
-        setIcon(theme_.Icon(QStringLiteral("cross"), QStringLiteral("bad")));
+        setIcon(theme_.Icon(QStringLiteral("cross"), QStringLiteral("bad"), 16, TextGap));
         break;
       case ButtonGlyph::NewPage:
-        setIcon(theme_.Icon(QStringLiteral("doc-new"), QStringLiteral("new")));
+        setIcon(theme_.Icon(QStringLiteral("doc-new"), QStringLiteral("new"), 16, TextGap));
         break;
     }
   }

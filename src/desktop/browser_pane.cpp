@@ -16,7 +16,7 @@ BrowserPane::BrowserPane(const Theme& theme, QWidget* parent) : QWidget(parent) 
   setProperty("pane", true);
   setAttribute(Qt::WA_StyledBackground);
   setAccessibleName(tr("Navigateur"));
-  setMinimumWidth(320);
+  setMinimumWidth(250);
   column_ = new QVBoxLayout(this);
   column_->setContentsMargins(0, 0, 0, 0);
   column_->setSpacing(0);

@@ -8,6 +8,7 @@
 #include <QScrollBar>
 #include <QStyle>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "desktop/pane.h"
 #include "desktop/status_dot.h"
@@ -23,20 +24,26 @@ constexpr int ShortField = 102;
 constexpr int ShortLabel = 98;
 constexpr int ColumnWidth = 420;  // two columns from twice that on
 constexpr int RowGap = 5;
+const QString FirstColumn = QStringLiteral("libelle");  // name of the labels in it
 
 QGridLayout* MakeGrid(QWidget* block) {
   auto* grid = new QGridLayout(block);
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setHorizontalSpacing(8);
   grid->setVerticalSpacing(RowGap);
-  grid->setColumnMinimumWidth(0, LabelColumn);
   grid->setColumnStretch(1, 1);
   return grid;
 }
 
+QLabel* MakeFirstLabel(const QString& caption, QWidget* field) {
+  QLabel* label = MakeLabel(caption, field, field->parentWidget());
+  label->setObjectName(FirstColumn);
+  return label;
+}
+
 void AddRow(QGridLayout* grid, const QString& caption, QWidget* field) {
   const int row = grid->rowCount();
-  grid->addWidget(MakeLabel(caption, field, field->parentWidget()), row, 0);
+  grid->addWidget(MakeFirstLabel(caption, field), row, 0);
   grid->addWidget(field, row, 1);
 }
 
@@ -46,7 +53,7 @@ void AddTallRow(QGridLayout* grid, const QString& caption, QWidget* field, QWidg
   auto* side = new QVBoxLayout;
   side->setContentsMargins(0, 5, 0, 0);
   side->setSpacing(2);
-  side->addWidget(MakeLabel(caption, field, field->parentWidget()));
+  side->addWidget(MakeFirstLabel(caption, field));
   if (under != nullptr) side->addWidget(under, 0, Qt::AlignLeft);
   side->addStretch(1);
   grid->addLayout(side, row, 0);
@@ -57,14 +64,16 @@ void AddTallRow(QGridLayout* grid, const QString& caption, QWidget* field, QWidg
 // Two short fields on one row.
 void AddPair(QGridLayout* grid, const QString& first, QWidget* left, const QString& second, QWidget* right) {
   const int row = grid->rowCount();
-  grid->addWidget(MakeLabel(first, left, left->parentWidget()), row, 0);
+  grid->addWidget(MakeFirstLabel(first, left), row, 0);
   auto* pair = new QHBoxLayout;
   pair->setSpacing(8);
-  left->setMinimumWidth(60);
-  right->setMinimumWidth(60);
+  // A date always shows whole.
+  const int date = left->fontMetrics().horizontalAdvance(QStringLiteral("00/00/0000")) + 20;
+  left->setMinimumWidth(date);
+  right->setMinimumWidth(date);
   pair->addWidget(left, ShortField);
   QLabel* label = MakeLabel(second, right, right->parentWidget());
-  label->setMinimumWidth(ShortLabel);
+  label->setMinimumWidth(std::max(ShortLabel, label->sizeHint().width()));
   pair->addWidget(label);
   pair->addWidget(right, ShortField);
   grid->addLayout(pair, row, 1);
@@ -88,15 +97,19 @@ CandidatureDetailPane::CandidatureDetailPane(const Theme& theme, QWidget* parent
   scroll_ = new QScrollArea(this);
   scroll_->setFrameShape(QFrame::NoFrame);
   scroll_->setWidgetResizable(true);
-  scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   scroll_->setFocusPolicy(Qt::NoFocus);
   QWidget* content = MakePlane(QStringLiteral("surface"), scroll_);
-  blocks_ = new QGridLayout(content);
-  blocks_->setContentsMargins(11, 10, 11, 12);
-  blocks_->setHorizontalSpacing(24);
-  blocks_->setVerticalSpacing(8);
+  columns_ = new QHBoxLayout(content);
+  columns_->setContentsMargins(11, 10, 11, 12);
+  for (QVBoxLayout** half : {&left_, &right_}) {
+    *half = new QVBoxLayout;
+    (*half)->setSpacing(8);
+    columns_->addLayout(*half, half == &left_ ? 1 : 0);
+  }
+  for (int i = 0; i < 3; ++i) lines_.append(MakeLine(theme, content));
   for (QWidget* part : {MakePostBlock(), MakeCompanyBlock(), MakeAdvertisementBlock(), MakeFollowUpBlock()})
     parts_.append(part);
+  AlignLabels();
   Arrange(false);
   scroll_->setWidget(content);
   column->addWidget(scroll_, 1);
@@ -141,6 +154,7 @@ QPlainTextEdit* CandidatureDetailPane::Lines(const QString& name, int height, QW
   auto* field = new QPlainTextEdit(parent);
   field->setObjectName(name);
   field->setTabChangesFocus(true);
+  field->document()->setDocumentMargin(3);
   field->setMinimumHeight(height);
   field->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
   fields_.append(field);
@@ -183,7 +197,7 @@ QWidget* CandidatureDetailPane::MakeCompanyBlock() {
   QLineEdit* street = Line(QStringLiteral("Adresse"), block);
   QLineEdit* postcode = Line(QStringLiteral("CP"), block);
   QLineEdit* town = Line(QStringLiteral("Ville"), block);
-  grid->addWidget(MakeLabel(tr("Adresse"), street, block), row, 0);
+  grid->addWidget(MakeFirstLabel(tr("Adresse"), street), row, 0);
   postcode->setAccessibleName(tr("Code postal"));
   postcode->setFixedWidth(postcode->fontMetrics().horizontalAdvance(QStringLiteral("000000")) + 18);
   town->setAccessibleName(tr("Ville"));
@@ -227,7 +241,7 @@ QWidget* CandidatureDetailPane::MakeFollowUpBlock() {
   });
   fields_.append(postuler_);
   const int row = grid->rowCount();
-  grid->addWidget(MakeLabel(tr("Statut candidature"), statut_, block), row, 0);
+  grid->addWidget(MakeFirstLabel(tr("Statut candidature"), statut_), row, 0);
   auto* status = new QHBoxLayout;
   status->setSpacing(6);
   status->addWidget(statut_, 1);
@@ -259,38 +273,41 @@ void CandidatureDetailPane::ChainTabs() {
   for (qsizetype i = 1; i < fields_.size(); ++i) setTabOrder(fields_[i - 1], fields_[i]);
 }
 
+// Every label has the width of the widest, so that the fields of all blocks stand in one line.
+void CandidatureDetailPane::AlignLabels() {
+  int widest = LabelColumn;
+  for (const QWidget* part : parts_)
+    for (const QLabel* label : part->findChildren<QLabel*>(FirstColumn))
+      widest = std::max(widest, label->sizeHint().width());
+  for (QWidget* part : parts_) static_cast<QGridLayout*>(part->layout())->setColumnMinimumWidth(0, widest);
+}
+
+// One column, or post and advertisement on the left, company and follow-up on the right.
 void CandidatureDetailPane::Arrange(bool twoColumns) {
   twoColumns_ = twoColumns;
-  for (QWidget* line : blocks_->parentWidget()->findChildren<QFrame*>(QStringLiteral("Filet"))) delete line;
-  for (QWidget* part : parts_) blocks_->removeWidget(part);
-  const auto line = [this](int row, int column) {
-    QFrame* hair = MakeLine(theme_, blocks_->parentWidget());
-    hair->setObjectName(QStringLiteral("Filet"));
-    blocks_->addWidget(hair, row, column);
-  };
-  for (int row = 0; row < 8; ++row) blocks_->setRowStretch(row, 0);
-  blocks_->setColumnStretch(0, 1);
-  blocks_->setColumnStretch(1, twoColumns ? 1 : 0);
   enum { Post, Company, Advertisement, FollowUp };
-  if (twoColumns) {
-    // Post and advertisement on the left, company and follow-up on the right.
-    const int rows = 3;
-    blocks_->addWidget(parts_[Post], 0, 0);
-    line(1, 0);
-    blocks_->addWidget(parts_[Advertisement], 2, 0, Qt::AlignTop);
-    blocks_->addWidget(parts_[Company], 0, 1, Qt::AlignTop);
-    line(1, 1);
-    blocks_->addWidget(parts_[FollowUp], 2, 1);
-    blocks_->setRowStretch(0, 1);
-    blocks_->setRowStretch(rows - 1, 1);
-    return;
+  const QList<int> order = twoColumns ? QList<int>{Post, Advertisement, Company, FollowUp}
+                                      : QList<int>{Post, Company, Advertisement, FollowUp};
+  for (QWidget* part : parts_) {
+    left_->removeWidget(part);
+    right_->removeWidget(part);
   }
-  int row = 0;
-  for (qsizetype i = 0; i < parts_.size(); ++i) {
-    if (i > 0) line(row++, 0);
-    blocks_->setRowStretch(row, i == Post || i == FollowUp ? 1 : 0);
-    blocks_->addWidget(parts_[i], row++, 0);
+  for (QFrame* line : lines_) {
+    left_->removeWidget(line);
+    right_->removeWidget(line);
+    line->hide();
   }
+  qsizetype line = 0;
+  for (const int part : order) {
+    QVBoxLayout* column = twoColumns && (part == Company || part == FollowUp) ? right_ : left_;
+    if (column->count() > 0) {
+      column->addWidget(lines_[line]);
+      lines_[line++]->show();
+    }
+    column->addWidget(parts_[part], part == Post || part == FollowUp ? 1 : 0);
+  }
+  columns_->setStretch(1, twoColumns ? 1 : 0);
+  columns_->setSpacing(twoColumns ? 24 : 0);
 }
 
 void CandidatureDetailPane::resizeEvent(QResizeEvent* event) {

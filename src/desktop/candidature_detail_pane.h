@@ -8,10 +8,12 @@
 #include "desktop/bouton_tlv.h"
 #include "desktop/choice_field.h"
 
-class QGridLayout;
+class QFrame;
+class QHBoxLayout;
 class QLineEdit;
 class QPlainTextEdit;
 class QScrollArea;
+class QVBoxLayout;
 
 namespace talvor {
 
@@ -42,6 +44,7 @@ class CandidatureDetailPane : public QWidget {
   QWidget* MakeAdvertisementBlock();
   QWidget* MakeFollowUpBlock();
   void FillChoices();
+  void AlignLabels();
   void Arrange(bool twoColumns);
   void ChainTabs();
   QLineEdit* Line(const QString& name, QWidget* parent);
@@ -53,7 +56,10 @@ class CandidatureDetailPane : public QWidget {
   ChoiceField* statut_ = nullptr;
   ChoiceField* nature_ = nullptr;
   QScrollArea* scroll_ = nullptr;
-  QGridLayout* blocks_ = nullptr;
+  QHBoxLayout* columns_ = nullptr;
+  QVBoxLayout* left_ = nullptr;
+  QVBoxLayout* right_ = nullptr;
+  QList<QFrame*> lines_;    // between the blocks
   QList<QWidget*> fields_;  // in reading order
   QList<QWidget*> parts_;   // post, company, advertisement, follow-up
   bool twoColumns_ = false;

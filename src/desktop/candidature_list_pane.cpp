@@ -15,7 +15,6 @@ CandidatureListPane::CandidatureListPane(const CandidatureTree& tree, const Them
   setProperty("pane", true);
   setAttribute(Qt::WA_StyledBackground);
   setAccessibleName(tr("Liste des candidatures"));
-  setMinimumWidth(240);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
@@ -43,7 +42,7 @@ QWidget* CandidatureListPane::MakeSegments() {
     option->setObjectName(QStringLiteral("Tri%1").arg(i));
     option->setCheckable(true);
     tri_->addButton(option, static_cast<int>(i));
-    inner->addWidget(option, 1);
+    inner->addWidget(option);
     connect(option, &QPushButton::clicked, this, [this, i] {
       if (OnTri) OnTri(i);
     });
@@ -76,7 +75,7 @@ QWidget* CandidatureListPane::MakeFoot() {
   QWidget* search = MakePlane(QStringLiteral("window"), foot);
   search->setObjectName(QStringLiteral("FrameRecherche"));
   auto* links = new QVBoxLayout(search);
-  links->setContentsMargins(10, 10, 10, 10);
+  links->setContentsMargins(6, 10, 6, 10);
   links->setSpacing(2);
   const std::array texts{tr("Rec&herche de nouvelles candidatures"),
                          tr("&Lancer une recherce automatique en\nfonction d'un CV")};

@@ -6,6 +6,11 @@
 #include <QSplitter>
 
 namespace talvor {
+namespace {
+
+const QList<int> WideSizes{312, 474, 494};
+
+}  // namespace
 
 FormCandWindow::FormCandWindow(FormCand& form, FormCandCapture& capture, Browser& browser, const Theme& theme,
                                QWidget* parent)
@@ -21,7 +26,7 @@ FormCandWindow::FormCandWindow(FormCand& form, FormCandCapture& capture, Browser
   web_ = new BrowserPane(theme, splitter_);
   web_->hide();
   for (int i = 0; i < splitter_->count(); ++i) splitter_->setStretchFactor(i, i);
-  splitter_->setSizes({312, 474, 494});
+  splitter_->setSizes(WideSizes);
   row->addWidget(splitter_);
 
   binder_.BindByName(*this, DetailFields, form_);
@@ -87,6 +92,24 @@ void FormCandWindow::Tick500() {
 
 void FormCandWindow::Tick3000() {
   Do([&] { form_.Timer2(); });
+}
+
+void FormCandWindow::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  if (auto* title = findChild<QWidget*>(QStringLiteral("Intitule"))) title->setFocus(Qt::OtherFocusReason);
+}
+
+// In a narrow window the fields come first.
+void FormCandWindow::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  constexpr int NarrowWindow = 1200;
+  const bool narrow = width() < NarrowWindow;
+  if (narrow == narrow_) return;
+  narrow_ = narrow;
+  if (!narrow) return splitter_->setSizes(WideSizes);
+  const int list = list_->minimumSizeHint().width();
+  const int web = web_->minimumWidth();
+  splitter_->setSizes({list, width() - list - web - 2 * splitter_->handleWidth(), web});
 }
 
 void FormCandWindow::StopTimers() {

@@ -38,6 +38,10 @@ class FormCandWindow : public QWidget {
   void Tick3000();
   void StopTimers();
 
+ protected:
+  void showEvent(QShowEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
  private:
   void ConnectList();
   void ConnectDetail();
@@ -55,6 +59,7 @@ class FormCandWindow : public QWidget {
   QTimer timer1_;
   QTimer timer2_;
   unsigned shownVersion_ = 0;
+  bool narrow_ = false;
 };
 
 }  // namespace talvor

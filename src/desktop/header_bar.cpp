@@ -23,6 +23,8 @@ class Tray : public QFrame {
  public:
   Tray(const Theme& theme, QWidget* parent) : QFrame(parent), theme_(theme) {
     setProperty("tray", true);
+    setFixedHeight(SlotSize.height() + 4);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(2, 2, 2, 2);
     row->setSpacing(2);
@@ -180,7 +182,7 @@ void HeaderBar::MoveFocus(std::size_t index, int step) {
 
 void HeaderBar::HoverSlot(std::size_t index, bool over) {
   if (index == Principale::CandidatureSlot) SurvolerCandidatures(principale_, over);
-  if (over) ShowInformation(SlotInformation(principale_, index));
+  if (over && width() >= NarrowWindow) ShowInformation(SlotInformation(principale_, index));
 }
 
 void HeaderBar::ShowInformation(TextView text) { information_->setText(ToQt(text)); }
@@ -205,8 +207,8 @@ void HeaderBar::Refresh(TextView page) {
 void HeaderBar::resizeEvent(QResizeEvent* event) {
   QFrame::resizeEvent(event);
   const bool narrow = width() < NarrowWindow;
+  if (narrow) information_->clear();
   logo_->setToolButtonStyle(narrow ? Qt::ToolButtonIconOnly : Qt::ToolButtonTextBesideIcon);
-  information_->setVisible(!narrow);
   for (IconTile* slot : slots_) slot->SetCompact(width() < NarrowestWindow);
 }
 

@@ -24,21 +24,21 @@ constexpr int LeastSide = 320;     // be narrower than this
 struct RowLook {
   const char16_t* title;
   const char16_t* icon;
-  char16_t mnemonic;  // the letter behind it in the title
+  const char16_t* mnemonic;  // the part of the title that begins with it
 };
 
 constexpr std::array<RowLook, 11> Looks{{
-    {u"Rédiger un Curriculum Vitae", u"cv", u'C'},
-    {u"Rédiger un modèle de lettre", u"letter", u'l'},
-    {u"Gérer les candidatures", u"case", u'G'},
-    {u"Statistiques, calendrier et alertes", u"calendar", u'S'},
-    {u"Réaliser un nouveau CV", u"doc-new", u'n'},
-    {u"Rattacher un CV existant", u"clip", u'x'},
-    {u"Réaliser un nouveau modèle de lettre", u"doc-new", u'n'},
-    {u"Gestion manuelle des candidatures", u"case", u'G'},
-    {u"Recherche des offres sur Internet", u"globe", u'I'},
-    {u"Justificatif de recherche d'emploi", u"print", u'J'},
-    {u"Retour au menu principal", u"undo", u'o'},
+    {u"Rédiger un Curriculum Vitae", u"cv", u"Curriculum"},
+    {u"Rédiger un modèle de lettre", u"letter", u"lettre"},
+    {u"Gérer les candidatures", u"case", u"Gérer"},
+    {u"Statistiques, calendrier et alertes", u"calendar", u"Stat"},
+    {u"Réaliser un nouveau CV", u"doc-new", u"nouveau"},
+    {u"Rattacher un CV existant", u"clip", u"xistant"},
+    {u"Réaliser un nouveau modèle de lettre", u"doc-new", u"nouveau"},
+    {u"Gestion manuelle des candidatures", u"case", u"Gestion"},
+    {u"Recherche des offres sur Internet", u"globe", u"Internet"},
+    {u"Justificatif de recherche d'emploi", u"print", u"Justificatif"},
+    {u"Retour au menu principal", u"undo", u"our"},
 }};
 
 const RowLook* LookOf(TextView title) {
@@ -208,7 +208,7 @@ void HomeWindow::Refresh() {
     const QString fileIcon =
         panel_.level == AssistantTexte::Level::CV ? QStringLiteral("cv") : QStringLiteral("letter");
     rows_[i]->SetRow(look == nullptr ? fileIcon : QString::fromUtf16(look->icon), row,
-                     look == nullptr ? -1 : ToQt(row.title).indexOf(QChar(look->mnemonic)));
+                     look == nullptr ? -1 : ToQt(row.title).indexOf(QString::fromUtf16(look->mnemonic)));
     rows_[i]->setVisible(!row.title.empty());
   }
   const QStringList lines = ShownText(panel_.Compteurs).split(QLatin1Char('\n'));
@@ -219,6 +219,11 @@ void HomeWindow::Refresh() {
     const QString count = line.mid(colon + 1).trimmed();
     counts_[i]->setText(count.isEmpty() ? QStringLiteral("0") : count);
   }
+}
+
+void HomeWindow::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  rows_.front()->setFocus(Qt::OtherFocusReason);
 }
 
 void HomeWindow::ShowAssistant(bool shown) { road_->setVisible(shown); }

@@ -46,6 +46,7 @@ class HomeWindow : public QWidget {
   void ShowAssistant(bool shown);
 
  protected:
+  void showEvent(QShowEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:

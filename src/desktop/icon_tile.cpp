@@ -105,7 +105,7 @@ void IconTile::PaintBadge(QPainter& painter, const QRect& picture) const {
   face.setPixelSize(10);
   face.setWeight(QFont::Bold);
   const int wide = QFontMetrics(face).horizontalAdvance(look_.badge) + 6;
-  const QRect badge(picture.right() - 5, 2, wide, 14);
+  const QRect badge(picture.right() - 5, picture.top() - 4, wide, 14);
   painter.setPen(Qt::NoPen);
   painter.setBrush(theme_.Color(QStringLiteral("newsoft")));
   painter.drawRoundedRect(badge, 4, 4);

@@ -31,7 +31,7 @@ std::filesystem::path DeliveredFiles() {
   const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
   const auto installed = program.parent_path().parent_path() / "share" / "talvor" / "data";
   return !error && std::filesystem::exists(installed, error) ? installed
-                                                            : std::filesystem::path{TALVOR_DATA_FOLDER};
+                                                             : std::filesystem::path{TALVOR_DATA_FOLDER};
 }
 
 }  // namespace

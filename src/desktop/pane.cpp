@@ -47,8 +47,11 @@ QFrame* MakeLine(const Theme& theme, QWidget* parent) {
 
 void TintIcon(const Theme& theme, QAbstractButton& button, const QString& icon, const QString& token,
               int size) {
-  button.setIconSize({size, size});
-  const auto take = [&button, &theme, icon, token, size] { button.setIcon(theme.Icon(icon, token, size)); };
+  const int gap = button.text().isEmpty() ? 0 : TextGap;
+  button.setIconSize({size + gap, size});
+  const auto take = [&button, &theme, icon, token, size, gap] {
+    button.setIcon(theme.Icon(icon, token, size, gap));
+  };
   QObject::connect(&theme, &Theme::Changed, &button, take);
   take();
 }

@@ -25,6 +25,17 @@ QByteArray ReadResource(const QString& path) {
   return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+// The picture with an empty strip on its right.
+QPixmap Widened(const QPixmap& picture, int gap) {
+  if (gap == 0) return picture;
+  const qreal ratio = picture.devicePixelRatio();
+  QPixmap wide(picture.width() + qRound(gap * ratio), picture.height());
+  wide.setDevicePixelRatio(ratio);
+  wide.fill(Qt::transparent);
+  QPainter(&wide).drawPixmap(0, 0, picture);
+  return wide;
+}
+
 struct Role {
   QPalette::ColorRole role;
   const char16_t* token;
@@ -143,11 +154,11 @@ QPixmap Theme::Pixmap(const QString& icon, const QString& token, int size, qreal
   return pixmap;
 }
 
-QIcon Theme::Icon(const QString& icon, const QString& token, int size) const {
+QIcon Theme::Icon(const QString& icon, const QString& token, int size, int gap) const {
   QIcon result;
   for (const qreal ratio : {1.0, 2.0}) {
-    result.addPixmap(Pixmap(icon, token, size, ratio));
-    result.addPixmap(Pixmap(icon, QStringLiteral("edge"), size, ratio), QIcon::Disabled);
+    result.addPixmap(Widened(Pixmap(icon, token, size, ratio), gap));
+    result.addPixmap(Widened(Pixmap(icon, QStringLiteral("edge"), size, ratio), gap), QIcon::Disabled);
   }
   return result;
 }

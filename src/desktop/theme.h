@@ -9,6 +9,9 @@
 
 namespace talvor {
 
+// The room between a button's icon and its text, beside the style's own.
+inline constexpr int TextGap = 3;
+
 class Theme : public QObject {
   Q_OBJECT
 
@@ -28,7 +31,8 @@ class Theme : public QObject {
   // One of our line icons in the colour of a token, `size` in pixels of the layout.
   [[nodiscard]] QPixmap Pixmap(const QString& icon, const QString& token, int size, qreal ratio = 2) const;
   // The same as an icon; disabled it takes the colour of inactive text.
-  [[nodiscard]] QIcon Icon(const QString& icon, const QString& token, int size = 16) const;
+  // With a gap it is wider by that many pixels on its right, for a text beside it.
+  [[nodiscard]] QIcon Icon(const QString& icon, const QString& token, int size = 16, int gap = 0) const;
 
  Q_SIGNALS:
   // After Apply: pictures that were tinted are to be taken anew.
