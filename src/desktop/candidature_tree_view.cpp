@@ -33,8 +33,7 @@ void CandidatureTreeView::Rebuild() {
   setUpdatesEnabled(false);
   const int at = verticalScrollBar()->value();
   model_.Reset();
-  expandAll();
-  doItemsLayout();
+  expandAll();  // lays the rows out at once
   verticalScrollBar()->setValue(at);
   setUpdatesEnabled(true);
 }
