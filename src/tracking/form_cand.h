@@ -56,6 +56,7 @@ class FormCand : public CandidatureDetail {
   std::optional<Tri> TriChoisi = Tri::Statuts;
   CandidatureTree Liste;
   bool ListeVisible = false;
+  unsigned ListeVersion = 0;       // counts the builds, for a view that has to take the tree over
   bool BoutonDroit = false;        // the last press on the tree was the right button
   bool MenuPostulerActif = false;  // whether the popup offers "Postuler"
 

@@ -34,6 +34,7 @@ void FormCand::InitListe() {
     principale_.ImageMenu[Principale::CandidatureSlot].picture = SlotPicture::ImageCandidature;
   base_.Close();
   ListeVisible = true;
+  ++ListeVersion;
 }
 
 void FormCand::ClicTri(Tri tri) {
@@ -71,6 +72,7 @@ void FormCand::MenuSupprimer() {
   Database::Open(clock_).DeleteAllRows();
   principale_.ImageMenu[Principale::CandidatureSlot].picture = SlotPicture::ImageNew;
   Liste = {};
+  ++ListeVersion;
 }
 
 void FormCand::Rechercher(std::size_t index) {

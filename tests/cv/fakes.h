@@ -75,6 +75,8 @@ class FakeBrowser : public Browser {
 class FakeClipboard : public Clipboard {
  public:
   std::optional<std::string> Image() override { return image; }
+  Text ReadText() const override { return {}; }
+  void Clear() override { image.reset(); }
 
   std::optional<std::string> image;
 };

@@ -1,0 +1,187 @@
+// talvor_captures FOLDER: a picture of each form with sample data, light and dark, 1280x800.
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QGuiApplication>
+#include <QTemporaryDir>
+#include <array>
+#include <cstdlib>
+#include <fstream>
+#include <iostream>
+
+#include "app/installation.h"
+#include "desktop/about_box.h"
+#include "desktop/application.h"
+#include "desktop/desktop.h"
+#include "desktop/qt_dialogs.h"
+#include "desktop/text_edge.h"
+#include "tracking/status_lists.h"
+
+namespace {
+
+using namespace talvor;
+
+class SampleClock : public Clock {
+ public:
+  Day Today() const override { return *DayOf({2026, 3, 11}); }
+};
+
+class SampleEnvironment : public Environment {
+ public:
+  explicit SampleEnvironment(Text folder) : folder_(std::move(folder)) {}
+  Text Variable(TextView name) const override { return name == u"AppData" ? folder_ : Text{}; }
+
+ private:
+  Text folder_;
+};
+
+struct Sample {
+  TextView date, title, company, status;
+};
+
+constexpr std::array<Sample, 18> Samples{{
+    {u"14/01/2026", u"Chargée De Projet", u"Mairie de Brenac", ListeStatuts[3]},
+    {u"20/01/2026", u"Rédactrice Web", u"Studio Calque", ListeStatuts[3]},
+    {u"02/02/2026", u"Animatrice De Réseaux", u"Pixelia", ListeStatuts[3]},
+    {u"22/01/2026", u"Chargée De Communication", u"Office de tourisme", ListeStatuts[4]},
+    {u"28/01/2026", u"Attachée De Presse", u"Agence Sillage", ListeStatuts[4]},
+    {u"09/03/2026", u"Chargée De Communication Interne", u"VALMONT ENERGIE", ListeStatuts[0]},
+    {u"10/03/2026", u"Assistante Marketing", u"Lumora", ListeStatuts[0]},
+    {u"11/03/2026", u"Responsable Éditoriale", u"Éditions du Pont", ListeStatuts[0]},
+    {u"11/03/2026", u"Webmestre", u"Terres de Saône", ListeStatuts[0]},
+    {u"12/02/2026", u"Assistante De Direction", u"Bellecour Conseil", ListeStatuts[6]},
+    {u"16/02/2026", u"Chargée De Communication", u"Atelier Vercors", ListeStatuts[5]},
+    {u"23/02/2026", u"Cheffe De Projet", u"Nordalis Conseil", ListeStatuts[5]},
+    {u"08/01/2026", u"Rédactrice", u"Groupe Marelle", ListeStatuts[2]},
+    {u"12/01/2026", u"Assistante Éditoriale", u"Plume et Papier", ListeStatuts[2]},
+    {u"19/01/2026", u"Chargée De Contenu", u"Hestia", ListeStatuts[2]},
+    {u"26/01/2026", u"Attachée De Presse", u"Théâtre des Quais", ListeStatuts[2]},
+    {u"05/01/2026", u"Assistante Communication", u"Fondation Rivage", SansReponseApresEntretien},
+    {u"04/03/2026", u"Chargée De Mission", u"Métropole", ListeStatuts[1]},
+}};
+constexpr std::int16_t Detailed = 6;
+
+void FillDatabase(const Clock& clock) {
+  Database database = Database::Open(clock);
+  for (const Sample& sample : Samples) {
+    Candidature row;
+    row.Datediffussion = sample.date;
+    row.Intitule = sample.title;
+    row.Societe = sample.company;
+    row.Statut = sample.status;
+    const PendingRow pending = database.BeginRow();
+    if (pending.num == Detailed) {
+      row.Nature = u"CDI,CONTRAT A DUREE INDETERMINEE";
+      row.Lieu = u"Lyon";
+      row.Duree = u"Indéterminée";
+      row.Salaire = u"32000 Euros";
+      row.Description =
+          u"Au sein de la direction de la communication, vous animez le dispositif de communication interne "
+          u": "
+          u"intranet, lettre mensuelle, évènements. Vous rédigez les supports et mesurez les résultats.";
+      row.NomContact = u"Claire Hauteville";
+      row.Telephone = u"04 72 00 00 14";
+      row.courriel = u"recrutement@valmont-energie.example";
+      row.Adresse = u"18 quai des Tanneurs";
+      row.CP = u"69002";
+      row.Ville = u"LYON";
+      row.Reference = u"CI-2026-114";
+      row.Origine = u"EMPLOI-EN-LIGNE";
+      row.www = u"http://www.emploi-en-ligne.example/offres/4821";
+      row.DateLimite = u"31/03/2026";
+      row.Remarques = u"Offre vue après le salon de Lyon. Appeler avant envoi.";
+    }
+    database.Save(pending, row);
+  }
+}
+
+void FillFiles(const std::filesystem::path& folder) {
+  for (const char* name : {"CV/Assistante Com.dat", "CV/Julie Anglais.dat", "CV/Marchand Julie.dat",
+                           "CV/Marchand Julie.docx", "CV/Portfolio.pdf", "Lettres/Julie Marchand (ER).dat",
+                           "Lettres/Julie Marchand (ES).dat", "Lettres/Julie Marchand (IR).dat"})
+    std::ofstream(folder / name) << "Nom=Marchand\r\n";
+}
+
+void Settle(QtShell& shell) {
+  shell.Wait(60);
+  shell.PumpEvents();
+}
+
+class Photographer {
+ public:
+  Photographer(Desktop& desktop, QString folder, QString suffix)
+      : desktop_(desktop), folder_(std::move(folder)), suffix_(std::move(suffix)) {}
+
+  void Take(const char16_t* name, QWidget* window = nullptr) {
+    Settle(desktop_.Windows());
+    QWidget* shown = window == nullptr ? &desktop_.Main() : window;
+    const QString file = folder_ + QLatin1Char('/') + QString::fromUtf16(name) + suffix_;
+    if (shown->grab().save(file)) std::cout << file.toStdString() << '\n';
+  }
+
+ private:
+  Desktop& desktop_;
+  QString folder_;
+  QString suffix_;
+};
+
+void PhotographForms(Desktop& desktop, const Theme& theme, Photographer photographer) {
+  QtShell& shell = desktop.Windows();
+  photographer.Take(u"accueil");
+  shell.Show(u"FormCand");
+  FormCandWindow& window = *desktop.CandidatureWindow();
+  photographer.Take(u"candidatures-vide");
+  window.Do([&] { desktop.Candidatures().ChargerCandidature(Detailed); });
+  window.List().Tree().setCurrentIndex(window.List().Tree().Model().IndexOf(u"s6"));
+  photographer.Take(u"candidatures-sans-navigateur");
+  window.Do([&] { desktop.Candidatures().CadreWebVisible = true; });
+  photographer.Take(u"candidatures");
+  window.Do([&] { desktop.Candidatures().ClicImage2(); });
+  photographer.Take(u"candidatures-statuts");
+  window.Do([&] { desktop.Candidatures().QuitterStatut(); });
+  desktop.Main().resize(1024, 768);
+  photographer.Take(u"candidatures-1024");
+  desktop.Main().resize(1280, 800);
+  AboutBox about(theme, nullptr);
+  photographer.Take(u"a-propos", &about);
+}
+
+int Run(Application& application, const QString& folder) {
+  const QTemporaryDir scratch;
+  const SampleClock clock;
+  const Text data = FromQt(scratch.path());
+  const SampleEnvironment environment(data);
+  const std::filesystem::path workspace = workspace_paths::UsualDataFolder(environment);
+  InstallerDossier(workspace, {});
+  FillFiles(workspace);
+  std::filesystem::current_path(workspace);
+  FillDatabase(clock);
+  QtDialogs dialogs;
+  for (const auto palette : {Theme::Palette::Light, Theme::Palette::Dark}) {
+    Theme theme;
+    theme.Apply(palette);
+    Desktop desktop(theme, environment, clock, dialogs);
+    if (!desktop.StartAtOnce()) return EXIT_FAILURE;
+    desktop.Main().resize(1280, 800);
+    const bool light = palette == Theme::Palette::Light;
+    PhotographForms(
+        desktop, theme,
+        Photographer(desktop, folder, light ? QStringLiteral(".png") : QStringLiteral("-sombre.png")));
+    desktop.Windows().Unload(u"FormCand");
+  }
+  static_cast<void>(application);
+  return EXIT_SUCCESS;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  Application application(argc, argv);
+  if (argc != 2) {
+    std::cerr << "usage : talvor_captures DOSSIER\n";
+    return 2;
+  }
+  const QString folder = QDir(QString::fromLocal8Bit(argv[1])).absolutePath();
+  QDir().mkpath(folder);
+  return Run(application, folder);
+}

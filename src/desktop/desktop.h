@@ -1,0 +1,71 @@
+// The whole program over its windows: who owns what, and how the forms meet.
+#pragma once
+
+#include <QPointer>
+#include <memory>
+#include <optional>
+
+#include "ads/capture.h"
+#include "desktop/form_cand_window.h"
+#include "desktop/home_window.h"
+#include "desktop/main_window.h"
+#include "desktop/splash.h"
+#include "desktop/web_browser.h"
+#include "platform/environment.h"
+#include "shell/guide.h"
+#include "shell/home_panel.h"
+
+namespace talvor {
+
+class Desktop {
+ public:
+  // What the program runs on must outlive it.
+  Desktop(const Theme& theme, const Environment& environment, const Clock& clock, Dialogs& dialogs);
+  ~Desktop();
+
+  // The start of the program, from the splash to the home panel. False when it is to end at once, the
+  // reason told. Throws StoreError when the database fails.
+  [[nodiscard]] bool Start();
+  // The same without the splash and its waits.
+  [[nodiscard]] bool StartAtOnce();
+  // No timer ticks any more: a failure has been caught.
+  void Stop();
+
+  [[nodiscard]] MainWindow& Main() { return *main_; }
+  [[nodiscard]] QtShell& Windows() { return shell_; }
+  [[nodiscard]] Principale& Model() { return principale_; }
+  [[nodiscard]] FormCand& Candidatures() { return *formCand_; }
+  // The window of the candidatures, or null.
+  [[nodiscard]] FormCandWindow* CandidatureWindow() const { return formCandWindow_; }
+
+ private:
+  void MakeFormCand();
+  void RegisterForms();
+  void RegisterHome();
+  void RegisterCandidatures();
+  void RegisterGuide();
+  void RegisterSplash();
+  void RefreshMain();
+  bool LoadPrincipale();
+
+  const Theme& theme_;
+  const Environment& environment_;
+  const Clock& clock_;
+  Dialogs& dialogs_;
+
+  QtShell shell_;
+  WebBrowser browser_;
+  Principale principale_{shell_};
+  AssistantTexte assistantTexte_{principale_, shell_};
+  Guide guide_{principale_, shell_};
+  Depart depart_;
+  // Begun anew at each load of the form, in its place.
+  std::optional<FormCand> formCand_;
+  std::optional<FormCandCapture> capture_;
+
+  std::unique_ptr<MainWindow> main_;
+  QPointer<FormCandWindow> formCandWindow_;
+  QPointer<HomeWindow> homeWindow_;
+};
+
+}  // namespace talvor

@@ -1,0 +1,65 @@
+// The window of `FormCand`: list, detail and browser pane over the view model.
+#pragma once
+
+#include <QTimer>
+#include <QWidget>
+#include <functional>
+
+#include "ads/capture.h"
+#include "desktop/browser_pane.h"
+#include "desktop/candidature_detail_pane.h"
+#include "desktop/candidature_list_pane.h"
+#include "desktop/field_binder.h"
+
+class QSplitter;
+
+namespace talvor {
+
+class FormCandWindow : public QWidget {
+ public:
+  // The view models must outlive the window.
+  FormCandWindow(FormCand& form, FormCandCapture& capture, Browser& browser, const Theme& theme,
+                 QWidget* parent);
+
+  // Called after each action, for what other windows show.
+  std::function<void()> OnActed;
+
+  // Runs an action of the view model and shows what has become of it. The window may be gone when the
+  // action returns.
+  void Do(const std::function<void()>& action);
+  // Shows the view model as it stands.
+  void Refresh();
+
+  [[nodiscard]] CandidatureListPane& List() { return *list_; }
+  [[nodiscard]] CandidatureDetailPane& Detail() { return *detail_; }
+  [[nodiscard]] BrowserPane& Web() { return *web_; }
+  // The ticks of both timers, for a program that does not wait.
+  void Tick500();
+  void Tick3000();
+  void StopTimers();
+
+ protected:
+  void showEvent(QShowEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  void ConnectList();
+  void ConnectDetail();
+  void OpenItemMenu();
+
+  FormCand& form_;
+  FormCandCapture& capture_;
+  Browser& browser_;
+  const Theme& theme_;
+  FieldBinder binder_;
+  QSplitter* splitter_;
+  CandidatureListPane* list_;
+  CandidatureDetailPane* detail_;
+  BrowserPane* web_;
+  QTimer timer1_;
+  QTimer timer2_;
+  unsigned shownVersion_ = 0;
+  bool narrow_ = false;
+};
+
+}  // namespace talvor

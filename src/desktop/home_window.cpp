@@ -1,0 +1,237 @@
+#include "desktop/home_window.h"
+
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPainter>
+#include <QPointer>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "desktop/pane.h"
+#include "desktop/road_picture.h"
+#include "desktop/text_edge.h"
+
+namespace talvor {
+namespace {
+
+constexpr QSize RowSize{600, 92};
+constexpr int SideWidth = 408;
+constexpr int RoomForSide = 1100;  // the right column narrows under that width, and goes where it would
+constexpr int LeastSide = 320;     // be narrower than this
+
+struct RowLook {
+  const char16_t* title;
+  const char16_t* icon;
+  const char16_t* mnemonic;  // the part of the title that begins with it
+};
+
+constexpr std::array<RowLook, 11> Looks{{
+    {u"Rédiger un Curriculum Vitae", u"cv", u"Curriculum"},
+    {u"Rédiger un modèle de lettre", u"letter", u"lettre"},
+    {u"Gérer les candidatures", u"case", u"Gérer"},
+    {u"Statistiques, calendrier et alertes", u"calendar", u"Stat"},
+    {u"Réaliser un nouveau CV", u"doc-new", u"nouveau"},
+    {u"Rattacher un CV existant", u"clip", u"xistant"},
+    {u"Réaliser un nouveau modèle de lettre", u"doc-new", u"nouveau"},
+    {u"Gestion manuelle des candidatures", u"case", u"Gestion"},
+    {u"Recherche des offres sur Internet", u"globe", u"Internet"},
+    {u"Justificatif de recherche d'emploi", u"print", u"Justificatif"},
+    {u"Retour au menu principal", u"undo", u"our"},
+}};
+
+const RowLook* LookOf(TextView title) {
+  for (const RowLook& look : Looks)
+    if (title == look.title) return &look;
+  return nullptr;
+}
+
+QFont Sized(QFont font, int pixels, QFont::Weight weight) {
+  font.setPixelSize(pixels);
+  font.setWeight(weight);
+  return font;
+}
+
+}  // namespace
+
+HomeRowButton::HomeRowButton(const Theme& theme, QWidget* parent) : QAbstractButton(parent), theme_(theme) {
+  setFocusPolicy(Qt::StrongFocus);
+  setCursor(Qt::PointingHandCursor);
+  connect(&theme, &Theme::Changed, this, qOverload<>(&QWidget::update));
+}
+
+QSize HomeRowButton::sizeHint() const { return RowSize; }
+
+void HomeRowButton::SetRow(const QString& icon, const HomeRow& row, qsizetype mnemonic) {
+  icon_ = icon;
+  row_ = row;
+  QString text = ToQt(row.title).replace(QLatin1Char('&'), QLatin1String("&&"));
+  if (mnemonic >= 0) text.insert(mnemonic, QLatin1Char('&'));
+  setText(text);
+  setAccessibleName(ToQt(row.title));
+  setAccessibleDescription(ToQt(row.explanation));
+  update();
+}
+
+void HomeRowButton::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const bool lit = underMouse() || hasFocus() || isDown();
+  const QString plane = lit ? QStringLiteral("psoft") : QStringLiteral("surface");
+  painter.setBrush(theme_.Color(plane));
+  painter.setPen(QPen(theme_.Color(lit ? QStringLiteral("primary") : QStringLiteral("line")), 1));
+  painter.drawRoundedRect(QRectF(rect()).adjusted(2.5, 2.5, -2.5, -2.5), 8, 8);
+  if (hasFocus()) {
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(theme_.Color(QStringLiteral("focus")), 2));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 10, 10);
+  }
+
+  constexpr int Tile = 52;
+  constexpr int Picture = 24;
+  const QRect tile(21, (height() - Tile) / 2, Tile, Tile);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(theme_.Color(lit ? QStringLiteral("primary") : QStringLiteral("psoft")));
+  painter.drawRoundedRect(tile, 10, 10);
+  painter.drawPixmap(tile.center() - QPoint(Picture / 2 - 1, Picture / 2 - 1),
+                     theme_.Pixmap(icon_, lit ? QStringLiteral("onprimary") : QStringLiteral("primary"),
+                                   Picture, devicePixelRatioF()));
+
+  const int left = tile.right() + 19;
+  const QRect texts(left, 0, width() - left - 52, height());
+  const int middle = height() / 2;
+  painter.setFont(Sized(font(), 17, QFont::DemiBold));
+  painter.setPen(theme_.Color(QStringLiteral("text")));
+  painter.drawText(QRect(texts.left(), middle - 25, texts.width(), 26),
+                   Qt::AlignVCenter | Qt::TextShowMnemonic | Qt::TextSingleLine, text());
+  painter.setFont(Sized(font(), 13, QFont::Normal));
+  painter.setPen(theme_.Color(QStringLiteral("text2")));
+  painter.drawText(QRect(texts.left(), middle + 2, texts.width(), 20), Qt::AlignVCenter | Qt::TextSingleLine,
+                   painter.fontMetrics().elidedText(ToQt(row_.explanation), Qt::ElideRight, texts.width()));
+  painter.drawPixmap(width() - 42, middle - 10,
+                     theme_.Pixmap(QStringLiteral("chev-r"), QStringLiteral("text2"), 20));
+}
+
+void HomeRowButton::enterEvent(QEnterEvent* event) {
+  update();
+  QAbstractButton::enterEvent(event);
+}
+
+void HomeRowButton::leaveEvent(QEvent* event) {
+  update();
+  QAbstractButton::leaveEvent(event);
+}
+
+void HomeRowButton::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return click();
+  QAbstractButton::keyPressEvent(event);
+}
+
+HomeWindow::HomeWindow(AssistantTexte& panel, const Theme& theme, QWidget* parent)
+    : QWidget(parent), panel_(panel), theme_(theme) {
+  setObjectName(QStringLiteral("AssistantTexte"));
+  setProperty("plane", QStringLiteral("window"));
+  setProperty("pane", true);
+  setAttribute(Qt::WA_StyledBackground);
+  auto* columns = new QHBoxLayout(this);
+  columns->setContentsMargins(24, 24, 24, 24);
+  columns->setSpacing(56);
+  columns->addStretch(1);
+
+  auto* left = new QVBoxLayout;
+  left->setSpacing(8);
+  left->addStretch(1);
+  auto* question = new QLabel(tr("Vous souhaitez..."), this);
+  question->setProperty("role", QStringLiteral("hero"));
+  left->addWidget(question);
+  left->addSpacing(10);
+  for (HomeRowButton*& row : rows_) {
+    row = new HomeRowButton(theme, this);
+    row->setFixedHeight(RowSize.height() + 4);
+    row->setMinimumWidth(440);
+    row->setMaximumWidth(RowSize.width() + 4);
+    connect(row, &QAbstractButton::clicked, this, [this, row] { Click(*row); });
+    left->addWidget(row);
+  }
+  left->addStretch(1);
+  columns->addLayout(left, 8);
+
+  side_ = new QWidget(this);
+  auto* right = new QVBoxLayout(side_);
+  right->setContentsMargins(0, 0, 0, 0);
+  right->setSpacing(16);
+  right->addStretch(1);
+  road_ = new RoadPicture(theme, side_);
+  right->addWidget(road_);
+  right->addWidget(MakeCounts());
+  right->addStretch(1);
+  columns->addWidget(side_);
+  columns->addStretch(1);
+  Refresh();
+}
+
+QWidget* HomeWindow::MakeCounts() {
+  auto* card = new QFrame(side_);
+  card->setProperty("card", true);
+  auto* lines = new QVBoxLayout(card);
+  lines->setContentsMargins(20, 6, 20, 6);
+  lines->setSpacing(0);
+  for (std::size_t i = 0; i < counts_.size(); ++i) {
+    if (i > 0) lines->addWidget(MakeLine(theme_, card));
+    auto* line = new QHBoxLayout;
+    line->setContentsMargins(0, 11, 0, 11);
+    countNames_[i] = new QLabel(card);
+    countNames_[i]->setProperty("role", QStringLiteral("label"));
+    counts_[i] = new QLabel(card);
+    counts_[i]->setStyleSheet(QStringLiteral("font-size: 20px; font-weight: 600;"));
+    line->addWidget(countNames_[i], 1);
+    line->addWidget(counts_[i]);
+    lines->addLayout(line);
+  }
+  return card;
+}
+
+void HomeWindow::Click(const HomeRowButton& button) {
+  const QPointer<HomeWindow> self(this);
+  const Text title = button.Row().title;
+  panel_.Clic(title);
+  if (!self) return;
+  Refresh();
+  if (OnActed) OnActed();
+}
+
+void HomeWindow::Refresh() {
+  for (std::size_t i = 0; i < rows_.size(); ++i) {
+    const HomeRow row = i < panel_.Label1.size() ? panel_.Label1[i] : HomeRow{};
+    const RowLook* look = LookOf(row.title);
+    const QString fileIcon =
+        panel_.level == AssistantTexte::Level::CV ? QStringLiteral("cv") : QStringLiteral("letter");
+    rows_[i]->SetRow(look == nullptr ? fileIcon : QString::fromUtf16(look->icon), row,
+                     look == nullptr ? -1 : ToQt(row.title).indexOf(QString::fromUtf16(look->mnemonic)));
+    rows_[i]->setVisible(!row.title.empty());
+  }
+  const QStringList lines = ShownText(panel_.Compteurs).split(QLatin1Char('\n'));
+  for (std::size_t i = 0; i < counts_.size(); ++i) {
+    const QString line = lines.value(static_cast<qsizetype>(i));
+    const qsizetype colon = line.indexOf(QLatin1Char(':'));
+    countNames_[i]->setText(line.left(colon + 1));
+    const QString count = line.mid(colon + 1).trimmed();
+    counts_[i]->setText(count.isEmpty() ? QStringLiteral("0") : count);
+  }
+}
+
+void HomeWindow::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  rows_.front()->setFocus(Qt::OtherFocusReason);
+}
+
+void HomeWindow::ShowAssistant(bool shown) { road_->setVisible(shown); }
+
+void HomeWindow::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  const int room = width() - RowSize.width() - 110;
+  side_->setFixedWidth(std::clamp(width() < RoomForSide ? room : SideWidth, LeastSide, SideWidth));
+}
+
+}  // namespace talvor

@@ -1,0 +1,65 @@
+// The window of `AssistantTexte`, with the decorative picture `Assistant` and the counts.
+#pragma once
+
+#include <QAbstractButton>
+#include <QWidget>
+#include <array>
+#include <functional>
+
+#include "desktop/theme.h"
+#include "shell/home_panel.h"
+
+class QGridLayout;
+class QLabel;
+
+namespace talvor {
+
+// A row of the panel: a tile, a title, an explanation and a chevron.
+class HomeRowButton : public QAbstractButton {
+ public:
+  HomeRowButton(const Theme& theme, QWidget* parent);
+
+  // The title in plain text, and where its mnemonic stands in it, -1 for none.
+  void SetRow(const QString& icon, const HomeRow& row, qsizetype mnemonic);
+  [[nodiscard]] const HomeRow& Row() const { return row_; }
+  [[nodiscard]] QSize sizeHint() const override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void enterEvent(QEnterEvent* event) override;
+  void leaveEvent(QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  const Theme& theme_;
+  QString icon_;
+  HomeRow row_;
+};
+
+class HomeWindow : public QWidget {
+ public:
+  HomeWindow(AssistantTexte& panel, const Theme& theme, QWidget* parent);
+
+  std::function<void()> OnActed;
+  void Refresh();
+  // The picture beside the rows, the form `Assistant`.
+  void ShowAssistant(bool shown);
+
+ protected:
+  void showEvent(QShowEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  QWidget* MakeCounts();
+  void Click(const HomeRowButton& button);
+
+  AssistantTexte& panel_;
+  const Theme& theme_;
+  QWidget* side_;
+  QWidget* road_;
+  std::array<HomeRowButton*, 4> rows_{};
+  std::array<QLabel*, 3> countNames_{};
+  std::array<QLabel*, 3> counts_{};
+};
+
+}  // namespace talvor

@@ -1,0 +1,61 @@
+// A picture over a caption of one or two lines: the buttons of the header and its slots.
+#pragma once
+
+#include <QAbstractButton>
+#include <functional>
+
+#include "desktop/theme.h"
+
+namespace talvor {
+
+class IconTile : public QAbstractButton {
+ public:
+  struct Look {
+    QString icon;
+    QString caption;  // no mnemonic mark
+    QString badge;    // a kind beside the picture
+    bool current = false;
+    bool free = false;  // the entry that makes a new one
+    bool operator==(const Look&) const = default;
+  };
+
+  IconTile(const Theme& theme, QSize size, QWidget* parent);
+
+  void SetLook(const Look& look);
+  [[nodiscard]] const Look& Shown() const { return look_; }
+  // Draws the picture alone.
+  void SetCompact(bool compact);
+
+  std::function<void(bool over)> OnHover;  // pointer or focus comes and goes
+  std::function<void()> OnOpen;            // double click, Ctrl+Enter
+  std::function<void(int step)> OnArrow;   // -1 or 1
+
+  [[nodiscard]] QSize sizeHint() const override { return size_; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void enterEvent(QEnterEvent* event) override;
+  void leaveEvent(QEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  void Hover(bool over);
+  void PaintPlane(QPainter& painter) const;
+  void PaintCaption(QPainter& painter, const QRect& room) const;
+  void PaintBadge(QPainter& painter, const QRect& picture) const;
+  [[nodiscard]] QString Tone() const;
+
+  const Theme& theme_;
+  QSize size_;
+  Look look_;
+  bool compact_ = false;
+  bool over_ = false;
+};
+
+// A name on at most two lines of that width, cut at blanks, each elided when it is too long.
+[[nodiscard]] QStringList TwoLines(const QString& name, const QFontMetrics& metrics, int width);
+
+}  // namespace talvor

@@ -1,0 +1,102 @@
+#include "desktop/main_window.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+namespace talvor {
+namespace {
+
+constexpr QSize FirstSize{1280, 800};
+constexpr QSize LeastSize{1000, 600};
+
+}  // namespace
+
+MainWindow::MainWindow(Principale& principale, QtShell& shell, const Theme& theme) : menu_(shell) {
+  setObjectName(QStringLiteral("Principale"));
+  setWindowTitle(QStringLiteral("Talvor"));
+  setWindowIcon(QIcon(QStringLiteral(":/icons/logo.svg")));
+  setMinimumSize(LeastSize);
+  resize(FirstSize);
+
+  auto* centre = new QWidget(this);
+  auto* column = new QVBoxLayout(centre);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(0);
+  header_ = new HeaderBar(principale, theme, centre);
+  pages_ = new QStackedWidget(centre);
+  column->addWidget(header_);
+  column->addWidget(pages_, 1);
+  setCentralWidget(centre);
+
+  shell.SetFrame(this, pages_);
+  shell.OnPageChanged = [this](TextView page) {
+    page_ = page;
+    Refresh();
+  };
+  header_->OnLogo = [this] { menu_.ClicLogo(); };
+  header_->OnMenu = [this] { menu_.ClicMenu(); };
+  header_->OnSave = [this] { menu_.ClicSauver(); };
+  header_->OnSlotClick = [&principale](std::size_t slot) {
+    principale.IndexMenu = static_cast<std::int16_t>(slot);
+  };
+  header_->OnSlotOpen = [this](std::size_t slot) {
+    if (slot == Principale::CandidatureSlot) menu_.DoubleClicCandidatures();
+  };
+  AddShortcuts();
+}
+
+void MainWindow::Refresh() { header_->Refresh(page_); }
+
+void MainWindow::AddShortcuts() {
+  const auto add = [this](const QKeySequence& keys, auto action) {
+    connect(new QShortcut(keys, this), &QShortcut::activated, this, action);
+  };
+  add(QKeySequence(QKeySequence::Print), [this] {
+    if (header_->OnPrint) header_->OnPrint();
+  });
+  add(QKeySequence(Qt::CTRL | Qt::Key_G), [this] { menu_.DoubleClicCandidatures(); });
+  add(QKeySequence(Qt::Key_F6), [this] { StepPane(1); });
+  add(QKeySequence(Qt::SHIFT | Qt::Key_F6), [this] { StepPane(-1); });
+  add(QKeySequence(Qt::Key_F1), [this] {
+    if (OnHelp) OnHelp();
+  });
+}
+
+// The panes of the page at the front are its widgets with the property "pane", in reading order; the
+// header comes first.
+void MainWindow::StepPane(int step) {
+  QList<QWidget*> panes{header_};
+  if (QWidget* page = pages_->currentWidget())
+    for (QWidget* widget : page->findChildren<QWidget*>())
+      if (widget->property("pane").toBool() && widget->isVisible()) panes.append(widget);
+  qsizetype at = 0;
+  for (qsizetype i = 0; i < panes.size(); ++i)
+    if (QWidget* focused = QApplication::focusWidget(); focused && panes[i]->isAncestorOf(focused)) at = i;
+  QWidget* next = panes[(at + step + panes.size()) % panes.size()];
+  for (QWidget* widget = next->nextInFocusChain(); widget != next; widget = widget->nextInFocusChain())
+    if (next->isAncestorOf(widget) && widget->isVisible() && (widget->focusPolicy() & Qt::TabFocus)) {
+      widget->setFocus(Qt::TabFocusReason);
+      return;
+    }
+}
+
+void MainWindow::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::ActivationChange && isActiveWindow()) menu_.Activer();
+}
+
+void MainWindow::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  menu_.Redimensionner();
+  if (OnResized) OnResized();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  menu_.Decharger();
+  event->accept();
+  if (OnClosed) OnClosed();
+}
+
+}  // namespace talvor

@@ -1,0 +1,41 @@
+// The window of `Principale`: header and pages.
+#pragma once
+
+#include <QMainWindow>
+#include <QStackedWidget>
+
+#include "desktop/header_bar.h"
+#include "desktop/qt_shell.h"
+
+namespace talvor {
+
+class MainWindow : public QMainWindow {
+ public:
+  MainWindow(Principale& principale, QtShell& shell, const Theme& theme);
+
+  // Shows what the view models say.
+  void Refresh();
+  [[nodiscard]] HeaderBar& Header() { return *header_; }
+  [[nodiscard]] QStackedWidget* Pages() { return pages_; }
+
+  std::function<void()> OnResized;
+  std::function<void()> OnClosed;
+  // F1: the last hint again.
+  std::function<void()> OnHelp;
+
+ protected:
+  void changeEvent(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  void AddShortcuts();
+  void StepPane(int step);
+
+  MainMenu menu_;
+  HeaderBar* header_;
+  QStackedWidget* pages_;
+  Text page_;
+};
+
+}  // namespace talvor

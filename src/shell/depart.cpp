@@ -1,0 +1,60 @@
+#include "shell/depart.h"
+
+namespace talvor {
+namespace {
+
+constexpr TextView SmallScreen =
+    u"La définition de votre écran est insuffisante pour exécuter correctement Talvor. Le minimum requis est "
+    u"de 1024x768.";
+
+}  // namespace
+
+Depart::Depart(Dialogs& dialogs, Shell& shell) : dialogs_(dialogs), shell_(shell) {}
+
+bool Depart::Charger(ScreenSize screen, const Steps& steps) {
+  // The check only warns.
+  constexpr int MinWidth = 15000;
+  constexpr int MinHeight = 11000;
+  if (screen.height * TwipsPerPixel < MinHeight || screen.width * TwipsPerPixel < MinWidth)
+    dialogs_.Tell(SmallScreen);
+
+  steps.prepareFolder();
+  PlaySplash(steps);
+  if (!steps.showPrincipale()) return false;
+
+  constexpr int WideFrame = 22000;
+  if (steps.principaleWidth() * TwipsPerPixel < WideFrame) steps.maximise();
+
+  shell_.Load(u"AssistantTexte");
+  shell_.PumpEvents();
+  Wait(200);
+  shell_.Load(u"Assistant");
+
+  shell_.Unload(u"Ombre");
+  shell_.Unload(u"Depart");
+  return true;
+}
+
+void Depart::PlaySplash(const Steps& steps) {
+  shell_.PumpEvents();
+  for (int i = 1; i <= 255; i += 20) {
+    shell_.PumpEvents();
+    Wait(40);
+    Opacite = i;
+    shell_.Load(u"Ombre");
+    if (i / 5 < 35) OpaciteOmbre = i / 5;
+    PictureOffset += 120;
+    steps.onChange();
+  }
+  for (int i = 0; i < 100; ++i) {
+    Wait(20);
+    PictureOffset += 50;
+    steps.onChange();
+  }
+}
+
+void Depart::Wait(int milliseconds) {
+  if (!shortened_) shell_.Wait(milliseconds);
+}
+
+}  // namespace talvor

@@ -1,0 +1,53 @@
+// `Depart`, the splash: the first form, whose load starts the program.
+#pragma once
+
+#include <functional>
+
+#include "platform/dialogs.h"
+#include "platform/shell.h"
+
+namespace talvor {
+
+// Lengths of the splash and of the screen check are told in twips.
+inline constexpr int TwipsPerPixel = 15;
+
+struct ScreenSize {
+  int width = 0;  // pixels
+  int height = 0;
+};
+
+class Depart {
+ public:
+  Depart(Dialogs& dialogs, Shell& shell);
+
+  int Opacite = 0;        // of the splash, 0 to 255
+  int OpaciteOmbre = 1;   // of its shadow `Ombre`
+  int PictureOffset = 0;  // twips that the picture has slid to the left
+
+  // What the load needs of the floors around it. `showPrincipale` loads the model of the main window
+  // and shows it; false ends the program at once.
+  struct Steps {
+    std::function<void()> prepareFolder;
+    std::function<bool()> showPrincipale;
+    std::function<int()> principaleWidth;  // pixels
+    std::function<void()> maximise;
+    std::function<void()> onChange;  // the splash is to be drawn again
+  };
+
+  // Warns on a small screen, prepares the data folder, plays the splash, shows the main window and the
+  // home panel. False when the program is to end.
+  [[nodiscard]] bool Charger(ScreenSize screen, const Steps& steps);
+
+  // A key or a click: what is left of the splash's waits is not waited for.
+  void Abreger() { shortened_ = true; }
+
+ private:
+  void PlaySplash(const Steps& steps);
+  void Wait(int milliseconds);
+
+  Dialogs& dialogs_;
+  Shell& shell_;
+  bool shortened_ = false;
+};
+
+}  // namespace talvor

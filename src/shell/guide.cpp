@@ -1,0 +1,49 @@
+#include "shell/guide.h"
+
+#include <algorithm>
+#include <array>
+
+namespace talvor {
+namespace {
+
+constexpr int FadeFrom = 1;
+constexpr int FadeTo = 250;
+constexpr int FadeStep = 20;
+constexpr int FadeMilliseconds = 40;
+constexpr int HoldRounds = 180;
+constexpr int HoldMilliseconds = 30;
+
+}  // namespace
+
+Guide::Guide(const Principale& principale, Shell& shell) : principale_(principale), shell_(shell) {}
+
+void Guide::Show(int opacity) {
+  Opacite = opacity;
+  if (OnChange) OnChange();
+}
+
+void Guide::Charger() {
+  constexpr std::array<TextView, 3> SpokenOf{u"FormLettre", u"FormRédigerCV", u"FormCand"};
+  if (std::none_of(SpokenOf.begin(), SpokenOf.end(), [&](TextView f) { return shell_.FormeVisible(f); }))
+    return;
+  Label1 = principale_.InfoGuide;
+  place = Contains(Label1, u"lettre") || Contains(Label1, u"description") ? Place::BottomLeft
+                                                                          : Place::UnderHeader;
+  for (int i = FadeFrom; i <= FadeTo; i += FadeStep) {
+    shell_.PumpEvents();
+    shell_.Wait(FadeMilliseconds);
+    Show(i);
+  }
+  for (int i = 0; i < HoldRounds && shell_.FormeVisible(u"Principale"); ++i) {
+    shell_.Wait(HoldMilliseconds);
+    shell_.PumpEvents();
+  }
+  for (int i = FadeTo; i >= FadeFrom; i -= FadeStep) {
+    shell_.PumpEvents();
+    shell_.Wait(FadeMilliseconds);
+    Show(i);
+  }
+  Show(0);
+}
+
+}  // namespace talvor
