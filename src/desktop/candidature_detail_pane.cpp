@@ -6,7 +6,6 @@
 #include <QPlainTextEdit>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QStyle>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -325,17 +324,6 @@ void CandidatureDetailPane::ShowStatusDot(TextView status) {
   dotOf_ = shown;
   statusDot_->setIcon(StatusDot(theme_, status));
   statusDot_->setVisible(!shown.isEmpty());
-}
-
-void CandidatureDetailPane::MarkInvalid(const QString& field, const QString& message) {
-  for (QWidget* widget : fields_) {
-    const bool invalid = !field.isEmpty() && widget->objectName() == field;
-    if (widget->property("invalid").toBool() == invalid) continue;
-    widget->setProperty("invalid", invalid);
-    widget->setAccessibleDescription(invalid ? message : QString());
-    widget->style()->unpolish(widget);
-    widget->style()->polish(widget);
-  }
 }
 
 }  // namespace talvor

@@ -31,8 +31,6 @@ class CandidatureDetailPane : public QWidget {
   void ShowPostuler(bool shown);
   // Follows the text of the status with its dot.
   void ShowStatusDot(TextView status);
-  // Marks a field as refused until its text changes; an empty name marks none.
-  void MarkInvalid(const QString& field, const QString& message);
 
  protected:
   void resizeEvent(QResizeEvent* event) override;

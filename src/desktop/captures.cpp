@@ -1,8 +1,6 @@
 // talvor_captures FOLDER: a picture of each form with sample data, light and dark, 1280x800.
 
 #include <QDir>
-#include <QElapsedTimer>
-#include <QGuiApplication>
 #include <QTemporaryDir>
 #include <array>
 #include <cstdlib>
@@ -146,7 +144,7 @@ void PhotographForms(Desktop& desktop, const Theme& theme, Photographer photogra
   photographer.Take(u"a-propos", &about);
 }
 
-int Run(Application& application, const QString& folder) {
+int Run(const QString& folder) {
   const QTemporaryDir scratch;
   const SampleClock clock;
   const Text data = FromQt(scratch.path());
@@ -169,19 +167,18 @@ int Run(Application& application, const QString& folder) {
         Photographer(desktop, folder, light ? QStringLiteral(".png") : QStringLiteral("-sombre.png")));
     desktop.Windows().Unload(u"FormCand");
   }
-  static_cast<void>(application);
   return EXIT_SUCCESS;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  Application application(argc, argv);
+  const Application application(argc, argv);
   if (argc != 2) {
     std::cerr << "usage : talvor_captures DOSSIER\n";
     return 2;
   }
   const QString folder = QDir(QString::fromLocal8Bit(argv[1])).absolutePath();
   QDir().mkpath(folder);
-  return Run(application, folder);
+  return Run(folder);
 }

@@ -33,7 +33,6 @@ FormCandWindow::FormCandWindow(FormCand& form, FormCandCapture& capture, Browser
   if (auto* address = findChild<QWidget*>(QStringLiteral("AdresseWeb")))
     binder_.Bind(*address, form_.AdresseWeb);
   binder_.OnEdited = [this](QWidget& field) {
-    detail_->MarkInvalid({}, {});
     if (&field == &detail_->Statut()) detail_->ShowStatusDot(form_.Statut);
   };
   ConnectList();

@@ -226,8 +226,6 @@ void HomeWindow::showEvent(QShowEvent* event) {
   rows_.front()->setFocus(Qt::OtherFocusReason);
 }
 
-void HomeWindow::ShowAssistant(bool shown) { road_->setVisible(shown); }
-
 void HomeWindow::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
   const int room = width() - RowSize.width() - 110;

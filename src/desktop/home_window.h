@@ -42,8 +42,6 @@ class HomeWindow : public QWidget {
 
   std::function<void()> OnActed;
   void Refresh();
-  // The picture beside the rows, the form `Assistant`.
-  void ShowAssistant(bool shown);
 
  protected:
   void showEvent(QShowEvent* event) override;

@@ -57,6 +57,11 @@ void MainWindow::AddShortcuts() {
     if (header_->OnPrint) header_->OnPrint();
   });
   add(QKeySequence(Qt::CTRL | Qt::Key_G), [this] { menu_.DoubleClicCandidatures(); });
+  // Ctrl+1 to Ctrl+9, then Ctrl+0, open the slots 0 to 9 as a double click does.
+  for (int slot = 0; slot < 10; ++slot)
+    add(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_0 + (slot + 1) % 10)), [this, slot] {
+      if (header_->OnSlotOpen) header_->OnSlotOpen(static_cast<std::size_t>(slot));
+    });
   add(QKeySequence(Qt::Key_F6), [this] { StepPane(1); });
   add(QKeySequence(Qt::SHIFT | Qt::Key_F6), [this] { StepPane(-1); });
   add(QKeySequence(Qt::Key_F1), [this] {
@@ -90,7 +95,6 @@ void MainWindow::changeEvent(QEvent* event) {
 void MainWindow::resizeEvent(QResizeEvent* event) {
   QMainWindow::resizeEvent(event);
   menu_.Redimensionner();
-  if (OnResized) OnResized();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -18,7 +18,6 @@ class MainWindow : public QMainWindow {
   [[nodiscard]] HeaderBar& Header() { return *header_; }
   [[nodiscard]] QStackedWidget* Pages() { return pages_; }
 
-  std::function<void()> OnResized;
   std::function<void()> OnClosed;
   // F1: the last hint again.
   std::function<void()> OnHelp;
