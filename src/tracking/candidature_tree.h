@@ -37,24 +37,23 @@ class CandidatureTree {
   [[nodiscard]] const TreeNode* Find(TextView key) const;
   [[nodiscard]] bool Empty() const noexcept { return nodes_.empty(); }
 
-  // Keys are unique and tell case apart: a second group of one label is not added, nor is a leaf under
-  // a key that is not there. False then.
-  bool AddGroup(const Text& label);
-  bool AddLeaf(const Text& label, Text key, Text text);
-
  private:
-  bool Add(TreeNode node);
+  // Keys are unique and tell case apart: a second group of one label is not added, nor is a leaf under
+  // a key that is not there or with the key of a group.
+  void AddGroup(const Text& label);
+  void AddLeaf(std::size_t parent, Text key, Text text);
+
+  // The index of the node of a key, or NoParent.
+  [[nodiscard]] std::size_t IndexOf(TextView key) const;
 
   std::vector<TreeNode> nodes_;
-  std::unordered_map<Text, std::size_t> indexOfKey_;
+  // Leaves are not indexed: their keys are numbers of the table, each there once.
+  std::unordered_map<Text, std::size_t> groups_;
 };
 
 struct CandidatureTree::Built {
   CandidatureTree tree;
   bool complete = true;
 };
-
-// The label of the group that a row belongs to.
-[[nodiscard]] Text GroupLabel(const RowView& row, Tri tri);
 
 }  // namespace talvor

@@ -71,6 +71,9 @@ std::string Cause(const SQLite::Exception& failure) {
 }  // namespace
 
 int CompareUtf8IgnoringCase(std::string_view a, std::string_view b) noexcept {
+  // What two neighbours of a sort have in common is most of them.
+  const auto [endA, endB] = std::mismatch(a.begin(), a.end(), b.begin(), b.end());
+  if (endA == a.end() && endB == b.end()) return 0;
   while (!a.empty() && !b.empty()) {
     const char32_t x = Folded(TakeCodePoint(a));
     const char32_t y = Folded(TakeCodePoint(b));

@@ -181,7 +181,8 @@ class Database::Engine {
   static SQLite::Database OpenConnection(const fs::path& file) {
     std::error_code error;
     if (!fs::exists(file, error)) throw StoreError(file.string() + " : la base est introuvable.");
-    return Reporting(file, [&] { return SQLite::Database(file.string(), SQLite::OPEN_READWRITE); });
+    return Reporting(
+        file, [&] { return SQLite::Database(file.string(), SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX); });
   }
 
   void CheckVersion() {
