@@ -67,6 +67,8 @@ void FillDatabase(const Clock& clock) {
     row.Intitule = sample.title;
     row.Societe = sample.company;
     row.Statut = sample.status;
+    if (sample.status == ListeStatuts[5]) row.DateRDV = u"17/03/2026";
+    if (sample.status == ListeStatuts[6]) row.DateRDV = u"02/04/2026";
     const PendingRow pending = database.BeginRow();
     if (pending.num == Detailed) {
       row.Nature = u"CDI,CONTRAT A DUREE INDETERMINEE";
@@ -140,6 +142,9 @@ void PhotographForms(Desktop& desktop, const Theme& theme, Photographer photogra
   desktop.Main().resize(1024, 768);
   photographer.Take(u"candidatures-1024");
   desktop.Main().resize(1280, 800);
+  shell.Show(u"FormStat");
+  photographer.Take(u"statistiques", shell.WindowOf(u"FormStat"));
+  shell.Unload(u"FormStat");
   AboutBox about(theme, nullptr);
   photographer.Take(u"a-propos", &about);
 }

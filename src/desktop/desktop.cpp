@@ -6,6 +6,7 @@
 #include "app/start_up.h"
 #include "desktop/about_box.h"
 #include "desktop/guide_panel.h"
+#include "desktop/stat_window.h"
 
 namespace talvor {
 
@@ -43,6 +44,7 @@ void Desktop::RegisterForms() {
                                   .make = [this](QWidget*) -> QWidget* { return main_.get(); }});
   RegisterHome();
   RegisterCandidatures();
+  RegisterReports();
   RegisterGuide();
   RegisterSplash();
   shell_.Register(u"APropos", {.place = QtShell::Place::Over, .make = [this](QWidget* parent) -> QWidget* {
@@ -85,6 +87,18 @@ void Desktop::RegisterCandidatures() {
     browser_.Forget();
   };
   shell_.Register(u"FormCand", form);
+}
+
+void Desktop::RegisterReports() {
+  shell_.Register(u"FormStat", {.place = QtShell::Place::Over, .make = [this](QWidget* parent) -> QWidget* {
+                                  formStat_.Charger();
+                                  auto* window = new StatWindow(formStat_, theme_, parent);
+                                  window->setAttribute(Qt::WA_DeleteOnClose);
+                                  return window;
+                                }});
+  preview_.SetFrame(main_.get());
+  main_->Header().OnPrint = [this] { reports_.ImprimerListe(ReportMode::Liste); };
+  assistantTexte_.commands.justificatif = [this] { reports_.ImprimerListe(ReportMode::Justificatif); };
 }
 
 void Desktop::RegisterGuide() {

@@ -9,9 +9,12 @@
 #include "desktop/form_cand_window.h"
 #include "desktop/home_window.h"
 #include "desktop/main_window.h"
+#include "desktop/report_preview.h"
 #include "desktop/splash.h"
 #include "desktop/web_browser.h"
 #include "platform/environment.h"
+#include "reports/printed_reports.h"
+#include "reports/statistics.h"
 #include "shell/guide.h"
 #include "shell/home_panel.h"
 
@@ -35,6 +38,7 @@ class Desktop {
   [[nodiscard]] QtShell& Windows() { return shell_; }
   [[nodiscard]] Principale& Model() { return principale_; }
   [[nodiscard]] FormCand& Candidatures() { return *formCand_; }
+  [[nodiscard]] QtPagePreview& Preview() { return preview_; }
   // The window of the candidatures, or null.
   [[nodiscard]] FormCandWindow* CandidatureWindow() const { return formCandWindow_; }
 
@@ -43,6 +47,7 @@ class Desktop {
   void RegisterForms();
   void RegisterHome();
   void RegisterCandidatures();
+  void RegisterReports();
   void RegisterGuide();
   void RegisterSplash();
   void RefreshMain();
@@ -58,6 +63,9 @@ class Desktop {
   Principale principale_{shell_};
   AssistantTexte assistantTexte_{principale_, shell_};
   Guide guide_{principale_, shell_};
+  FormStat formStat_{clock_};
+  QtPagePreview preview_{theme_};
+  PrintedReports reports_{principale_, clock_, environment_, dialogs_, shell_, preview_};
   Depart depart_;
   // Begun anew at each load of the form, in its place.
   std::optional<FormCand> formCand_;

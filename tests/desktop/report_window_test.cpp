@@ -1,0 +1,97 @@
+#include <QLabel>
+#include <QProcess>
+#include <QTcpServer>
+#include <QWebEngineView>
+#include <fstream>
+
+#include "desktop/report_preview.h"
+#include "tests/desktop/desktop_fixture.h"
+#include "tracking/status_lists.h"
+
+namespace talvor {
+namespace {
+
+class ReportWindowTest : public DesktopTest {
+ protected:
+  ReportWindowTest() { environment.values[u"temp"] = *FromUtf8(scratch.Path().string()); }
+
+  void Insert(const Candidature& row) {
+    Database base = Database::Open(clock);
+    base.Save(base.BeginRow(), row);
+  }
+
+  // The text of the page on show, once it has come.
+  QString PageText() {
+    QString text;
+    bool come = false;
+    desktop->Preview().Window()->View().page()->toPlainText([&](const QString& answer) {
+      text = answer;
+      come = true;
+    });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return come; }, 20000));
+    return text;
+  }
+};
+
+TEST_F(ReportWindowTest, TheListIsPreviewedAndItsPdfHoldsTheRows) {
+  Insert({.Intitule = u"Éclusier de nuit", .Societe = u"Voies & Canaux", .Statut = u"NON EMISE"});
+  Click("Image7");
+  ASSERT_NE(desktop->Preview().Window(), nullptr);
+  EXPECT_TRUE(desktop->Preview().Window()->isVisible());
+  EXPECT_TRUE(PageText().contains(QStringLiteral("Éclusier de nuit")));
+
+  bool saved = false;
+  bool done = false;
+  desktop->Preview().Window()->SavePdf(QStringLiteral("liste.pdf"), [&](bool stands) {
+    saved = stands;
+    done = true;
+  });
+  ASSERT_TRUE(QTest::qWaitFor([&] { return done; }, 30000));
+  ASSERT_TRUE(saved);
+  QProcess reader;
+  reader.start(QStringLiteral("pdftotext"), {QStringLiteral("liste.pdf"), QStringLiteral("-")});
+  ASSERT_TRUE(reader.waitForFinished());
+  const QString text = QString::fromUtf8(reader.readAllStandardOutput());
+  for (const char* expected :
+       {"Liste des candidatures", "Éclusier de nuit", "Voies & Canaux", "depuis Talvor"})
+    EXPECT_TRUE(text.contains(QString::fromUtf8(expected))) << expected << " in " << text.toStdString();
+}
+
+TEST_F(ReportWindowTest, AHostileRowReachesNeitherScriptsNorNetworkNorDisk) {
+  QTcpServer server;
+  ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
+  const Text address = u"http://127.0.0.1:" + NumberText(server.serverPort()) + u"/";
+  std::ofstream{"secret.txt"} << "SECRET-DU-DISQUE";
+  const Text disk = u"file://" + *FromUtf8(scratch.Path().string()) + u"/secret.txt";
+  Insert({.Intitule = u"<script>document.body.textContent='SCRIPT'</script>",
+          .Societe = u"<img src='" + address + u"i.png'><link rel=stylesheet href='" + address + u"s.css'>",
+          .Origine = u"<iframe src='" + disk + u"'></iframe>",
+          .Reference = u"<meta http-equiv=refresh content=\"0;url=" + address + u"\">",
+          .Statut = u"<body onload=\"location='" + address + u"'\">reste"});
+  Click("Image7");
+  QTest::qWait(500);  // what was to go out would have gone by now
+  const QString text = PageText();
+  EXPECT_TRUE(text.contains(QStringLiteral("Liste des candidatures"))) << text.toStdString();
+  EXPECT_TRUE(text.contains(QStringLiteral("reste")));
+  EXPECT_FALSE(text.contains(QStringLiteral("SECRET-DU-DISQUE")));
+  EXPECT_FALSE(server.hasPendingConnections());
+}
+
+TEST_F(ReportWindowTest, TheStatisticsShowTheRowsAsTheyStandAtOpening) {
+  Insert({.Societe = u"Acme <b>", .DateRDV = u"17/03/2026", .Statut = Text{ListeStatutsComptes[2]}});
+  for (const char* count : {"1", "2"}) {
+    desktop->Windows().Show(u"FormStat");
+    QWidget* window = desktop->Windows().WindowOf(u"FormStat");
+    ASSERT_NE(window, nullptr);
+    EXPECT_EQ(window->findChild<QLabel*>(QStringLiteral("Nb2"))->text(), QString::fromUtf8(count));
+    EXPECT_TRUE(window->findChild<QLabel*>(QStringLiteral("RDV"))
+                    ->text()
+                    .startsWith(QStringLiteral("Entretien avec la société Acme <b> le 17/03/2026")));
+    QTest::mouseClick(window->findChild<QPushButton*>(QStringLiteral("BoutonTLV1")), Qt::LeftButton);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return desktop->Windows().WindowOf(u"FormStat") == nullptr; }));
+    Insert({.Statut = Text{ListeStatutsComptes[2]}});
+  }
+}
+
+}  // namespace
+}  // namespace talvor
