@@ -44,6 +44,23 @@ ExitCode Candidatures(const std::string& workspace, const std::string& tri, bool
 // One candidature by its number.
 ExitCode UneCandidature(const std::string& workspace, std::int32_t num, bool json, Console& console);
 
+struct ComposeOptions {
+  std::string file;
+  std::optional<std::string> date;
+};
+
+// Composes a letter model; `Text1`, `Objet` and `Domaine` as a JSON object. The file stays as it is.
+ExitCode LettreComposer(const ComposeOptions& options, Console& console);
+
+struct MergeOptions {
+  std::string file;
+  std::string candidature;  // a JSON file of fields of `FormCand`, "-" for standard input
+  std::optional<std::string> date;
+};
+
+// Merges a letter model with a candidature; `Texte`, `Email` and `Objet` as a JSON object.
+ExitCode LettreFusionner(const MergeOptions& options, Console& console);
+
 // Runs the tool on its arguments (without the program's name).
 [[nodiscard]] ExitCode RunCommandLine(std::vector<std::string> arguments, Console& console);
 
