@@ -35,7 +35,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   table.FillEmpty(model.Corps);
   for (std::size_t i = 0; i < CorpsCount; ++i)
     for (const bool back : {false, true}) {
-      for (std::size_t step = 0; step < Propositions::Positions; ++step) {
+      for (std::size_t step = 0; step < 4; ++step) {
         const Text& corps = model.Corps[i];
         model.Corps[i] = WithGender(back ? table.Previous(i, corps) : table.Next(i, corps), model.Prénom);
       }
