@@ -25,11 +25,20 @@ Text WithoutDat(const Text& name) {
 
 FormLettre::FormLettre(Principale& principale, const Clock& clock, Dialogs& dialogs, Shell& shell)
     : principale_(principale), clock_(clock), dialogs_(dialogs), shell_(shell) {
+  Clear();
+}
+
+void FormLettre::Clear() {
+  static_cast<LetterModel&>(*this) = {};
   SetFlag(Check_Modele, Mail, true);
   SetFlag(Check_candidature, Answer, true);
+  ListeCVVisible = CadreObjetVisible = true;
+  saveFailed = false;
+  savedText_.clear();
 }
 
 void FormLettre::Charger() {
+  Clear();
   FileList files;
   files.Point(workspace_paths::CvFolder());
   for (std::size_t i = 0; i < NomCV.size(); ++i) NomCV[i] = WithoutDat(files.List(i));

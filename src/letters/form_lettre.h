@@ -20,7 +20,6 @@ class FormLettre : public LetterModel {
  public:
   static constexpr std::size_t CvCount = 5;
 
-  // A new form stands on a mail in answer to an advertisement.
   FormLettre(Principale& principale, const Clock& clock, Dialogs& dialogs, Shell& shell);
 
   std::array<Text, CvCount> NomCV;  // the list of CVs: file names without ".dat", empty beyond the last
@@ -32,7 +31,8 @@ class FormLettre : public LetterModel {
   // Opens a document in the program associated with it; nothing happens while it is not set.
   std::function<void(const std::filesystem::path&)> OuvrirDocument;
 
-  // The form is loaded: the list of CVs and the propositions are read.
+  // The form is loaded, which comes before anything else asked of it: every field is empty, the flags
+  // stand on a mail in answer to an advertisement, the list of CVs and the propositions are read.
   void Charger();
 
   // Clears the texts, keeps the flags, and offers to begin from the first CV. Events run inside.
@@ -62,6 +62,7 @@ class FormLettre : public LetterModel {
   void QuitterPrénom();
 
  private:
+  void Clear();
   void ClicFlag(FlagPair& flags, std::size_t i);
   void TakeSentence(std::size_t i, const Text& sentence);
   void RecomposeUnlessLoading();

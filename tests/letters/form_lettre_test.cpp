@@ -156,6 +156,9 @@ TEST_F(FormLettreTest, TheTimerSavesAChangedLetterWithASurname) {
   form.Text1 = u"c";
   form.Timer1();
   EXPECT_TRUE(form.saveFailed);
+
+  form.Charger();
+  EXPECT_EQ(form.NomLettre + form.Nom + form.Text1, u"") << "a form loaded again has forgotten its model";
   EXPECT_TRUE(dialogs.told.empty());
 }
 
