@@ -74,5 +74,13 @@ TEST_F(LetterCommands, FaultsAreToldOnStandardError) {
   EXPECT_EQ(Lettre({"fusionner", "m.dat", "-"}, R"({"Nom":"x"})"), "talvorctl : champ inconnu : « Nom »\n1");
 }
 
+TEST_F(LetterCommands, ExplainThemselvesInFrench) {
+  for (const std::string command : {"composer", "fusionner"}) {
+    const std::string help = Lettre({command, "--help"});
+    EXPECT_NE(help.find("Emploi : talvorctl lettre " + command), std::string::npos) << help;
+    EXPECT_EQ(help.find("Options:"), std::string::npos) << help;
+  }
+}
+
 }  // namespace
 }  // namespace talvor::cli
