@@ -60,6 +60,7 @@ class CommandLine {
     AddCandidature();
     AddRapport();
     AddStatistiques();
+    AddLettre();
   }
 
   ExitCode Run(std::vector<std::string> arguments) {
@@ -83,10 +84,20 @@ class CommandLine {
   }
 
  private:
-  CLI::App* Add(const char* name, const char* description, std::function<ExitCode()> command) {
-    CLI::App* sub = app_.add_subcommand(name, description);
+  CLI::App* AddTo(CLI::App& parent, const char* name, const char* description) {
+    CLI::App* sub = parent.add_subcommand(name, description);
     sub->group("Commandes ");
     sub->get_help_ptr()->group("Options ");
+    return sub;
+  }
+
+  CLI::App* Add(const char* name, const char* description, std::function<ExitCode()> command) {
+    return Add(app_, name, description, std::move(command));
+  }
+
+  CLI::App* Add(CLI::App& parent, const char* name, const char* description,
+                std::function<ExitCode()> command) {
+    CLI::App* sub = AddTo(parent, name, description);
     sub->callback([this, command = std::move(command)] { command_ = command; });
     return sub;
   }
@@ -151,6 +162,25 @@ class CommandLine {
     sub->add_flag("--json", json_, "En JSON");
   }
 
+  void AddLettre() {
+    CLI::App* lettre = AddTo(app_, "lettre", "Compose et fusionne les modèles de lettre");
+    lettre->require_subcommand(1);
+
+    CLI::App* sub = Add(*lettre, "composer", "Compose un modèle de lettre et en donne le texte en JSON",
+                        [this] { return LettreComposer(compose_, console_); });
+    sub->add_option("fichier", compose_.file, "Fichier du modèle")->type_name("F.dat")->required();
+    sub->add_option("--date", compose_.date, "Date du jour")->type_name("JJ/MM/AAAA");
+
+    sub = Add(*lettre, "fusionner", "Fusionne un modèle avec une candidature et donne la lettre en JSON",
+              [this] { return LettreFusionner(merge_, console_); });
+    sub->add_option("fichier", merge_.file, "Fichier du modèle")->type_name("F.dat")->required();
+    sub->add_option("candidature", merge_.candidature,
+                    "Champs de la candidature en JSON, « - » pour l’entrée standard")
+        ->type_name("CAND.json")
+        ->required();
+    sub->add_option("--date", merge_.date, "Date du jour")->type_name("JJ/MM/AAAA");
+  }
+
   Console& console_;
   CLI::App app_{"Talvor en ligne de commande : annonces, candidatures et dossier de données."};
   std::function<ExitCode()> command_;
@@ -159,6 +189,8 @@ class CommandLine {
   AnalyseOptions analyse_;
   bool batch_ = false;
   CaptureOptions capture_;
+  ComposeOptions compose_;
+  MergeOptions merge_;
   std::string tri_ = "statuts";
   bool json_ = false;
   std::int32_t num_ = 0;

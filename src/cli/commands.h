@@ -50,6 +50,23 @@ ExitCode Rapport(const std::string& workspace, const std::string& report, Consol
 // The counts by status and the interviews to come.
 ExitCode Statistiques(const std::string& workspace, bool json, Console& console);
 
+struct ComposeOptions {
+  std::string file;
+  std::optional<std::string> date;
+};
+
+// Composes a letter model; `Text1`, `Objet` and `Domaine` as a JSON object. The file stays as it is.
+ExitCode LettreComposer(const ComposeOptions& options, Console& console);
+
+struct MergeOptions {
+  std::string file;
+  std::string candidature;  // a JSON file of fields of `FormCand`, "-" for standard input
+  std::optional<std::string> date;
+};
+
+// Merges a letter model with a candidature; `Texte`, `Email` and `Objet` as a JSON object.
+ExitCode LettreFusionner(const MergeOptions& options, Console& console);
+
 // Runs the tool on its arguments (without the program's name).
 [[nodiscard]] ExitCode RunCommandLine(std::vector<std::string> arguments, Console& console);
 
