@@ -3,6 +3,7 @@
 
 #include <array>
 
+#include "ads/delivered_sites.h"
 #include "ads/rules.h"
 #include "base/fonctionnel.h"
 
@@ -38,6 +39,8 @@ void FillCompanyAndOrigin(AdFields& record) {
   // The one blank of a role address counts as a contact.
   if (record.Societe.empty() && !record.NomContact.empty()) record.Societe = record.NomContact;
   if (!record.Societe.empty() && record.Origine.empty()) record.Origine = record.Societe;
+  for (const SiteAlias& alias : SiteAliases)
+    if (record.Origine == alias.digits) record.Origine = alias.name;
   if (record.Societe.empty()) record.Societe = record.Origine;
 }
 

@@ -1,4 +1,5 @@
 #include "ads/analyser.h"
+#include "ads/page_rating.h"
 #include "ads/ungluing.h"
 #include "app/host.h"
 #include "cli/commands.h"
@@ -70,6 +71,17 @@ ExitCode AnalyserLot(Console& console) {
     }
   }
   return code;
+}
+
+ExitCode Evaluer(const std::string& file, const std::optional<std::string>& address, Console& console) {
+  const Text page = ReadText(file, console, LineEnds::AsCrLf);
+  const PageRating rating = RatePage(page, address ? ArgumentText(*address) : Text{BlankPage});
+  const Json object{{"ScoreAnnonce", rating.ScoreAnnonce},
+                    {"ScoreMetiers", rating.ScoreMetiers},
+                    {"Niveau", rating.Niveau},
+                    {"FrameWeb", rating.FrameWeb}};
+  console.out << object.dump(2) << '\n';
+  return Done;
 }
 
 }  // namespace talvor::cli

@@ -55,6 +55,7 @@ class CommandLine {
         ->type_name("DOSSIER");
     AddPreparer();
     AddAnalyser();
+    AddEvaluer();
     AddCapturer();
     AddCandidatures();
     AddCandidature();
@@ -120,6 +121,15 @@ class CommandLine {
     sub->add_flag("--lot", batch_,
                   "Lit des enregistrements JSON, un par ligne, sur l’entrée standard ; seule, cette option "
                   "ne va avec aucune autre");
+  }
+
+  void AddEvaluer() {
+    CLI::App* sub = Add("evaluer", "Dit en JSON à quel point une page ressemble à une annonce",
+                        [this] { return Evaluer(capture_.file, capture_.address, console_); });
+    sub->add_option("fichier", capture_.file, "Texte UTF-8 de la page, « - » pour l’entrée standard")
+        ->type_name("FICHIER")
+        ->required();
+    sub->add_option("--adresse", capture_.address, "Adresse de la page")->type_name("URL");
   }
 
   void AddCapturer() {

@@ -27,6 +27,9 @@ ExitCode Analyser(const AnalyseOptions& options, Console& console);
 // object with the key "erreur", and the command ends with a refusal once all lines are read.
 ExitCode AnalyserLot(Console& console);
 
+// The rating of a page's text as a JSON object.
+ExitCode Evaluer(const std::string& file, const std::optional<std::string>& address, Console& console);
+
 // The data folder given by --espace, empty for the usual one.
 ExitCode Preparer(const std::string& workspace, Console& console);
 

@@ -273,6 +273,7 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         Origin{"a host with its decorations", u"http://www.emploi-acme.fr/offre/1", {}, u"ACME"},
         Origin{"the first label goes whatever it is", u"https://acme.com/x", {}, u"COM"},
+        Origin{"a bare numeric host is told by its name", u"http://203.0.113.77/offre/1", {}, u"Le Rucher"},
         Origin{"no slash behind the host ends the run", u"http://www.acme.fr", {}, u"acme.fr"},
         Origin{"no full stop takes it all", u"localhost/x", {}, u"LOCALHOST"},
         Origin{"a blank browser is no site", u"about:blank", {.Societe = u"Acme"}, u"Acme"},

@@ -170,6 +170,16 @@ INSTANTIATE_TEST_SUITE_P(
               Refused,
               "n’est pas une base de données"}));
 
+TEST_F(CommandLineTest, APageIsRatedWithItsAddress) {
+  const std::string page = "une offre, sa référence, la date, la société, le contrat, le lieu";
+  EXPECT_EQ(
+      Talvorctl({"evaluer", "-"}, page).out,
+      "{\n  \"ScoreAnnonce\": 7.0,\n  \"ScoreMetiers\": 0,\n  \"Niveau\": 350.0,\n  \"FrameWeb\": 660\n}\n");
+  const auto rating =
+      nlohmann::json::parse(Talvorctl({"evaluer", "--adresse", "https://google.fr/", "-"}, page).out);
+  EXPECT_EQ(rating["ScoreAnnonce"], 0);
+}
+
 TEST_F(CommandLineTest, ReportsAndStatisticsComeFromTheSameRows) {
   Prepare();
   EXPECT_EQ(Talvorctl({"--espace", "d", "rapport", "liste"}).out, "") << "no row, no page";

@@ -1,0 +1,58 @@
+#include "ads/site_directory.h"
+
+#include <algorithm>
+
+#include "ads/delivered_sites.h"
+#include "base/code_page.h"
+#include "base/line_file.h"
+
+namespace talvor {
+namespace {
+
+// Named without a folder: the file is looked up in the current directory, which is the data folder.
+constexpr const char* FileName = "Listesites.txt";
+
+std::vector<Text> DeliveredRows() {
+  constexpr std::size_t NameWidth = 30;
+  std::vector<Text> rows;
+  for (const JobSite& site : DeliveredSites) {
+    Text row{site.name};
+    row.append(std::max<std::size_t>(2, NameWidth - std::min(NameWidth, row.size())), u' ');
+    rows.push_back(row.append(site.address));
+  }
+  return rows;
+}
+
+std::error_code WriteRows(const std::vector<Text>& rows) {
+  Text lines;
+  for (const Text& row : rows) lines.append(row).append(LineEnd);
+  return WriteBytes(FileName, ToCodePage(lines));
+}
+
+}  // namespace
+
+void SiteDirectory::Charger() {
+  List1 = DeliveredRows();
+  std::error_code error;
+  if (!std::filesystem::exists(FileName, error) && WriteRows(List1)) return;
+  const auto lines = ReadLines(FileName);
+  if (!lines) return;
+  List1.clear();
+  std::copy_if(lines->begin(), lines->end(), std::back_inserter(List1),
+               [](const Text& line) { return Contains(line, u"/"); });
+}
+
+Text SiteDirectory::AddressOf(TextView row) {
+  const auto at = row.find(u"http");
+  return at == TextView::npos ? Text{} : Text{row.substr(at)};
+}
+
+Text SiteDirectory::NameOf(TextView row) { return Text{TrimBlanks(row.substr(0, row.find(u"http")))}; }
+
+std::error_code SiteDirectory::MajListeSites(TextView pageText) {
+  Text rows = ReplaceAll(pageText, u"/ ", u"/\r\n");
+  rows = ReplaceAll(rows, u" ", u"   \t");
+  return WriteBytes(FileName, ToCodePage(rows));
+}
+
+}  // namespace talvor

@@ -1,0 +1,158 @@
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <set>
+
+#include "ads/job_words.h"
+#include "ads/page_rating.h"
+#include "ads/prefill.h"
+#include "ads/site_directory.h"
+#include "base/line_file.h"
+#include "tests/fakes/scratch_folder.h"
+
+namespace talvor {
+namespace {
+
+// A page with that many terms of an advertisement and that many job words. The terms are taken behind
+// "REFERENCE", which holds "REF" as well.
+Text Page(std::size_t terms, std::size_t jobs) {
+  Text page = u"page";
+  for (std::size_t i = 0; i < terms; ++i) page.append(u" ").append(MotsValid[i + 2]);
+  for (std::size_t i = 0; i < jobs; ++i) page.append(u" ").append(ListeMetiers[i]);
+  return page + u" fin";
+}
+
+struct Rated {
+  const char* reason;
+  Text page;
+  Text address;
+  double score;
+  int jobs;
+  double width;
+  int top;
+  friend void PrintTo(const Rated& row, std::ostream* out) { *out << row.reason; }
+};
+
+class Ratings : public testing::TestWithParam<Rated> {};
+
+TEST_P(Ratings, TellAnAdvertisementFromAList) {
+  const PageRating rating = RatePage(GetParam().page, GetParam().address);
+  EXPECT_DOUBLE_EQ(rating.ScoreAnnonce, GetParam().score);
+  EXPECT_EQ(rating.ScoreMetiers, GetParam().jobs);
+  EXPECT_DOUBLE_EQ(rating.Niveau, GetParam().width);
+  EXPECT_EQ(rating.FrameWeb, GetParam().top);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Pages, Ratings,
+    testing::Values(
+        Rated{"four terms are no advertisement", Page(4, 0), u"http://a/", 4, 0, 1, 330},
+        Rated{"five are", Page(5, 0), u"http://a/", 5, 0, 250, 660},
+        Rated{"twelve get two more", Page(12, 3), u"http://a/", 14, 3, 700, 660},
+        Rated{"ten job words halve the score and the width", Page(13, 10), u"http://a/", 6.5, 10, 162.5, 660},
+        Rated{"six terms among twenty jobs are a list", Page(6, 20), u"http://a/", 3, 20, 1, 330},
+        Rated{"a search engine scores nothing", Page(12, 3), u"https://www.google.fr/x", 0, 3, 1, 330},
+        Rated{"a term inside a word counts, a job word does not", u"l'offreur cherche des acheteurs ici", u"",
+              1, 0, 1, 330},
+        Rated{"the first and last word do not count as job words", u"acheteur et vendeur et avocat", u"", 0,
+              1, 1, 330},
+        Rated{"a row that stands twice counts twice", u"un couvreur et un expert ici", u"", 0, 4, 1, 330},
+        Rated{"a row of two words counts here", u"un middle office ici", u"", 0, 1, 1, 330},
+        Rated{"what lies behind 32000 characters is not seen", Text(32000, u'x') + Page(12, 3), u"", 0, 0, 1,
+              330},
+        Rated{"no text at all", u"", u"", 0, 0, 1, 330}));
+
+TEST(Prefill, AnElementIsToldByItsNameAndTheLastRowStands) {
+  const PrefillValues values{u"mail",  u"nom", u"prénom", u"adresse", u"cp",
+                             u"ville", u"tel", u"métier", u"lettre"};
+  const auto filled = [&](TextView name, TextView id = u"") {
+    const Text* value = PrefillValue(values, name, id);
+    return value ? ToUtf8(*value) : "-";
+  };
+  for (const auto& [name, expected] :
+       std::initializer_list<std::pair<TextView, const char*>>{{u"email", "mail"},
+                                                               {u"login", "mail"},
+                                                               {u"identifiant", "mail"},
+                                                               {u"lastname", "nom"},
+                                                               {u"NOM", "nom"},
+                                                               {u"surname", "nom"},
+                                                               {u"prenom", "prénom"},
+                                                               {u"nomPrenom", "prénom"},
+                                                               {u"first_name", "prénom"},
+                                                               {u"adr1", "adresse"},
+                                                               {u"adresseMail", "adresse"},
+                                                               {u"cp", "cp"},
+                                                               {u"codePostal", "cp"},
+                                                               {u"vpa", "ville"},
+                                                               {u"localite", "ville"},
+                                                               {u"ville", "ville"},
+                                                               {u"city", "ville"},
+                                                               {u"l", "ville"},
+                                                               {u"ll", "-"},
+                                                               {u"motcle", "métier"},
+                                                               {u"keywords", "métier"},
+                                                               {u"r", "métier"},
+                                                               {u"expediteur", "mail"},
+                                                               {u"recherche", "métier"},
+                                                               {u"telephone", "tel"},
+                                                               {u"message", "lettre"},
+                                                               {u"commentaire", "lettre"},
+                                                               {u"remarque", "lettre"},
+                                                               {u"letter", "lettre"},
+                                                               {u"note", "lettre"},
+                                                               {u"motdepasse", "-"},
+                                                               {u"password_email", "-"},
+                                                               {u"x", "-"}})
+    EXPECT_EQ(filled(name), expected) << ToUtf8(name);
+  EXPECT_EQ(filled(u"", u"nom"), "nom") << "the id stands in for a missing name";
+  EXPECT_EQ(filled(u"x", u"nom"), "-") << "and for a missing name only";
+  EXPECT_EQ(filled(u"", u""), "-");
+}
+
+TEST(SiteDirectory, TheDeliveredRowsComeBackWithTheFileDeleted) {
+  const ScratchFolder scratch;
+  SiteDirectory directory;
+  directory.Charger();
+  ASSERT_EQ(directory.List1.size(), 195u);
+  std::set<Text> animation;
+  for (const Text& row : directory.List1) {
+    EXPECT_TRUE(SiteDirectory::AddressOf(row).starts_with(u"https://")) << ToUtf8(row);
+    if (SiteDirectory::NameOf(row) == u"EMPLOI-ANIMATION") animation.insert(SiteDirectory::AddressOf(row));
+  }
+  EXPECT_EQ(animation.size(), 2u);
+  EXPECT_EQ(SiteDirectory::NameOf(directory.List1.back()), u"YAKE OFREMPLOI");
+
+  std::ofstream{"Listesites.txt", std::ios::binary}
+      << "UN DEUX   http://a.example/?u=http://b.example/\r\nsans adresse\r\n\r\n";
+  directory.Charger();
+  ASSERT_EQ(directory.List1.size(), 1u) << "the file replaces the rows";
+  EXPECT_EQ(SiteDirectory::AddressOf(directory.List1[0]), u"http://a.example/?u=http://b.example/");
+  EXPECT_EQ(SiteDirectory::NameOf(directory.List1[0]), u"UN DEUX");
+  std::ofstream{"Listesites.txt"} << "";
+  directory.Charger();
+  EXPECT_TRUE(directory.List1.empty()) << "an empty file is kept";
+  std::filesystem::remove("Listesites.txt");
+  directory.Charger();
+  EXPECT_EQ(directory.List1.size(), 195u);
+}
+
+TEST(SiteDirectory, APageOfSitesBecomesTheFile) {
+  const ScratchFolder scratch;
+  EXPECT_FALSE(SiteDirectory::MajListeSites(u"UN http://a.example/ DEUX MOTS http://b.example/"));
+  EXPECT_EQ(ReadBytes("Listesites.txt"), "UN   \thttp://a.example/\r\nDEUX   \tMOTS   \thttp://b.example/");
+  SiteDirectory directory;
+  directory.Charger();
+  ASSERT_EQ(directory.List1.size(), 2u);
+  EXPECT_EQ(SiteDirectory::AddressOf(directory.List1[1]), u"http://b.example/");
+}
+
+TEST(SiteDirectory, TheDeliveredFileOpensWithTheBoardsOfToday) {
+  const auto lines = ReadLines(TALVOR_DATA_FOLDER "/Listesites.txt");
+  ASSERT_TRUE(lines);
+  EXPECT_GE(lines->size(), 195u + 20u);
+  for (const Text& line : *lines)
+    EXPECT_TRUE(SiteDirectory::AddressOf(line).starts_with(u"https://")) << ToUtf8(line);
+}
+
+}  // namespace
+}  // namespace talvor
