@@ -62,6 +62,7 @@ class CommandLine {
     AddRapport();
     AddStatistiques();
     AddLettre();
+    AddCv();
   }
 
   ExitCode Run(std::vector<std::string> arguments) {
@@ -69,8 +70,7 @@ class CommandLine {
     try {
       app_.parse(arguments);
     } catch (const CLI::CallForHelp&) {
-      const auto chosen = app_.get_subcommands();
-      console_.out << (chosen.empty() ? app_.help() : chosen.front()->help("talvorctl"));
+      console_.out << app_.help();  // of the command given, if any
       return Done;
     } catch (const CLI::ParseError& error) {
       console_.err << "talvorctl : " << Refusal(app_, error) << " (voir « talvorctl --help »)\n";
@@ -85,7 +85,7 @@ class CommandLine {
   }
 
  private:
-  CLI::App* AddTo(CLI::App& parent, const char* name, const char* description) {
+  static CLI::App* AddTo(CLI::App& parent, const char* name, const char* description) {
     CLI::App* sub = parent.add_subcommand(name, description);
     sub->group("Commandes ");
     sub->get_help_ptr()->group("Options ");
@@ -191,6 +191,21 @@ class CommandLine {
     sub->add_option("--date", merge_.date, "Date du jour")->type_name("JJ/MM/AAAA");
   }
 
+  void AddCv() {
+    CLI::App* cv = AddTo(app_, "cv", "Met un CV en page, lit un bloc d’identité");
+    cv->require_subcommand(1);
+    CLI::App* render =
+        Add(*cv, "rendre", "Donne la page d’un CV, en UTF-8", [this] { return RendreCv(render_, console_); });
+    render->add_option("fichier", render_.file, "CV de Talvor")->type_name("F.dat")->required();
+    render->add_option("--modele", render_.model, "Modèle de la page")->type_name("M.htm")->required();
+    render->add_flag("--photo", render_.photo, "Met la photo Photo.jpg à sa place");
+    CLI::App* identity = Add(*cv, "identite", "Donne en JSON les champs d’un bloc d’identité",
+                             [this] { return IdentiteCv(identity_, console_); });
+    identity->add_option("fichier", identity_, "Texte UTF-8 du bloc, « - » pour l’entrée standard")
+        ->type_name("FICHIER")
+        ->required();
+  }
+
   Console& console_;
   CLI::App app_{"Talvor en ligne de commande : annonces, candidatures et dossier de données."};
   std::function<ExitCode()> command_;
@@ -205,6 +220,8 @@ class CommandLine {
   bool json_ = false;
   std::int32_t num_ = 0;
   std::string report_;
+  RenderOptions render_;
+  std::string identity_;
 };
 
 }  // namespace

@@ -70,6 +70,19 @@ struct MergeOptions {
 // Merges a letter model with a candidature; `Texte`, `Email` and `Objet` as a JSON object.
 ExitCode LettreFusionner(const MergeOptions& options, Console& console);
 
+struct RenderOptions {
+  std::string file;
+  std::string model;
+  bool photo = false;
+};
+
+// The page of a CV as UTF-8, its lines ended by CR LF, whatever character set the template declares.
+// The language grid is summed up anew, and the CV bears the name of its file.
+ExitCode RendreCv(const RenderOptions& options, Console& console);
+
+// The eleven fields of a pasted identity block as a JSON object, empty where no line fills them.
+ExitCode IdentiteCv(const std::string& file, Console& console);
+
 // Runs the tool on its arguments (without the program's name).
 [[nodiscard]] ExitCode RunCommandLine(std::vector<std::string> arguments, Console& console);
 

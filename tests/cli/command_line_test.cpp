@@ -2,31 +2,12 @@
 
 #include <fstream>
 #include <nlohmann/json.hpp>
-#include <sstream>
 
-#include "cli/commands.h"
+#include "tests/cli/talvorctl.h"
 #include "tests/fakes/scratch_folder.h"
 
 namespace talvor::cli {
 namespace {
-
-struct Result {
-  int code;
-  std::string out;
-  std::string err;
-};
-
-Result Talvorctl(std::vector<std::string> arguments, const std::string& input = {}) {
-  // A command may move into the data folder; the next one starts where the user stands.
-  const auto here = std::filesystem::current_path();
-  std::istringstream in{input};
-  std::ostringstream out;
-  std::ostringstream err;
-  Console console{in, out, err};
-  const int code = RunCommandLine(std::move(arguments), console);
-  std::filesystem::current_path(here);
-  return {code, out.str(), err.str()};
-}
 
 constexpr const char* Advertisement =
     "Maçon H/F\nSociété : Acme\nRéf : 4321\nécrire à j.d@acme.fr svp\nfin\n";
