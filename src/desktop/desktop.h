@@ -6,9 +6,11 @@
 #include <optional>
 
 #include "ads/capture.h"
+#include "desktop/cv_desk.h"
 #include "desktop/form_cand_window.h"
 #include "desktop/home_window.h"
 #include "desktop/main_window.h"
+#include "desktop/qt_dialogs.h"
 #include "desktop/splash.h"
 #include "desktop/web_browser.h"
 #include "platform/environment.h"
@@ -35,6 +37,7 @@ class Desktop {
   [[nodiscard]] QtShell& Windows() { return shell_; }
   [[nodiscard]] Principale& Model() { return principale_; }
   [[nodiscard]] FormCand& Candidatures() { return *formCand_; }
+  [[nodiscard]] CvDesk& Cv() { return cv_; }
   // The window of the candidatures, or null.
   [[nodiscard]] FormCandWindow* CandidatureWindow() const { return formCandWindow_; }
 
@@ -43,6 +46,7 @@ class Desktop {
   void RegisterForms();
   void RegisterHome();
   void RegisterCandidatures();
+  void RegisterCv();
   void RegisterGuide();
   void RegisterSplash();
   void RefreshMain();
@@ -62,6 +66,8 @@ class Desktop {
   // Begun anew at each load of the form, in its place.
   std::optional<FormCand> formCand_;
   std::optional<FormCandCapture> capture_;
+  QtPickers pickers_;
+  CvDesk cv_;
 
   std::unique_ptr<MainWindow> main_;
   QPointer<FormCandWindow> formCandWindow_;
