@@ -1,6 +1,7 @@
 // talvor_captures FOLDER: a picture of each form with sample data, light and dark, 1280x800.
 
 #include <QDir>
+#include <QPainter>
 #include <QTemporaryDir>
 #include <array>
 #include <cstdlib>
@@ -8,6 +9,8 @@
 #include <iostream>
 
 #include "app/installation.h"
+#include "base/code_page.h"
+#include "cv/cv_file.h"
 #include "desktop/about_box.h"
 #include "desktop/application.h"
 #include "desktop/desktop.h"
@@ -95,11 +98,73 @@ void FillDatabase(const Clock& clock) {
   }
 }
 
+// A pasted CV of a whole page, with a photo.
+CvDocument SampleCv() {
+  CvDocument cv;
+  cv.Nom = u"MARCHAND";
+  cv.Prénom = u"Julie";
+  cv.NomCV = u"Marchand Julie";
+  cv.Adresse1 = u"7 Rue Des Lilas";
+  cv.Adresse2 = u"Bâtiment C";
+  cv.CP = u"69003";
+  cv.Ville = u"Lyon";
+  cv.Pays = u"Française";
+  cv.Tel = u"04 72 00 00 41";
+  cv.Mob = u"06 00 00 12 34";
+  cv.Email = u"julie.marchand@mail.example";
+  cv.Situation = u"Marié(e)";
+  cv.DateNaissance = u"14/06/1993";
+  cv.LieuNaissance = u"Annecy";
+  cv.Age = u"32";
+  cv.NbEnfants = u"1";
+  cv.Fonction = u"Chargée de communication";
+  cv.Etudes =
+      u"2015 : Master communication des organisations\r\nUniversité de Lyon\r\n"
+      u"2012 : Licence de lettres modernes";
+  cv.Formations = u"2022 : Conduite de projet éditorial\r\n2019 : Droit de l'image";
+  cv.Experiences =
+      u"2021 - 2025 : Chargée de projet, Orvane\r\n- Intranet et lettre interne\r\n"
+      u"- Relations avec 14 agences\r\n2018 - 2021 : Rédactrice, Studio Calque\r\n- Dossiers et brochures";
+  cv.Competences =
+      u"Rédaction : articles, discours, dossiers\r\nOutils : PAO, montage vidéo, publication web\r\n"
+      u"Gestion : budget de 60 000 euros";
+  cv.Objectifs = u"Rejoindre une équipe de communication interne";
+  cv.Divers = u"Chorale, randonnée, atelier d'écriture";
+  cv.LanguesPlus = u"Un semestre à Dublin (2014)";
+  cv.LangueCourant[0] = cv.LangueScolaire[1] = cv.LangueProf[2] = true;
+  cv.CheckDisposition = {false, true};
+  cv.Couleur = u"#0369A1";
+  cv.CouleurClaire = u"#DEEBF3";
+  return cv;
+}
+
+QImage SamplePhoto() {
+  QImage photo(184, 224, QImage::Format_RGB32);
+  photo.fill(QColor(0xDB, 0xE5, 0xEA));
+  QPainter painter(&photo);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  for (const auto& [colour, shape] :
+       {std::pair{0x6B4433, QRectF(52, 22, 80, 116)}, std::pair{0x3F6F8C, QRectF(12, 146, 160, 160)},
+        std::pair{0xE8BFA0, QRectF(60, 44, 64, 82)}}) {
+    painter.setBrush(QColor::fromRgb(static_cast<QRgb>(colour)));
+    painter.drawEllipse(shape);
+  }
+  return photo;
+}
+
+void FillCv(const std::filesystem::path& folder) {
+  const std::string text = ToCodePage(CvFileText(SampleCv()));
+  std::ofstream(folder / "CV" / "Marchand Julie.dat", std::ios::binary) << text;
+  SamplePhoto().save(QString::fromStdString((folder / "Modeles" / "Marchand Julie.jpg").string()), "PNG");
+}
+
 void FillFiles(const std::filesystem::path& folder) {
   for (const char* name : {"CV/Assistante Com.dat", "CV/Julie Anglais.dat", "CV/Marchand Julie.dat",
                            "CV/Marchand Julie.docx", "CV/Portfolio.pdf", "Lettres/Julie Marchand (ER).dat",
                            "Lettres/Julie Marchand (ES).dat", "Lettres/Julie Marchand (IR).dat"})
     std::ofstream(folder / name) << "Nom=Marchand\r\n";
+  FillCv(folder);
 }
 
 void Settle(QtShell& shell) {
@@ -125,6 +190,36 @@ class Photographer {
   QString suffix_;
 };
 
+void PhotographCv(Desktop& desktop, Photographer& photographer) {
+  CvDesk& cv = desktop.Cv();
+  cv.OpenNew();
+  photographer.Take(u"cv-nouveau");
+  cv.OpenFile(u"Marchand Julie.dat");
+  constexpr int UntilThePageStands = 1500;
+  desktop.Windows().Wait(UntilThePageStands);
+  photographer.Take(u"cv-page");
+  const std::array<const char16_t*, 2> entries{u"cv-paragraphes", u"cv"};
+  for (std::size_t i = 0; i < entries.size(); ++i) {
+    cv.Window()->Do([&] { cv.Form().ClicImageMenu(i); });
+    photographer.Take(entries[i]);
+  }
+  cv.Window()->Do([&] { cv.Form().ClicImage2(); });
+  photographer.Take(u"cv-modeles");
+  cv.Window()->Do([&] { cv.Form().ClicImage3(); });
+  photographer.Take(u"cv-polices");
+  cv.Window()->Do([&] { cv.Form().ClosePanels(); });
+  cv.Window()->Do([&] { cv.Form().MouseOverImage6(14); });
+  photographer.Take(u"cv-aide");
+  desktop.Windows().Unload(u"Aide");
+  desktop.Windows().Unload(EditorForm);
+  desktop.Main().resize(1024, 768);
+  cv.OpenFile(u"Marchand Julie.dat");
+  desktop.Windows().Wait(UntilThePageStands);
+  photographer.Take(u"cv-1024");
+  desktop.Main().resize(1280, 800);
+  desktop.Windows().Unload(EditorForm);
+}
+
 void PhotographForms(Desktop& desktop, const Theme& theme, Photographer photographer) {
   QtShell& shell = desktop.Windows();
   photographer.Take(u"accueil");
@@ -145,6 +240,7 @@ void PhotographForms(Desktop& desktop, const Theme& theme, Photographer photogra
   shell.Show(u"FormStat");
   photographer.Take(u"statistiques", shell.WindowOf(u"FormStat"));
   shell.Unload(u"FormStat");
+  PhotographCv(desktop, photographer);
   AboutBox about(theme, nullptr);
   photographer.Take(u"a-propos", &about);
 }
@@ -155,7 +251,7 @@ int Run(const QString& folder) {
   const Text data = FromQt(scratch.path());
   const SampleEnvironment environment(data);
   const std::filesystem::path workspace = workspace_paths::UsualDataFolder(environment);
-  InstallerDossier(workspace, {});
+  InstallerDossier(workspace, TALVOR_DATA_FOLDER);
   FillFiles(workspace);
   std::filesystem::current_path(workspace);
   FillDatabase(clock);

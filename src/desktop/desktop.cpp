@@ -16,6 +16,7 @@ Desktop::Desktop(const Theme& theme, const Environment& environment, const Clock
       clock_(clock),
       dialogs_(dialogs),
       depart_(dialogs, shell_),
+      cv_({principale_, shell_, theme, environment, clock, dialogs, pickers_}),
       main_(std::make_unique<MainWindow>(principale_, shell_, theme)) {
   MakeFormCand();
   RegisterForms();
@@ -45,6 +46,7 @@ void Desktop::RegisterForms() {
   RegisterHome();
   RegisterCandidatures();
   RegisterReports();
+  RegisterCv();
   RegisterGuide();
   RegisterSplash();
   shell_.Register(u"APropos", {.place = QtShell::Place::Over, .make = [this](QWidget* parent) -> QWidget* {
@@ -99,6 +101,21 @@ void Desktop::RegisterReports() {
   preview_.SetFrame(main_.get());
   main_->Header().OnPrint = [this] { reports_.ImprimerListe(ReportMode::Liste); };
   assistantTexte_.commands.justificatif = [this] { reports_.ImprimerListe(ReportMode::Justificatif); };
+}
+
+void Desktop::RegisterCv() {
+  pickers_.SetFrame(main_.get());
+  cv_.Register();
+  cv_.OnActed = [this] { RefreshMain(); };
+  assistantTexte_.commands.ouvrirCv = [this](TextView file) { cv_.OpenFile(file); };
+  // The other slots stay with the main window.
+  HeaderBar& header = main_->Header();
+  header.OnSlotOpen = [this, others = header.OnSlotOpen](std::size_t slot) {
+    if (slot < Principale::CvSlots)
+      cv_.OpenSlot(slot);
+    else
+      others(slot);
+  };
 }
 
 void Desktop::RegisterGuide() {

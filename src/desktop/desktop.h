@@ -6,9 +6,11 @@
 #include <optional>
 
 #include "ads/capture.h"
+#include "desktop/cv_desk.h"
 #include "desktop/form_cand_window.h"
 #include "desktop/home_window.h"
 #include "desktop/main_window.h"
+#include "desktop/qt_dialogs.h"
 #include "desktop/report_preview.h"
 #include "desktop/splash.h"
 #include "desktop/web_browser.h"
@@ -39,6 +41,7 @@ class Desktop {
   [[nodiscard]] Principale& Model() { return principale_; }
   [[nodiscard]] FormCand& Candidatures() { return *formCand_; }
   [[nodiscard]] QtPagePreview& Preview() { return preview_; }
+  [[nodiscard]] CvDesk& Cv() { return cv_; }
   // The window of the candidatures, or null.
   [[nodiscard]] FormCandWindow* CandidatureWindow() const { return formCandWindow_; }
 
@@ -48,6 +51,7 @@ class Desktop {
   void RegisterHome();
   void RegisterCandidatures();
   void RegisterReports();
+  void RegisterCv();
   void RegisterGuide();
   void RegisterSplash();
   void RefreshMain();
@@ -70,6 +74,8 @@ class Desktop {
   // Begun anew at each load of the form, in its place.
   std::optional<FormCand> formCand_;
   std::optional<FormCandCapture> capture_;
+  QtPickers pickers_;
+  CvDesk cv_;
 
   std::unique_ptr<MainWindow> main_;
   QPointer<FormCandWindow> formCandWindow_;

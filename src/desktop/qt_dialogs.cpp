@@ -1,8 +1,11 @@
 #include "desktop/qt_dialogs.h"
 
+#include <QColorDialog>
+#include <QFileDialog>
 #include <QMessageBox>
 #include <QPushButton>
 
+#include "base/line_file.h"
 #include "desktop/text_edge.h"
 
 namespace talvor {
@@ -15,6 +18,18 @@ int Ask(QWidget* frame, QMessageBox::Icon icon, TextView text, QMessageBox::Stan
   return box.exec();
 }
 
+// «Label|*.a;*.b|Label|*.c» as Qt writes it: "Label (*.a *.b);;Label (*.c)", in capitals as well.
+QString QtFilter(TextView filter) {
+  const QStringList parts = ToQt(filter).split(QLatin1Char('|'));
+  QStringList kinds;
+  for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+    const QString label = parts[i].section(QLatin1Char('('), 0, 0).trimmed();
+    const QString patterns = QString(parts[i + 1]).replace(QLatin1Char(';'), QLatin1Char(' '));
+    kinds.append(QStringLiteral("%1 (%2 %3)").arg(label, patterns, patterns.toUpper()));
+  }
+  return kinds.join(QStringLiteral(";;"));
+}
+
 }  // namespace
 
 void QtDialogs::Tell(TextView message) { Ask(frame_, QMessageBox::Information, message, QMessageBox::Ok); }
@@ -22,6 +37,21 @@ void QtDialogs::Tell(TextView message) { Ask(frame_, QMessageBox::Information, m
 bool QtDialogs::Confirm(TextView question) {
   return Ask(frame_, QMessageBox::Warning, question, QMessageBox::Ok | QMessageBox::Cancel) ==
          QMessageBox::Ok;
+}
+
+std::optional<std::filesystem::path> QtPickers::OpenFile(const FileQuestion& question) {
+  const auto folder = TextOf(question.folder);
+  const QString file = QFileDialog::getOpenFileName(frame_, ToQt(question.title),
+                                                    ToQt(folder.value_or(Text{})), QtFilter(question.filter));
+  if (file.isEmpty()) return std::nullopt;
+  return PathOf(FromQt(file));
+}
+
+std::optional<Colour> QtPickers::PickColour() {
+  const QColor colour = QColorDialog::getColor(Qt::white, frame_);
+  if (!colour.isValid()) return std::nullopt;
+  const auto part = [](int value) { return static_cast<std::uint8_t>(value); };
+  return Colour{part(colour.red()), part(colour.green()), part(colour.blue())};
 }
 
 }  // namespace talvor

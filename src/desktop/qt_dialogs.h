@@ -4,6 +4,7 @@
 #include <QWidget>
 
 #include "platform/dialogs.h"
+#include "platform/pickers.h"
 
 namespace talvor {
 
@@ -13,6 +14,17 @@ class QtDialogs : public Dialogs {
   void SetFrame(QWidget* frame) { frame_ = frame; }
   void Tell(TextView message) override;
   bool Confirm(TextView question) override;
+
+ private:
+  QPointer<QWidget> frame_;
+};
+
+// File and colour dialogs of Qt over the main window.
+class QtPickers : public Pickers {
+ public:
+  void SetFrame(QWidget* frame) { frame_ = frame; }
+  std::optional<std::filesystem::path> OpenFile(const FileQuestion& question) override;
+  std::optional<Colour> PickColour() override;
 
  private:
   QPointer<QWidget> frame_;

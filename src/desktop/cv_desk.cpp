@@ -1,0 +1,161 @@
+#include "desktop/cv_desk.h"
+
+#include <QDir>
+#include <QLabel>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QStandardPaths>
+#include <memory>
+
+#include "desktop/guide_panel.h"
+#include "desktop/text_edge.h"
+#include "workspace/document_keeping.h"
+#include "workspace/workspace_paths.h"
+
+namespace talvor {
+namespace {
+
+constexpr TextView HelpForm = u"Aide";
+constexpr int TwipsOfPixel = 15;
+
+}  // namespace
+
+CvDesk::CvDesk(Program program) : program_(program), menus_(program.theme) {
+  menus_.OnChosen = [this](TextView item) { Chosen(item); };
+  MakeForm();
+}
+
+void CvDesk::MakeForm() {
+  form_.emplace(FormRédigerCV::Surroundings{.principale = program_.principale,
+                                            .shell = program_.shell,
+                                            .dialogs = program_.dialogs,
+                                            .pickers = program_.pickers,
+                                            .menus = menus_,
+                                            .webBrowser1 = preview_,
+                                            .clipboard = clipboard_,
+                                            .environment = program_.environment,
+                                            .clock = program_.clock,
+                                            .showHelp = [this](TextView text) { ShowHelp(text); },
+                                            .layOut =
+                                                [this] {
+                                                  if (window_) window_->Refresh();
+                                                }});
+}
+
+QWidget* CvDesk::MakeWindow(QWidget* parent) {
+  MakeForm();
+  window_ = new CvWindow(*form_, menus_, program_.theme, parent);
+  preview_.SetView(&window_->Page());
+  window_->OnActed = [this] {
+    if (OnActed) OnActed();
+  };
+  window_->OnHelp = [this](int icon) {
+    if (icon >= 0) return form_->MouseOverImage6(icon);
+    program_.shell.Unload(HelpForm);
+  };
+  return window_;
+}
+
+void CvDesk::Register() {
+  program_.shell.Register(EditorForm, {.onLoad = QtShell::OnLoad::Shown,
+                                       .make = [this](QWidget* parent) { return MakeWindow(parent); },
+                                       .loaded =
+                                           [this] {
+                                             const int width = window_->window()->width() * TwipsOfPixel;
+                                             window_->Do([&] { form_->Open(width); });
+                                           },
+                                       .unloaded =
+                                           [this] {
+                                             // The window looks at the model until it is gone, so it goes at once.
+                                             delete window_.data();
+                                             program_.shell.Unload(HelpForm);
+                                           }});
+  program_.shell.Register(HelpForm, {.place = QtShell::Place::Over, .make = [](QWidget* parent) -> QWidget* {
+                                       return new AidePanel(parent);
+                                     }});
+}
+
+void CvDesk::OpenFile(TextView name) {
+  program_.shell.Show(EditorForm);
+  if (!window_) return;
+  window_->Do([&] { form_->ChargerFichierCV(FileIn(workspace_paths::CvFolder(), name)); });
+}
+
+void CvDesk::OpenSlot(std::size_t slot) {
+  const Text name = program_.principale.ImageMenu[slot].toolTip;
+  if (name.empty())
+    OpenNew();
+  else
+    OpenFile(name);
+}
+
+void CvDesk::OpenNew() {
+  program_.shell.Unload(EditorForm);
+  program_.shell.Show(EditorForm);
+}
+
+void CvDesk::ShowHelp(TextView text) {
+  auto* panel = static_cast<AidePanel*>(program_.shell.WindowOf(HelpForm));
+  if (panel == nullptr || !window_) return;
+  panel->Info().setText(ShownText(text));
+  PlaceHelp(*panel);
+}
+
+// At the bottom of the page.
+void CvDesk::PlaceHelp(QWidget& panel) {
+  constexpr int Margin = 16;
+  panel.setFixedHeight(panel.heightForWidth(panel.width()));
+  const QWidget& page = window_->PagePane();
+  const QPoint corner = page.mapTo(window_->window(), QPoint(page.width(), page.height()));
+  panel.move(corner - QPoint(panel.width() + Margin, panel.height() + Margin));
+}
+
+void CvDesk::Chosen(TextView item) {
+  if (!window_) return;
+  if (item == u"MenuFrancais") return window_->Do([&] { form_->MenuFrancais(); });
+  if (item == u"MenuAnglais") return window_->Do([&] { form_->MenuAnglais(); });
+  if (item == u"RattacherPhoto") return window_->Do([&] { form_->RattacherPhoto(); });
+  if (item == u"CollerPhoto") return window_->Do([&] { form_->CollerPhoto(); });
+  if (item == u"SupprimerPhoto") return window_->Do([&] { form_->SupprimerPhoto(); });
+  if (item == u"PrévisualiserCV") return Preview();
+  if (item == u"ImprimerCV") return Print();
+  if (item == u"MessageTrames") return program_.shell.Show(u"MiseEnPage");
+  if (item == u"MenuConvFWord") return program_.shell.Show(u"FormConvert");
+  if (item == u"ConsulterWord") return OpenLastWordVersion();
+}
+
+void CvDesk::OpenLastWordVersion() {
+  const Text file = program_.environment.Variable(u"userprofile") + u"/Documents/" + form_->NomCV + u".doc";
+  if (!documents_.Open(file)) program_.dialogs.Tell(u"Aucun programme n'ouvre le fichier " + file);
+}
+
+// The page as it will be printed, in the user's own viewer.
+void CvDesk::Preview() {
+  const QString file = QDir(QStandardPaths::writableLocation(QStandardPaths::TempLocation))
+                           .filePath(QStringLiteral("Talvor-CV.pdf"));
+  QWebEnginePage* page = window_->Page().page();
+  QObject::connect(
+      page, &QWebEnginePage::pdfPrintingFinished, window_,
+      [this](const QString& path, bool success) {
+        if (!success || !documents_.Open(FromQt(path)))
+          program_.dialogs.Tell(u"La prévisualisation n'a pas pu s'ouvrir.");
+      },
+      Qt::SingleShotConnection);
+  page->printToPdf(file);
+}
+
+void CvDesk::Print() {
+  if (QPrinterInfo::defaultPrinter().isNull())
+    return program_.dialogs.Tell(u"Aucune imprimante n'est installée.");
+  auto printer = std::make_shared<QPrinter>(QPrinterInfo::defaultPrinter());
+  CvPageView& view = window_->Page();
+  QObject::connect(
+      &view, &QWebEngineView::printFinished, window_,
+      [this, printer](bool success) {
+        if (!success) program_.dialogs.Tell(u"L'impression n'a pas abouti.");
+      },
+      Qt::SingleShotConnection);
+  view.print(printer.get());
+}
+
+}  // namespace talvor

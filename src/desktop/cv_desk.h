@@ -1,0 +1,70 @@
+// The editor of CVs in the program: its view model with all that stands around it, and how other
+// windows open it.
+#pragma once
+
+#include <QPointer>
+#include <functional>
+#include <optional>
+
+#include "cv/editor.h"
+#include "desktop/cv_menus.h"
+#include "desktop/cv_page_view.h"
+#include "desktop/cv_window.h"
+#include "desktop/qt_clipboard.h"
+#include "desktop/qt_dialogs.h"
+#include "desktop/qt_documents.h"
+#include "desktop/qt_shell.h"
+
+namespace talvor {
+
+class CvDesk {
+ public:
+  // All of them must outlive it.
+  struct Program {
+    Principale& principale;
+    QtShell& shell;
+    const Theme& theme;
+    const Environment& environment;
+    const Clock& clock;
+    Dialogs& dialogs;
+    Pickers& pickers;
+  };
+  explicit CvDesk(Program program);
+
+  // Called after each action of the window.
+  std::function<void()> OnActed;
+
+  // Registers `FormRédigerCV` and its help `Aide`.
+  void Register();
+  // Opens the CV of that file name.
+  void OpenFile(TextView name);
+  // A double click on the slot: its CV, or a new one.
+  void OpenSlot(std::size_t slot);
+  // The editor is closed and opened empty.
+  void OpenNew();
+
+  [[nodiscard]] FormRédigerCV& Form() { return *form_; }
+  // The window, or null.
+  [[nodiscard]] CvWindow* Window() const { return window_; }
+
+ private:
+  void MakeForm();
+  QWidget* MakeWindow(QWidget* parent);
+  void Chosen(TextView item);
+  void ShowHelp(TextView text);
+  void PlaceHelp(QWidget& panel);
+  void Preview();
+  void Print();
+  void OpenLastWordVersion();
+
+  Program program_;
+  CvPreview preview_;
+  CvMenus menus_;
+  QtClipboard clipboard_;
+  QtDocuments documents_;
+  // Begun anew at each load of the form, in its place.
+  std::optional<FormRédigerCV> form_;
+  QPointer<CvWindow> window_;
+};
+
+}  // namespace talvor
