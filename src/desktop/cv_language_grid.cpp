@@ -50,6 +50,7 @@ void CvLanguageGrid::MakeBox(std::size_t language, std::size_t level) {
   box->setObjectName(ToQt(column.group) + QString::number(language));
   box->setAccessibleName(QStringLiteral("%1, %2").arg(ToQt(LanguageNames[language]), ToQt(column.spoken)));
   box->setFocusPolicy(Qt::ClickFocus);
+  box->setStyleSheet(QStringLiteral("min-height: 20px;"));
   box->installEventFilter(this);
   connect(box, &QCheckBox::clicked, this, [this, group = column.group, language] {
     if (OnClick) OnClick(group, language);

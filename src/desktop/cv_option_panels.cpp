@@ -1,6 +1,7 @@
 #include "desktop/cv_option_panels.h"
 
 #include <QCheckBox>
+#include <QFontDatabase>
 #include <QGridLayout>
 #include <QLabel>
 #include <QListWidget>
@@ -76,7 +77,9 @@ void CvOptionPanels::MakeFonts() {
     font->setObjectName(QStringLiteral("PoliceT%1").arg(i));
     font->setCheckable(true);
     font->setFocusPolicy(Qt::NoFocus);
-    font->setStyleSheet(QStringLiteral("font-family: '%1';").arg(font->text()));
+    // A family that is not installed would be shown in a chance one.
+    if (QFontDatabase::hasFamily(font->text()))
+      font->setStyleSheet(QStringLiteral("font-family: '%1';").arg(font->text()));
     connect(font, &QPushButton::clicked, this, [this, i] {
       if (OnFont) OnFont(i);
     });

@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -75,11 +76,39 @@ QWidget* CvPagePane::MakeEntries() {
     connect(entry, &QPushButton::clicked, this, [this, i, entry] {
       if (OnEntry) OnEntry(i, *entry);
     });
+    if (rows[i].menu) AddChevron(*entry);
     row->addWidget(entry);
     entries_[i] = entry;
   }
   row->addStretch(1);
   return bar;
+}
+
+// The sign of an entry that opens a menu.
+void CvPagePane::AddChevron(QPushButton& entry) {
+  entry.setStyleSheet(FlatAtRest + QStringLiteral("QPushButton { padding-right: 24px; }"));
+  auto* row = new QHBoxLayout(&entry);
+  row->setContentsMargins(0, 0, 8, 0);
+  auto* sign = new QLabel(&entry);
+  sign->setAttribute(Qt::WA_TransparentForMouseEvents);
+  const auto take = [this, sign] {
+    sign->setPixmap(theme_.Pixmap(QStringLiteral("chev-d"), QStringLiteral("text2"), 14));
+  };
+  connect(&theme_, &Theme::Changed, sign, take);
+  take();
+  row->addStretch(1);
+  row->addWidget(sign);
+  entry.setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+// In a narrow pane words come before pictures.
+void CvPagePane::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  constexpr int Narrow = 560;
+  constexpr int Icon = 16;
+  const bool narrow = width() < Narrow;
+  for (QPushButton* entry : entries_) entry->setIconSize(narrow ? QSize(0, 0) : QSize(Icon + TextGap, Icon));
+  for (QLabel* caption : captions_) caption->setHidden(narrow);
 }
 
 QLineEdit* CvPagePane::MakeChoice(const char16_t* name, const QString& image, const QString& spoken,
@@ -116,9 +145,10 @@ QWidget* CvPagePane::MakeOptions() {
   template_->setReadOnly(true);
   font_ =
       MakeChoice(u"Police", QStringLiteral("Image3"), tr("Choisir une police"), &CvPagePane::OnFonts, bar);
-  row->addWidget(MakeLabel(tr("Modèle"), template_, bar));
+  captions_ = {MakeLabel(tr("Modèle"), template_, bar), MakeLabel(tr("Police"), font_, bar)};
+  row->addWidget(captions_[0]);
   row->addWidget(template_, 1);
-  row->addWidget(MakeLabel(tr("Police"), font_, bar));
+  row->addWidget(captions_[1]);
   row->addWidget(font_, 1);
   row->addStretch(1);
   for (std::size_t i = 0; i < dispositions_.size(); ++i) {

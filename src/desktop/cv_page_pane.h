@@ -12,6 +12,7 @@
 
 class QCheckBox;
 class QHBoxLayout;
+class QLabel;
 class QLineEdit;
 class QPushButton;
 
@@ -33,6 +34,7 @@ class CvPagePane : public QWidget {
  protected:
   // The arrows step through the open list of the field that has the focus.
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   QWidget* MakeEntries();
@@ -40,12 +42,14 @@ class CvPagePane : public QWidget {
   QLineEdit* MakeChoice(const char16_t* name, const QString& image, const QString& spoken,
                         std::function<void()> CvPagePane::*open, QWidget* bar);
   void StepFont(int step);
+  void AddChevron(QPushButton& entry);
 
   const Theme& theme_;
   std::array<QPushButton*, 5> entries_{};
   QLineEdit* template_ = nullptr;
   QLineEdit* font_ = nullptr;
   std::array<QCheckBox*, 2> dispositions_{};
+  std::array<QLabel*, 2> captions_{};  // of the template and the font
   CvOptionPanels* panels_;
   CvPageView* view_;
 };

@@ -5,6 +5,7 @@
 #include <QWebEnginePage>
 #include <QWebEngineProfile>
 #include <QWebEngineSettings>
+#include <algorithm>
 
 #include "desktop/text_edge.h"
 
@@ -70,10 +71,24 @@ CvPageView::CvPageView(QWidget* parent) : QWebEngineView(parent) {
   setPage(page_);
   setContextMenuPolicy(Qt::NoContextMenu);
   setAcceptDrops(false);
+  connect(page_, &QWebEnginePage::loadFinished, this, &CvPageView::FitPage);
 }
 
 // The page goes before its profile.
 CvPageView::~CvPageView() { delete page_; }
+
+// A narrow view shows the page smaller, rather than cut.
+void CvPageView::FitPage() {
+  constexpr double WholePage = 640;
+  constexpr double Smallest = 0.6;
+  const double fit = std::clamp(width() / WholePage, Smallest, 1.0);
+  if (!qFuzzyCompare(fit, zoomFactor())) setZoomFactor(fit);
+}
+
+void CvPageView::resizeEvent(QResizeEvent* event) {
+  QWebEngineView::resizeEvent(event);
+  FitPage();
+}
 
 void CvPageView::ShowPage(const QString& path) {
   const QUrl url = QUrl::fromLocalFile(path);

@@ -37,7 +37,11 @@ class CvPageView : public QWebEngineView {
   // Blank paper.
   void ShowBlank();
 
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
  private:
+  void FitPage();
   class Page;
 
   FolderInterceptor interceptor_;

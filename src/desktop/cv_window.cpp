@@ -117,6 +117,17 @@ void CvWindow::Refresh() {
   page_->Show(form_);
 }
 
+// In a narrow window both panes come near their least widths.
+void CvWindow::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  constexpr int NarrowWindow = 1200;
+  const bool narrow = width() < NarrowWindow;
+  if (narrow == narrow_) return;
+  narrow_ = narrow;
+  const int zones = zones_->minimumWidth();
+  splitter_->setSizes(narrow ? QList<int>{zones, width() - zones - splitter_->handleWidth()} : WideSizes);
+}
+
 void CvWindow::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
   const QString first = form_.FrameIdentite ? QStringLiteral("Identite") : QStringLiteral("Nom");

@@ -32,11 +32,11 @@ class CvWindow : public QWidget {
   void Refresh();
 
   [[nodiscard]] CvPageView& Page() { return page_->View(); }
-  // The width that the layout rule looks at, in pixels.
   [[nodiscard]] CvPagePane& PagePane() { return *page_; }
 
  protected:
   void showEvent(QShowEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   void BindFields();
@@ -53,6 +53,7 @@ class CvWindow : public QWidget {
   QSplitter* splitter_;
   CvZonesPane* zones_;
   CvPagePane* page_;
+  bool narrow_ = false;
   QString focused_;  // the field that has not been left yet
 };
 

@@ -138,7 +138,6 @@ QWidget* CvZonesPane::MakeIdentityBox() {
   QPlainTextEdit* text = MakeTextField(u"Identite", Height, box);
   text->setFixedHeight(Height);
   QLabel* label = MakeZoneLabel(u"Identite", QLatin1Char('I'), text, box);
-  label->setWordWrap(true);
   column->addWidget(label);
   column->addWidget(text);
   auto* detailed =
@@ -269,6 +268,7 @@ QToolButton* CvZonesPane::MakeHelp(TextView field, QWidget* parent) {
     help->setObjectName(QStringLiteral("Image6_%1").arg(place.icon));
     help->setProperty("role", QStringLiteral("flat"));
     help->setProperty(HelpIcon, place.icon);
+    help->setStyleSheet(QStringLiteral("min-height: 0; padding: 0;"));
     help->setFixedSize(24, 22);
     help->setAccessibleName(tr("Aide : %1").arg(ZoneCaption(field)));
     TintIcon(theme_, *help, QStringLiteral("help"), QStringLiteral("new"));
@@ -284,7 +284,10 @@ QWidget* CvZonesPane::MakeFunction() {
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(6);
   QLineEdit* function = MakeLineField(u"Fonction", block);
-  row->addWidget(MakeZoneLabel(u"Fonction", QLatin1Char('F'), function, block));
+  constexpr int LabelColumn = 60;
+  QLabel* label = MakeZoneLabel(u"Fonction", QLatin1Char('F'), function, block);
+  label->setMinimumWidth(LabelColumn);
+  row->addWidget(label);
   row->addWidget(function, 1);
   row->addWidget(MakeHelp(u"Fonction", block));
   return block;
@@ -331,8 +334,11 @@ void CvZonesPane::MakeZones() {
 
 // Two by two, with the grid beside the last three; one below the other in the compact layout.
 void CvZonesPane::PlaceZones() {
-  zones_->setColumnStretch(0, 1);
-  zones_->setColumnStretch(1, compact_ ? 0 : 1);
+  // The right column holds the longest labels.
+  constexpr int LeftShare = 300;
+  constexpr int RightShare = 346;
+  zones_->setColumnStretch(0, LeftShare);
+  zones_->setColumnStretch(1, compact_ ? 0 : RightShare);
   if (compact_) {
     for (int i = 0; i < 4; ++i) zones_->addWidget(zoneOf_[static_cast<std::size_t>(i)], i, 0);
     zones_->addWidget(languageZone_, 4, 0);
@@ -364,6 +370,9 @@ void CvZonesPane::ShowPhoto(const std::string& bytes) {
           : QPixmap::fromImage(picture.scaled(room, Qt::KeepAspectRatio, Qt::SmoothTransformation));
   if (!picture.isNull()) shown.setDevicePixelRatio(2);
   photo_->setIcon(shown);
+  photo_->setStyleSheet(
+      QStringLiteral("QToolButton:!focus { border: 1px solid %1; background: %2; }")
+          .arg(theme_.Color(QStringLiteral("line2")).name(), theme_.Color(QStringLiteral("psoft")).name()));
   photo_->setAccessibleName(picture.isNull() ? tr("Photographie : aucune") : tr("Photographie"));
 }
 
