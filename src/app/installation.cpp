@@ -22,4 +22,11 @@ void InstallerDossier(const fs::path& folder, const fs::path& delivered) {
   Database::Create(folder / "Talvor.mdb");
 }
 
+fs::path DeliveredFiles() {
+  std::error_code error;
+  const fs::path program = fs::read_symlink("/proc/self/exe", error);
+  const fs::path installed = program.parent_path().parent_path() / "share" / "talvor" / "data";
+  return !error && fs::exists(installed, error) ? installed : fs::path{TALVOR_DATA_FOLDER};
+}
+
 }  // namespace talvor

@@ -27,14 +27,6 @@ Tri TriOf(const std::string& name) {
   throw CommandError("tri inconnu : « " + name + " »");
 }
 
-// The files delivered with the program: beside an installed program, or in the sources of a build.
-fs::path DeliveredFiles() {
-  std::error_code error;
-  const fs::path program = fs::read_symlink("/proc/self/exe", error);
-  const fs::path installed = program.parent_path().parent_path() / "share" / "talvor" / "data";
-  return !error && fs::exists(installed, error) ? installed : fs::path{TALVOR_DATA_FOLDER};
-}
-
 // The groups in order, each with its leaves.
 std::vector<std::vector<std::size_t>> LeavesByGroup(const std::vector<TreeNode>& nodes) {
   std::vector<std::vector<std::size_t>> leaves(nodes.size());

@@ -4,9 +4,21 @@
 #include <QLocale>
 #include <exception>
 
+#include "desktop/start_page.h"
+
 namespace talvor {
 
-Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
+namespace {
+
+// Schemes are made known before the application is.
+int& WithSchemes(int& argc) {
+  RegisterStartPageScheme();
+  return argc;
+}
+
+}  // namespace
+
+Application::Application(int& argc, char** argv) : QApplication(WithSchemes(argc), argv) {
   setApplicationName(QStringLiteral("Talvor"));
   setApplicationDisplayName(QStringLiteral("Talvor"));
   const QLocale locale(QLocale::French, QLocale::France);

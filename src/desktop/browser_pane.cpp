@@ -7,6 +7,7 @@
 #include <QWebEngineView>
 
 #include "desktop/pane.h"
+#include "desktop/start_page.h"
 
 namespace talvor {
 
@@ -45,6 +46,7 @@ BrowserPane::BrowserPane(const Theme& theme, QWidget* parent) : QWidget(parent) 
 QWebEngineView* BrowserPane::MakeView() {
   if (view_ != nullptr) return view_;
   view_ = new QWebEngineView(this);
+  InstallStartPage(*view_->page()->profile());
   view_->setObjectName(QStringLiteral("WebBrowser1"));
   view_->setAccessibleName(tr("Page"));
   delete blank_;

@@ -25,15 +25,6 @@ using namespace talvor;
   std::_Exit(EXIT_FAILURE);
 }
 
-// The files delivered with the program: beside an installed program, or in the sources of a build.
-std::filesystem::path DeliveredFiles() {
-  std::error_code error;
-  const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
-  const auto installed = program.parent_path().parent_path() / "share" / "talvor" / "data";
-  return !error && std::filesystem::exists(installed, error) ? installed
-                                                             : std::filesystem::path{TALVOR_DATA_FOLDER};
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {

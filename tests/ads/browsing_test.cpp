@@ -7,6 +7,7 @@
 #include "ads/page_rating.h"
 #include "ads/prefill.h"
 #include "ads/site_directory.h"
+#include "ads/start_page.h"
 #include "base/line_file.h"
 #include "tests/fakes/scratch_folder.h"
 
@@ -134,6 +135,16 @@ TEST(SiteDirectory, TheDeliveredRowsComeBackWithTheFileDeleted) {
   std::filesystem::remove("Listesites.txt");
   directory.Charger();
   EXPECT_EQ(directory.List1.size(), 195u);
+}
+
+TEST(StartPage, LinksEverySiteAndLetsNoRowBreakItsMarkup) {
+  SiteDirectory directory;
+  directory.List1 = {u"ACME & FILS   http://a.example/?x=1&y='2'", u"<script>   http://b.example/",
+                     u"sans/adresse"};
+  const Text page = StartPageHtml(directory);
+  EXPECT_TRUE(Contains(page, u"<a href='http://a.example/?x=1&amp;y=&#39;2&#39;'>ACME &amp; FILS</a>"));
+  EXPECT_TRUE(Contains(page, u"<a href='http://b.example/'>&lt;script&gt;</a>"));
+  EXPECT_FALSE(Contains(page, u"sans/adresse"));
 }
 
 TEST(SiteDirectory, APageOfSitesBecomesTheFile) {

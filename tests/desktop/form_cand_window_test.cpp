@@ -187,5 +187,20 @@ TEST_F(FormCandWindowTest, TheBrowserPaneComesAndGoesWithTheModel) {
   EXPECT_FALSE(pane->isVisible()) << "a row opened hides the pane";
 }
 
+TEST_F(FormCandWindowTest, TheStartPageNeedsNoNetworkAndListsTheSites) {
+  Click("Action4");
+  auto* view = Find<QWebEngineView>("WebBrowser1");
+  QString text;
+  EXPECT_TRUE(QTest::qWaitFor(
+      [&] {
+        view->page()->toPlainText([&](const QString& answer) { text = answer; });
+        QTest::qWait(50);
+        return text.contains(QStringLiteral("Sites d’emploi")) &&
+               text.contains(QStringLiteral("YAKE OFREMPLOI"));
+      },
+      4 * Patience))
+      << text.toStdString();
+}
+
 }  // namespace
 }  // namespace talvor
