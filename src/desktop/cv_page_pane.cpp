@@ -63,8 +63,8 @@ QWidget* CvPagePane::MakeEntries() {
   auto* bar = new QWidget(this);
   bar->setFixedHeight(43);
   auto* row = new QHBoxLayout(bar);
-  row->setContentsMargins(8, 0, 8, 0);
-  row->setSpacing(2);
+  row->setContentsMargins(4, 0, 4, 0);
+  row->setSpacing(1);
   for (std::size_t i = 0; i < rows.size(); ++i) {
     auto* entry = new QPushButton(rows[i].caption, bar);
     entry->setObjectName(QStringLiteral("Entree%1").arg(i));
