@@ -29,7 +29,7 @@ constexpr std::array<Level, 4> LevelColumns{{
 CvLanguageGrid::CvLanguageGrid(QWidget* parent) : QWidget(parent) {
   auto* grid = new QGridLayout(this);
   grid->setContentsMargins(0, 0, 0, 0);
-  grid->setHorizontalSpacing(6);
+  grid->setHorizontalSpacing(3);
   grid->setVerticalSpacing(0);
   for (std::size_t level = 0; level < Levels; ++level) {
     auto* heading = new QLabel(ToQt(LevelColumns[level].heading), this);

@@ -30,6 +30,13 @@ void Fill(QWidget& sample, const QColor& colour, const QString& edge, int border
           .arg(edge));
 }
 
+// The token of a mark that stands out on the colour, in either palette.
+QString MarkOn(const Theme& theme, const QColor& colour) {
+  constexpr int Half = 140;
+  const bool light = theme.Current() == Theme::Palette::Light;
+  return (qGray(colour.rgb()) > Half) == light ? QStringLiteral("tip") : QStringLiteral("ontip");
+}
+
 }  // namespace
 
 CvOptionPanels::CvOptionPanels(const Theme& theme, QWidget* parent)
@@ -179,11 +186,7 @@ void CvOptionPanels::Show(const FormRédigerCV& form) {
     const bool chosen = ColourText(Coul[i]) == form.Couleur;
     Fill(*swatches_[i], colour,
          theme_.Color(chosen ? QStringLiteral("focus") : QStringLiteral("edge")).name(), chosen ? 3 : 1);
-    constexpr int Half = 140;
-    swatches_[i]->setIcon(!chosen ? QIcon()
-                                  : theme_.Icon(QStringLiteral("check"), qGray(colour.rgb()) > Half
-                                                                             ? QStringLiteral("tip")
-                                                                             : QStringLiteral("ontip")));
+    swatches_[i]->setIcon(chosen ? theme_.Icon(QStringLiteral("check"), MarkOn(theme_, colour)) : QIcon());
   }
   const QString edge = theme_.Color(QStringLiteral("edge")).name();
   Fill(*samples_[0], QColor(talvor::ToQt(form.Couleur)), edge, 1);

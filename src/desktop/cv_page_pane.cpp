@@ -63,13 +63,12 @@ QWidget* CvPagePane::MakeEntries() {
   auto* bar = new QWidget(this);
   bar->setFixedHeight(43);
   auto* row = new QHBoxLayout(bar);
-  row->setContentsMargins(8, 0, 8, 0);
-  row->setSpacing(2);
+  row->setContentsMargins(4, 0, 4, 0);
+  row->setSpacing(1);
   for (std::size_t i = 0; i < rows.size(); ++i) {
     auto* entry = new QPushButton(rows[i].caption, bar);
     entry->setObjectName(QStringLiteral("Entree%1").arg(i));
     entry->setProperty("dense", true);
-    entry->setStyleSheet(FlatAtRest);
     // Chosen by the form, never by the click itself.
     entry->setCheckable(!rows[i].menu);
     TintIcon(theme_, *entry, rows[i].icon, QStringLiteral("text"));
@@ -86,9 +85,8 @@ QWidget* CvPagePane::MakeEntries() {
 
 // The sign of an entry that opens a menu.
 void CvPagePane::AddChevron(QPushButton& entry) {
-  entry.setStyleSheet(FlatAtRest + QStringLiteral("QPushButton { padding-right: 24px; }"));
   auto* row = new QHBoxLayout(&entry);
-  row->setContentsMargins(0, 0, 8, 0);
+  row->setContentsMargins(0, 0, 4, 0);
   auto* sign = new QLabel(&entry);
   sign->setAttribute(Qt::WA_TransparentForMouseEvents);
   const auto take = [this, sign] {
@@ -107,7 +105,14 @@ void CvPagePane::resizeEvent(QResizeEvent* event) {
   constexpr int Narrow = 560;
   constexpr int Icon = 16;
   const bool narrow = width() < Narrow;
-  for (QPushButton* entry : entries_) entry->setIconSize(narrow ? QSize(0, 0) : QSize(Icon + TextGap, Icon));
+  for (QPushButton* entry : entries_) {
+    entry->setIconSize(narrow ? QSize(0, 0) : QSize(Icon + TextGap, Icon));
+    const int side = narrow ? 4 : 8;
+    constexpr int Sign = 16;
+    entry->setStyleSheet(FlatAtRest + QStringLiteral("QPushButton { padding: 0 %1px 0 %2px; }")
+                                          .arg(entry->isCheckable() ? side : side + Sign)
+                                          .arg(side));
+  }
   for (QLabel* caption : captions_) caption->setHidden(narrow);
 }
 

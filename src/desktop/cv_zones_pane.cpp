@@ -8,6 +8,7 @@
 #include <QScrollArea>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "cv/editor_texts.h"
 #include "desktop/cv_zone_fields.h"
@@ -302,6 +303,7 @@ QWidget* CvZonesPane::MakeZone(TextView field, QChar key, int height) {
   auto* head = new QHBoxLayout;
   head->setSpacing(4);
   QLabel* label = MakeZoneLabel(field, key, text, zone);
+  label->setStyleSheet(QStringLiteral("font-size: 12px;"));
   label->setMinimumHeight(22);
   label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
   label->setToolTip(ZoneCaption(field));
@@ -381,6 +383,13 @@ void CvZonesPane::SetCompact(bool compact) {
   if (compact == compact_) return;
   compact_ = compact;
   PlaceZones();
+}
+
+// The fields never slide out of sight sideways.
+void CvZonesPane::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  constexpr int ScrollBar = 12;
+  setMinimumWidth(std::max(LeastPane, content_->minimumSizeHint().width() + ScrollBar));
 }
 
 bool CvZonesPane::eventFilter(QObject* watched, QEvent* event) {

@@ -41,6 +41,7 @@ class CvZonesPane : public QWidget {
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void showEvent(QShowEvent* event) override;
 
  private:
   QWidget* MakeTitleBar();
