@@ -1,6 +1,7 @@
 // talvor_captures FOLDER: a picture of each form with sample data, light and dark, 1280x800.
 
 #include <QDir>
+#include <QPlainTextEdit>
 #include <QTemporaryDir>
 #include <array>
 #include <cstdlib>
@@ -125,6 +126,41 @@ class Photographer {
   QString suffix_;
 };
 
+// The sender of the letters.
+constexpr const char* SampleCv =
+    "Nom=Marchand\r\nPr\xE9nom=Julie\r\nAdresse1=7 Rue Des Lilas\r\nAdresse2=B\xE2timent C\r\nCP=69003\r\n"
+    "Ville=Lyon\r\nTel=04 72 00 00 41\r\nMob=06 00 00 12 34\r\nEmail=julie.marchand@mail.example\r\n"
+    "Fonction=Charg\xE9"
+    "e de communication\r\nPoste=charg\xE9"
+    "e de projet\r\nLastSociete=Orvane\r\n"
+    "Domaine=information interne\r\n";
+
+void PhotographLetters(Desktop& desktop, Photographer photographer) {
+  QtShell& shell = desktop.Windows();
+  shell.Load(LetterForm);
+  LetterWindow& window = *desktop.LettersWindow();
+  FormLettre& letter = desktop.Letter();
+  std::ofstream("CV/Marchand Julie.dat") << SampleCv;
+  window.Do([&] {
+    letter.ChargerFichierLettre("Lettres/Julie Marchand (IR).dat");
+    letter.NomLettre = u"Julie Marchand (IR)";
+    for (std::size_t i = 0; i < CorpsCount; ++i) letter.BoutonTLV2(i);
+    letter.InitLettre("CV/Marchand Julie.dat");
+    letter.Competences = u"la rédaction, la publication web et la vidéo";
+    letter.ListeCVVisible = true;
+    letter.ClicCheck_Modele(Printed);
+  });
+  photographer.Take(u"lettre");
+  desktop.Main().resize(1024, 768);
+  photographer.Take(u"lettre-1024");
+  desktop.Main().resize(1280, 800);
+  window.Do([&] { letter.ClicCheck_Modele(Mail); });
+  window.findChild<QPlainTextEdit*>(QStringLiteral("Text1"))->insertPlainText(QStringLiteral("Bonjour,\n"));
+  window.Do([&] { letter.saveFailed = true; });
+  photographer.Take(u"lettre-courriel");
+  shell.Unload(LetterForm);
+}
+
 void PhotographForms(Desktop& desktop, const Theme& theme, Photographer photographer) {
   QtShell& shell = desktop.Windows();
   photographer.Take(u"accueil");
@@ -142,6 +178,7 @@ void PhotographForms(Desktop& desktop, const Theme& theme, Photographer photogra
   desktop.Main().resize(1024, 768);
   photographer.Take(u"candidatures-1024");
   desktop.Main().resize(1280, 800);
+  PhotographLetters(desktop, photographer);
   shell.Show(u"FormStat");
   photographer.Take(u"statistiques", shell.WindowOf(u"FormStat"));
   shell.Unload(u"FormStat");
