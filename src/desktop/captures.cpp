@@ -144,7 +144,16 @@ void PhotographLetters(Desktop& desktop, Photographer photographer) {
   window.Do([&] {
     letter.ChargerFichierLettre("Lettres/Julie Marchand (IR).dat");
     letter.NomLettre = u"Julie Marchand (IR)";
-    for (std::size_t i = 0; i < CorpsCount; ++i) letter.BoutonTLV2(i);
+    letter.Corps = {
+        u"Votre annonce parue sur #Origine# a retenu toute mon attention et je vous propose ma "
+        u"candidature au poste de #Intitule#.",
+        u"Actuellement #Poste# chez #LastSociete#, j'ai acquis une solide pratique de #Domaine# et "
+        u"maîtrise #competences#.",
+        u"Votre entreprise m'attire par la place donnée à l'information des équipes. Sérieuse et "
+        u"motivée, je souhaite y développer mes compétences.",
+        u"Je me tiens à votre disposition pour un entretien au cours duquel je vous préciserai mon "
+        u"parcours.",
+        u"Je vous prie d'agréer, #Titre#, l'expression de mes salutations distinguées."};
     letter.InitLettre("CV/Marchand Julie.dat");
     letter.Competences = u"la rédaction, la publication web et la vidéo";
     letter.ListeCVVisible = true;

@@ -13,9 +13,10 @@
 namespace talvor {
 namespace {
 
-constexpr int LeastWidth = 250;
+constexpr int LeastWidth = 288;
 constexpr int RowGap = 5;
-constexpr int CvRow = 27;
+constexpr int CvRow = 26;
+constexpr int LeastTown = 44;
 
 QGridLayout* MakeGrid(QWidget* block) {
   auto* grid = new QGridLayout(block);
@@ -24,7 +25,8 @@ QGridLayout* MakeGrid(QWidget* block) {
   grid->setVerticalSpacing(RowGap);
   grid->setColumnStretch(1, 1);
   // Both blocks keep their fields in one line.
-  grid->setColumnMinimumWidth(0, block->fontMetrics().horizontalAdvance(block->tr("Dernier poste occupé")));
+  grid->setColumnMinimumWidth(0,
+                              block->fontMetrics().horizontalAdvance(block->tr("Dernier poste occupé")) + 2);
   return grid;
 }
 
@@ -90,6 +92,7 @@ void LetterSenderPane::AddPlace(QGridLayout* grid, QWidget* parent) {
   postcode->setAccessibleName(tr("Code postal"));
   postcode->setFixedWidth(postcode->fontMetrics().horizontalAdvance(QStringLiteral("000000")) + 18);
   town->setAccessibleName(tr("Ville"));
+  town->setMinimumWidth(LeastTown);
   auto* place = new QHBoxLayout;
   place->setSpacing(5);
   place->addWidget(postcode);
@@ -163,6 +166,8 @@ void LetterSenderPane::FillCvs() {
   for (const QString& name : names_) {
     auto* item = new QListWidgetItem(theme_.Icon(IconOf(name), QStringLiteral("text2")), name, list_);
     item->setToolTip(ToolTipText(FromQt(name)));
+    // Made elsewhere: it has no fields to take.
+    if (name.contains(QLatin1Char('.'))) item->setForeground(theme_.Color(QStringLiteral("text3")));
   }
 }
 

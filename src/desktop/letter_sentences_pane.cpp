@@ -14,6 +14,8 @@ namespace {
 
 constexpr int LeastWidth = 320;
 constexpr int LeastSentence = 58;  // three lines
+constexpr int NarrowPane = 370;    // below it the buttons go without their arrows
+constexpr int Arrow = 14;
 
 // The number of a group, in a disc.
 QLabel* MakeNumber(std::size_t number, const Theme& theme, QWidget* parent) {
@@ -128,7 +130,7 @@ void LetterSentencesPane::AddButton(std::size_t group, const QString& name, bool
   button->setProperty("dense", true);
   if (next) button->setLayoutDirection(Qt::RightToLeft);  // the arrow behind the text
   TintIcon(theme_, *button, next ? QStringLiteral("chev-r") : QStringLiteral("chev-l"),
-           QStringLiteral("text2"), 14);
+           QStringLiteral("text2"), Arrow);
   const auto press = [this, group, next] {
     if (const auto& act = next ? OnNext : OnPrevious) act(group);
   };
@@ -137,10 +139,20 @@ void LetterSentencesPane::AddButton(std::size_t group, const QString& name, bool
   const QKeySequence keys(next ? Qt::ALT | digit : Qt::ALT | Qt::SHIFT | digit);
   button->setToolTip(keys.toString(QKeySequence::NativeText));
   auto* shortcut = new QShortcut(keys, this);
-  shortcut->setContext(Qt::WindowShortcut);
+  // On a French keyboard the digits need Shift: the same keys without it.
+  constexpr std::array FrenchDigits{Qt::Key_Ampersand, Qt::Key_Eacute, Qt::Key_QuoteDbl, Qt::Key_Apostrophe,
+                                    Qt::Key_ParenLeft};
+  if (next) shortcut->setKeys({keys, QKeySequence(Qt::ALT | FrenchDigits[group])});
   connect(shortcut, &QShortcut::activated, this, press);
+  steps_.append(button);
   fields_.append(button);
   head->layout()->addWidget(button);
+}
+
+void LetterSentencesPane::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  const QSize arrow = width() < NarrowPane ? QSize(0, 0) : QSize(Arrow + TextGap, Arrow);
+  for (QAbstractButton* step : steps_) step->setIconSize(arrow);
 }
 
 }  // namespace talvor

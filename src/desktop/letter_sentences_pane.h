@@ -7,6 +7,7 @@
 #include "desktop/theme.h"
 #include "letters/letter_model.h"
 
+class QAbstractButton;
 class QPlainTextEdit;
 
 namespace talvor {
@@ -22,6 +23,9 @@ class LetterSentencesPane : public QWidget {
   [[nodiscard]] QPlainTextEdit& Sentence(std::size_t group) { return *sentences_[group]; }
   [[nodiscard]] const QList<QWidget*>& Fields() const { return fields_; }
 
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
  private:
   QWidget* MakeHead();
   QWidget* MakeCard(std::size_t group, const QString& name, QWidget* parent);
@@ -30,6 +34,7 @@ class LetterSentencesPane : public QWidget {
 
   const Theme& theme_;
   std::array<QPlainTextEdit*, CorpsCount> sentences_{};
+  QList<QAbstractButton*> steps_;
   QList<QWidget*> fields_;  // in the order of reading
 };
 

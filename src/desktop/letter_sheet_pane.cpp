@@ -91,7 +91,7 @@ QButtonGroup* LetterSheetPane::MakeSegments(const QString& name, const QString& 
     auto* option = new QPushButton(captions[i], segments);
     option->setObjectName(QStringLiteral("%1%2").arg(name).arg(i));
     option->setCheckable(true);
-    option->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    option->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     option->setToolTip(QString(captions[i]).remove(QLatin1Char('&')));
     group->addButton(option, static_cast<int>(i));
     inner->addWidget(option, 1);
@@ -161,14 +161,13 @@ void LetterSheetPane::TellNote(const Note& note, const QString& icon, const QStr
 
 void LetterSheetPane::TellNotes() {
   if (edited_)
-    TellNote(edit_, QStringLiteral("warn"), QStringLiteral("warn"),
-             tr("Lettre retouchée à la main\u00A0: votre retouche est enregistrée, mais sera perdue si vous "
-                "changez "
-                "une formule ou le type de modèle, quittez le champ Courriel ou recomposez la lettre."));
-  else
     TellNote(
-        edit_, QStringLiteral("info"), QStringLiteral("text3"),
-        tr("Une retouche faite ici à la main est gardée jusqu'à la prochaine composition de la lettre."));
+        edit_, QStringLiteral("warn"), QStringLiteral("warn"),
+        tr("Lettre retouchée à la main\u00A0: la retouche sera perdue à la prochaine composition "
+           "(autre formule, autre type de modèle, reprise d'un CV, sortie du champ Courriel, Recomposer)."));
+  else
+    TellNote(edit_, QStringLiteral("info"), QStringLiteral("text3"),
+             tr("Une retouche faite ici est gardée jusqu'à la prochaine composition de la lettre."));
   TellNote(
       failure_, QStringLiteral("warn"), QStringLiteral("bad"),
       tr("Le modèle n'a pas pu être enregistré. Vérifiez son nom et la place disponible\u00A0; un nouvel "

@@ -7,8 +7,8 @@
 namespace talvor {
 namespace {
 
-constexpr int LongRun = 40;         // blanks from which a run stands for the right half
-constexpr double RightHalf = 0.53;  // where that half begins, in widths of the paper
+constexpr int LongRun = 40;        // blanks from which a run stands for the right half
+constexpr double RightHalf = 0.5;  // where that half begins, in widths of the paper
 
 }  // namespace
 

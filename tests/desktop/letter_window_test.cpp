@@ -152,6 +152,38 @@ TEST_F(LetterWindowTest, ASavedLetterOpensAgainAsItStood) {
   EXPECT_TRUE(dialogs.told.empty());
 }
 
+TEST_F(LetterWindowTest, TheHomePanelBeginsAndOpensLettersInAFreshForm) {
+  std::ofstream(Folder() / "Lettres" / "Ancienne (ES).dat") << "Text1=Bonjour\r\nNom=Durand\r\n";
+  desktop->Model().InitMenu();
+  OpenSlot(Principale::FirstLetterSlot);
+  EXPECT_EQ(Line("Nom"), QStringLiteral("Durand"));
+  const auto choose = [&](const QString& title) {
+    for (auto* button : desktop->Main().findChildren<QAbstractButton*>())
+      if (button->isVisible() && button->accessibleName() == title) return button->click();
+    FAIL() << title.toStdString();
+  };
+  const auto goHome = [&] {
+    QTest::mouseClick(desktop->Main().findChild<QWidget*>(QStringLiteral("Label2")), Qt::LeftButton);
+    EXPECT_EQ(desktop->LettersWindow(), nullptr);
+    choose(QStringLiteral("Rédiger un modèle de lettre"));
+  };
+  goHome();
+  dialogs.answer = false;
+  choose(QStringLiteral("Réaliser un nouveau modèle de lettre"));
+  EXPECT_TRUE(Line("Nom").isEmpty());
+  EXPECT_TRUE(Find("Nom")->hasFocus());
+  EXPECT_EQ(Sentence(0), QStringLiteral("Voici ma candidature."));
+  EXPECT_TRUE(Letter()->toPlainText().isEmpty());
+  goHome();
+  choose(QStringLiteral("Ancienne (ES)"));
+  EXPECT_EQ(Letter()->toPlainText(), QStringLiteral("Bonjour"));
+  EXPECT_TRUE(Sentence(0).isEmpty()) << "nothing of the letter before is left";
+  // From one letter straight to a new one.
+  OpenSlot(Principale::FirstLetterSlot + 1);
+  EXPECT_TRUE(Letter()->toPlainText().isEmpty());
+  EXPECT_TRUE(failures.empty());
+}
+
 TEST_F(LetterWindowTest, TheSentenceFileOpensAndEveryControlHasAName) {
   OpenSlot(Principale::FirstLetterSlot);
   std::filesystem::path opened;
