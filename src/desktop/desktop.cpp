@@ -20,7 +20,10 @@ Desktop::Desktop(const Theme& theme, const Environment& environment, const Clock
       main_(std::make_unique<MainWindow>(principale_, shell_, theme)) {
   MakeFormCand();
   RegisterForms();
-  main_->OnClosed = [] { QCoreApplication::quit(); };
+  main_->OnClosed = [this] {
+    if (letterWindow_) formLettre_.Timer1();
+    QCoreApplication::quit();
+  };
   main_->OnHelp = [this] {
     if (!principale_.InfoGuide.empty()) principale_.AfficherGuide(Text{principale_.InfoGuide});
   };
@@ -100,7 +103,9 @@ void Desktop::RegisterLetters() {
     return letterWindow_;
   };
   form.unloaded = [this] {
-    // The model may serve another window at once, so this one goes first.
+    // What was typed since the last tick is saved; the model may serve another window at once, so this
+    // one goes first.
+    formLettre_.Timer1();
     delete letterWindow_.data();
   };
   shell_.Register(LetterForm, form);
@@ -124,12 +129,14 @@ void Desktop::RegisterLetters() {
 
 void Desktop::NewLetter() {
   shell_.Load(LetterForm);
+  letterWindow_->Tick1000();  // the letter before keeps what was typed since the last tick
   letterWindow_->NewLetter();
 }
 
 void Desktop::OpenLetter(TextView file) {
   const Text name{file};  // the slot may be filled anew meanwhile
   shell_.Load(LetterForm);
+  letterWindow_->Tick1000();
   letterWindow_->Do([&] { formLettre_.ChargerFichierLettre(FileIn(workspace_paths::LetterFolder(), name)); });
 }
 

@@ -15,6 +15,7 @@ constexpr double RightHalf = 0.5;  // where that half begins, in widths of the p
 TagHighlighter::TagHighlighter(const Theme& theme, QPlainTextEdit& edit)
     : QSyntaxHighlighter(edit.document()), theme_(theme), edit_(edit) {
   connect(&theme, &Theme::Changed, this, &TagHighlighter::TintAnew);
+  edit.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);  // lines are wrapped
   edit.viewport()->installEventFilter(this);
 }
 

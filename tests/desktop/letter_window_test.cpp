@@ -153,10 +153,12 @@ TEST_F(LetterWindowTest, ASavedLetterOpensAgainAsItStood) {
 }
 
 TEST_F(LetterWindowTest, TheHomePanelBeginsAndOpensLettersInAFreshForm) {
-  std::ofstream(Folder() / "Lettres" / "Ancienne (ES).dat") << "Text1=Bonjour\r\nNom=Durand\r\n";
+  std::ofstream(Folder() / "Lettres" / "Ancienne (ES).dat")
+      << "Text1=Bonjour\r\nNom=Durand\r\nNomLettre=Ancienne (ES)\r\n";
   desktop->Model().InitMenu();
   OpenSlot(Principale::FirstLetterSlot);
   EXPECT_EQ(Line("Nom"), QStringLiteral("Durand"));
+  TypeKeys(Letter(), QStringLiteral("Typed late. "));
   const auto choose = [&](const QString& title) {
     for (auto* button : desktop->Main().findChildren<QAbstractButton*>())
       if (button->isVisible() && button->accessibleName() == title) return button->click();
@@ -176,11 +178,14 @@ TEST_F(LetterWindowTest, TheHomePanelBeginsAndOpensLettersInAFreshForm) {
   EXPECT_TRUE(Letter()->toPlainText().isEmpty());
   goHome();
   choose(QStringLiteral("Ancienne (ES)"));
-  EXPECT_EQ(Letter()->toPlainText(), QStringLiteral("Bonjour"));
+  EXPECT_EQ(Letter()->toPlainText(), QStringLiteral("Typed late. Bonjour"))
+      << "leaving within a second loses nothing";
   EXPECT_TRUE(Sentence(0).isEmpty()) << "nothing of the letter before is left";
   // From one letter straight to a new one.
+  TypeKeys(Letter(), QStringLiteral("Again. "));
   OpenSlot(Principale::FirstLetterSlot + 1);
   EXPECT_TRUE(Letter()->toPlainText().isEmpty());
+  EXPECT_NE(Saved("Ancienne (ES).dat").find("Again. "), std::string::npos);
   EXPECT_TRUE(failures.empty());
 }
 
