@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QPainter>
+#include <QPlainTextEdit>
 #include <QTemporaryDir>
 #include <array>
 #include <cstdlib>
@@ -220,6 +221,50 @@ void PhotographCv(Desktop& desktop, Photographer& photographer) {
   desktop.Windows().Unload(EditorForm);
 }
 
+// The sender of the letters.
+constexpr const char* SampleCv =
+    "Nom=Marchand\r\nPr\xE9nom=Julie\r\nAdresse1=7 Rue Des Lilas\r\nAdresse2=B\xE2timent C\r\nCP=69003\r\n"
+    "Ville=Lyon\r\nTel=04 72 00 00 41\r\nMob=06 00 00 12 34\r\nEmail=julie.marchand@mail.example\r\n"
+    "Fonction=Charg\xE9"
+    "e de communication\r\nPoste=charg\xE9"
+    "e de projet\r\nLastSociete=Orvane\r\n"
+    "Domaine=information interne\r\n";
+
+void PhotographLetters(Desktop& desktop, Photographer photographer) {
+  QtShell& shell = desktop.Windows();
+  shell.Load(LetterForm);
+  LetterWindow& window = *desktop.LettersWindow();
+  FormLettre& letter = desktop.Letter();
+  std::ofstream("CV/Assistante Com.dat") << SampleCv;
+  window.Do([&] {
+    letter.ChargerFichierLettre("Lettres/Julie Marchand (IR).dat");
+    letter.NomLettre = u"Julie Marchand (IR)";
+    letter.Corps = {
+        u"Votre annonce parue sur #Origine# a retenu toute mon attention et je vous propose ma "
+        u"candidature au poste de #Intitule#.",
+        u"Actuellement #Poste# chez #LastSociete#, j'ai acquis une solide pratique de #Domaine# et "
+        u"maîtrise #competences#.",
+        u"Votre entreprise m'attire par la place donnée à l'information des équipes. Sérieuse et "
+        u"motivée, je souhaite y développer mes compétences.",
+        u"Je me tiens à votre disposition pour un entretien au cours duquel je vous préciserai mon "
+        u"parcours.",
+        u"Je vous prie d'agréer, #Titre#, l'expression de mes salutations distinguées."};
+    letter.InitLettre("CV/Assistante Com.dat");
+    letter.Competences = u"la rédaction, la publication web et la vidéo";
+    letter.ListeCVVisible = true;
+    letter.ClicCheck_Modele(Printed);
+  });
+  photographer.Take(u"lettre");
+  desktop.Main().resize(1024, 768);
+  photographer.Take(u"lettre-1024");
+  desktop.Main().resize(1280, 800);
+  window.Do([&] { letter.ClicCheck_Modele(Mail); });
+  window.findChild<QPlainTextEdit*>(QStringLiteral("Text1"))->insertPlainText(QStringLiteral("Bonjour,\n"));
+  window.Do([&] { letter.saveFailed = true; });
+  photographer.Take(u"lettre-courriel");
+  shell.Unload(LetterForm);
+}
+
 void PhotographForms(Desktop& desktop, const Theme& theme, Photographer photographer) {
   QtShell& shell = desktop.Windows();
   photographer.Take(u"accueil");
@@ -237,6 +282,7 @@ void PhotographForms(Desktop& desktop, const Theme& theme, Photographer photogra
   desktop.Main().resize(1024, 768);
   photographer.Take(u"candidatures-1024");
   desktop.Main().resize(1280, 800);
+  PhotographLetters(desktop, photographer);
   shell.Show(u"FormStat");
   photographer.Take(u"statistiques", shell.WindowOf(u"FormStat"));
   shell.Unload(u"FormStat");

@@ -7,6 +7,7 @@
 #include "desktop/about_box.h"
 #include "desktop/guide_panel.h"
 #include "desktop/stat_window.h"
+#include "workspace/document_keeping.h"
 
 namespace talvor {
 
@@ -20,7 +21,10 @@ Desktop::Desktop(const Theme& theme, const Environment& environment, const Clock
       main_(std::make_unique<MainWindow>(principale_, shell_, theme)) {
   MakeFormCand();
   RegisterForms();
-  main_->OnClosed = [] { QCoreApplication::quit(); };
+  main_->OnClosed = [this] {
+    if (letterWindow_) formLettre_.Timer1();
+    QCoreApplication::quit();
+  };
   main_->OnHelp = [this] {
     if (!principale_.InfoGuide.empty()) principale_.AfficherGuide(Text{principale_.InfoGuide});
   };
@@ -45,6 +49,7 @@ void Desktop::RegisterForms() {
                                   .make = [this](QWidget*) -> QWidget* { return main_.get(); }});
   RegisterHome();
   RegisterCandidatures();
+  RegisterLetters();
   RegisterReports();
   RegisterCv();
   RegisterGuide();
@@ -89,6 +94,52 @@ void Desktop::RegisterCandidatures() {
     browser_.Forget();
   };
   shell_.Register(u"FormCand", form);
+}
+
+void Desktop::RegisterLetters() {
+  QtShell::Form form;
+  form.make = [this](QWidget* parent) -> QWidget* {
+    formLettre_.Charger();
+    letterWindow_ = new LetterWindow(formLettre_, theme_, parent);
+    letterWindow_->OnActed = [this] { RefreshMain(); };
+    return letterWindow_;
+  };
+  form.unloaded = [this] {
+    // What was typed since the last tick is saved; the model may serve another window at once, so this
+    // one goes first.
+    formLettre_.Timer1();
+    delete letterWindow_.data();
+  };
+  shell_.Register(LetterForm, form);
+
+  formLettre_.OuvrirDocument = [this](const std::filesystem::path& document) {
+    const Text name = FromUtf8(document.filename().string()).value_or(Text{});
+    const auto target = FromUtf8(document.string());
+    if (!target || !documents_.Open(*target))
+      dialogs_.Tell(u"Aucun programme n'a pu ouvrir le fichier «\u00A0" + name + u"\u00A0».");
+  };
+  assistantTexte_.commands.nouvelleLettre = [this] { NewLetter(); };
+  assistantTexte_.commands.ouvrirLettre = [this](TextView file) { OpenLetter(file); };
+  main_->Header().OnSlotOpen = [this, others = main_->Header().OnSlotOpen](std::size_t slot) {
+    if (slot < Principale::FirstLetterSlot || slot >= Principale::CandidatureSlot) return others(slot);
+    const MenuSlot& chosen = principale_.ImageMenu[slot];
+    if (!chosen.visible) return;
+    if (chosen.toolTip.empty()) return NewLetter();
+    OpenLetter(chosen.toolTip);
+  };
+}
+
+void Desktop::NewLetter() {
+  shell_.Load(LetterForm);
+  letterWindow_->Tick1000();  // the letter before keeps what was typed since the last tick
+  letterWindow_->NewLetter();
+}
+
+void Desktop::OpenLetter(TextView file) {
+  const Text name{file};  // the slot may be filled anew meanwhile
+  shell_.Load(LetterForm);
+  letterWindow_->Tick1000();
+  letterWindow_->Do([&] { formLettre_.ChargerFichierLettre(FileIn(workspace_paths::LetterFolder(), name)); });
 }
 
 void Desktop::RegisterReports() {
@@ -178,6 +229,7 @@ bool Desktop::StartAtOnce() {
 
 void Desktop::Stop() {
   if (formCandWindow_) formCandWindow_->StopTimers();
+  if (letterWindow_) letterWindow_->StopTimer();
   main_->setEnabled(false);
 }
 

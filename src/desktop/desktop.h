@@ -9,8 +9,10 @@
 #include "desktop/cv_desk.h"
 #include "desktop/form_cand_window.h"
 #include "desktop/home_window.h"
+#include "desktop/letter_window.h"
 #include "desktop/main_window.h"
 #include "desktop/qt_dialogs.h"
+#include "desktop/qt_documents.h"
 #include "desktop/report_preview.h"
 #include "desktop/splash.h"
 #include "desktop/web_browser.h"
@@ -40,16 +42,22 @@ class Desktop {
   [[nodiscard]] QtShell& Windows() { return shell_; }
   [[nodiscard]] Principale& Model() { return principale_; }
   [[nodiscard]] FormCand& Candidatures() { return *formCand_; }
+  [[nodiscard]] FormLettre& Letter() { return formLettre_; }
   [[nodiscard]] QtPagePreview& Preview() { return preview_; }
   [[nodiscard]] CvDesk& Cv() { return cv_; }
   // The window of the candidatures, or null.
   [[nodiscard]] FormCandWindow* CandidatureWindow() const { return formCandWindow_; }
+  // The window of the letters, or null.
+  [[nodiscard]] LetterWindow* LettersWindow() const { return letterWindow_; }
 
  private:
   void MakeFormCand();
   void RegisterForms();
   void RegisterHome();
   void RegisterCandidatures();
+  void RegisterLetters();
+  void NewLetter();
+  void OpenLetter(TextView file);
   void RegisterReports();
   void RegisterCv();
   void RegisterGuide();
@@ -67,6 +75,8 @@ class Desktop {
   Principale principale_{shell_};
   AssistantTexte assistantTexte_{principale_, shell_};
   Guide guide_{principale_, shell_};
+  FormLettre formLettre_{principale_, clock_, dialogs_, shell_};
+  QtDocuments documents_;
   FormStat formStat_{clock_};
   QtPagePreview preview_{theme_};
   PrintedReports reports_{principale_, clock_, environment_, dialogs_, shell_, preview_};
@@ -80,6 +90,7 @@ class Desktop {
   std::unique_ptr<MainWindow> main_;
   QPointer<FormCandWindow> formCandWindow_;
   QPointer<HomeWindow> homeWindow_;
+  QPointer<LetterWindow> letterWindow_;
 };
 
 }  // namespace talvor

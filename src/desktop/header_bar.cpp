@@ -195,7 +195,7 @@ void HeaderBar::Refresh(TextView page) {
     const bool candidatures = i == Principale::CandidatureSlot;
     slots_[i]->SetLook({.icon = IconOf(slot),
                         .caption = ToQt(SlotCaption(principale_, i)),
-                        .badge = ToQt(LetterKind(name)),
+                        .badge = ToQt(KindInName(name)),
                         .current = candidatures && page == u"FormCand",
                         .free = slot.picture == SlotPicture::ImageNew && !candidatures});
     slots_[i]->setToolTip(ToolTipText(name));

@@ -17,7 +17,7 @@ Text SlotInformation(const Principale& principale, std::size_t slot) {
   return (slot < Principale::FirstLetterSlot ? u"CV : " : u"Modèle de lettre : ") + name;
 }
 
-Text LetterKind(TextView name) {
+Text KindInName(TextView name) {
   Text kind;
   for (const TextView candidate : LetterKinds)
     if (Contains(name, candidate)) kind = candidate.substr(1, 2);

@@ -13,7 +13,7 @@ namespace talvor {
 [[nodiscard]] Text SlotCaption(const Principale& principale, std::size_t slot);
 
 // The kind in the name of a letter model, one of ER, ES, IR and IS; empty without one.
-[[nodiscard]] Text LetterKind(TextView name);
+[[nodiscard]] Text KindInName(TextView name);
 
 // The pointer enters or leaves the slot of the candidatures, which changes its picture unless it is free.
 void SurvolerCandidatures(Principale& principale, bool over);

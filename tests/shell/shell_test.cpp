@@ -138,7 +138,7 @@ TEST_F(ShellTest, ASlotTellsItsNameKindAndCaption) {
   EXPECT_EQ(SlotCaption(principale, 0), u"a.b");
   EXPECT_EQ(SlotInformation(principale, 1), u"Créer nouveau");
   EXPECT_EQ(SlotInformation(principale, 5), u"Modèle de lettre : Julie (IS) x (ER).dat");
-  EXPECT_EQ(LetterKind(principale.ImageMenu[5].toolTip), u"ER");
+  EXPECT_EQ(KindInName(principale.ImageMenu[5].toolTip), u"ER");
   EXPECT_EQ(SlotInformation(principale, 10), u"Gérer mes candidatures");
 
   SurvolerCandidatures(principale, true);
