@@ -3,6 +3,7 @@
 #include <fstream>
 #include <sstream>
 
+#include "letters/merge.h"
 #include "tests/desktop/desktop_fixture.h"
 
 namespace talvor {
@@ -81,6 +82,18 @@ TEST_F(LetterWindowTest, ANewLetterFromACvIsWalkedThroughAndSavesItself) {
   ASSERT_TRUE(Waits([&] { return !Saved("Julie Marchand (ER).dat").empty(); })) << "the timer saves";
   EXPECT_EQ(Line("NomLettre"), QStringLiteral("Julie Marchand (ER)"));
   EXPECT_EQ(desktop->Model().ImageMenu[Principale::FirstLetterSlot].toolTip, u"Julie Marchand (ER).dat");
+
+  // The saved model becomes the letter for one candidature.
+  desktop->Candidatures().Intitule = u"Chargée de communication";
+  desktop->Candidatures().Reference = u"CI-114";
+  FakeShell shell;
+  MergedLetter merged;
+  ASSERT_TRUE(FusionnerLettre(Folder() / "Lettres" / "Julie Marchand (ER).dat",
+                              TextsOf(desktop->Candidatures()), clock.today, merged, dialogs, shell));
+  EXPECT_TRUE(Contains(merged.Texte, u"Chargée de communication")) << ToUtf8(merged.Texte);
+  EXPECT_FALSE(Contains(merged.Texte, u"#")) << ToUtf8(merged.Texte);
+  EXPECT_EQ(merged.Objet, u"En réponse à votre annonce référence CI-114");
+  EXPECT_EQ(merged.Email, u"Julie Marchand<julie@mail.example>");
 
   QTest::mouseClick(Find("Check_Modele0"), Qt::LeftButton);
   EXPECT_FALSE(Find("CadreObjet")->isVisible());
