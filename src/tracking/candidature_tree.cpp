@@ -73,9 +73,8 @@ Text LeafText(const RowView& row) {
 
 }  // namespace
 
-CandidatureTree::Built CandidatureTree::Build(Database& database, Tri tri) {
-  Built built;
-  CandidatureTree& tree = built.tree;
+CandidatureTree CandidatureTree::Build(Database& database, Tri tri) {
+  CandidatureTree tree;
   std::optional<Text> value;  // of the row before, so that a label is made once for its run of rows
   Text label;
   std::size_t parent = TreeNode::NoParent;
@@ -92,9 +91,9 @@ CandidatureTree::Built CandidatureTree::Build(Database& database, Tri tri) {
       tree.AddLeaf(parent, LeafKeyMark + row.Value(Column::Num), LeafText(row));
     });
   } catch (const StoreError&) {
-    built.complete = false;
+    // The list shows what could be read.
   }
-  return built;
+  return tree;
 }
 
 std::size_t CandidatureTree::IndexOf(TextView key) const {

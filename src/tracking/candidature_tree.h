@@ -26,10 +26,9 @@ struct TreeNode {
 
 class CandidatureTree {
  public:
-  // Rows by the order of the option, grouped by label. What an engine failure interrupts stands as
-  // far as it was built: `complete` is false then.
-  struct Built;
-  [[nodiscard]] static Built Build(Database& database, Tri tri);
+  // Rows by the order of the option, grouped by label. What an engine failure interrupts stands as far
+  // as it was built, and nothing is said of it.
+  [[nodiscard]] static CandidatureTree Build(Database& database, Tri tri);
 
   // Groups in order, each with its leaves somewhere behind it.
   [[nodiscard]] const std::vector<TreeNode>& Nodes() const noexcept { return nodes_; }
@@ -49,11 +48,6 @@ class CandidatureTree {
   std::vector<TreeNode> nodes_;
   // Leaves are not indexed: their keys are numbers of the table, each there once.
   std::unordered_map<Text, std::size_t> groups_;
-};
-
-struct CandidatureTree::Built {
-  CandidatureTree tree;
-  bool complete = true;
 };
 
 }  // namespace talvor

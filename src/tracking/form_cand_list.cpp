@@ -26,7 +26,7 @@ void FormCand::InitListe() {
   Liste = {};
   try {
     base_ = Database::Open(clock_);
-    if (TriChoisi) Liste = CandidatureTree::Build(base_, *TriChoisi).tree;
+    if (TriChoisi) Liste = CandidatureTree::Build(base_, *TriChoisi);
   } catch (const StoreError&) {
     // A base that cannot be opened leaves the tree empty, without a message.
   }
