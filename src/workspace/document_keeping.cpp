@@ -39,6 +39,14 @@ std::error_code Keep(const fs::path& document) {
   return error;
 }
 
+std::error_code MoveToOtherDisk(const fs::path& from, const fs::path& to) {
+  const auto bytes = ReadBytes(from);
+  if (!bytes) return std::make_error_code(std::errc::io_error);
+  std::error_code error = WriteBytes(to, *bytes);
+  if (!error) fs::remove(from, error);
+  return error;
+}
+
 }  // namespace
 
 fs::path FileIn(const fs::path& folder, TextView name) {
@@ -76,6 +84,23 @@ std::error_code SaveDocument(const fs::path& document, std::string_view bytes) {
     if (error) return error;
   }
   return WriteBytes(document, bytes);
+}
+
+std::error_code DeleteDocument(const fs::path& document) {
+  if (!IsFile(document)) return std::make_error_code(std::errc::no_such_file_or_directory);
+  std::error_code error = Keep(document);
+  if (!error) fs::remove(document, error);
+  return error;
+}
+
+std::error_code RenameDocument(const fs::path& from, const fs::path& to) {
+  std::error_code error;
+  if (!IsFile(from)) return std::make_error_code(std::errc::no_such_file_or_directory);
+  const fs::path taken = ExistingFile(to).value_or(to);
+  if (fs::exists(taken, error) && !fs::equivalent(from, taken, error))
+    return std::make_error_code(std::errc::file_exists);
+  fs::rename(from, to, error);
+  return error == std::errc::cross_device_link ? MoveToOtherDisk(from, to) : error;
 }
 
 }  // namespace talvor

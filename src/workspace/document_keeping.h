@@ -30,4 +30,14 @@ inline constexpr int KeptVersions = 5;
 // other failure it stands among the kept ones.
 [[nodiscard]] std::error_code SaveDocument(const std::filesystem::path& document, std::string_view bytes);
 
+// Deletes a document, whose last version joins the kept ones before. The error, if any step failed; a
+// version that cannot be kept is not deleted.
+[[nodiscard]] std::error_code DeleteDocument(const std::filesystem::path& document);
+
+// Gives a file another name, in its folder or elsewhere, on another disk as well. A name that is taken,
+// in whatever case, is refused; the file itself may change the case of its name. The error, if any step
+// failed; the file then stands where it was.
+[[nodiscard]] std::error_code RenameDocument(const std::filesystem::path& from,
+                                             const std::filesystem::path& to);
+
 }  // namespace talvor
