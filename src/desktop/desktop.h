@@ -73,7 +73,7 @@ class Desktop {
   QtShell shell_;
   WebBrowser browser_;
   Principale principale_{shell_};
-  AssistantTexte assistantTexte_{principale_, shell_};
+  AssistantTexte assistantTexte_{principale_, shell_, dialogs_};
   Guide guide_{principale_, shell_};
   FormLettre formLettre_{principale_, clock_, dialogs_, shell_};
   QtDocuments documents_;
