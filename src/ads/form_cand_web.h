@@ -50,6 +50,8 @@ class FormCandWeb {
 
   // The form is loaded: the directory of sites is read.
   void Charger();
+  // True while a page is captured or rated.
+  [[nodiscard]] bool Busy() const { return capturing_ || rating_ || pageLoaded_; }
   // The form goes: operations that wait end there, and do nothing more.
   void Fermer();
 
