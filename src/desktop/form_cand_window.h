@@ -45,6 +45,7 @@ class FormCandWindow : public QWidget {
  private:
   void ConnectList();
   void ConnectDetail();
+  void ShowRefusal();
   void OpenItemMenu();
 
   FormCand& form_;
