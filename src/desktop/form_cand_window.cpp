@@ -2,9 +2,11 @@
 
 #include <QEvent>
 #include <QHBoxLayout>
+#include <QLineEdit>
 #include <QMenu>
 #include <QPointer>
 #include <QSplitter>
+#include <QStyle>
 
 namespace talvor {
 namespace {
@@ -35,6 +37,7 @@ FormCandWindow::FormCandWindow(FormCand& form, FormCandCapture& capture, FormCan
     binder_.Bind(*address, form_.AdresseWeb);
   binder_.OnEdited = [this](QWidget& field) {
     if (&field == &detail_->Statut()) detail_->ShowStatusDot(form_.Statut);
+    ShowRefusal();
   };
   ConnectList();
   ConnectDetail();
@@ -177,10 +180,26 @@ void FormCandWindow::Refresh() {
   detail_->ShowPostuler(form_.PicturePostulerVisible);
   detail_->ShowInternet(form_.CadreWebVisible);
   detail_->ShowStatusDot(form_.Statut);
+  ShowRefusal();
   detail_->Statut().ShowList(form_.ListeStatutsChoice);
   detail_->Nature().ShowList(form_.ListeContratsChoice);
   if (web_->isHidden() == form_.CadreWebVisible) web_->setVisible(form_.CadreWebVisible);
   web_->Show(webModel_);
+}
+
+// A field at fault looks and speaks so until its text changes.
+void FormCandWindow::ShowRefusal() {
+  for (const auto& field : DetailFields) {
+    auto* line = findChild<QLineEdit*>(ToQt(field.name));
+    if (line == nullptr) continue;
+    const bool refused =
+        form_.Refus && form_.Refus->field == field.name && form_.Refus->value == form_.*(field.text);
+    if (line->property("invalid").toBool() == refused) continue;
+    line->setProperty("invalid", refused);
+    line->setAccessibleDescription(refused ? ToQt(form_.Refus->message) : QString());
+    line->style()->unpolish(line);
+    line->style()->polish(line);
+  }
 }
 
 void FormCandWindow::OpenItemMenu() {

@@ -51,6 +51,7 @@ class FormCandWindow : public QWidget {
   void ConnectList();
   void ConnectDetail();
   void ConnectWeb();
+  void ShowRefusal();
   void OpenItemMenu();
 
   FormCand& form_;

@@ -55,13 +55,17 @@ void FormCand::ValeursParDefaut() {
 bool FormCand::RefuseDate(TextView field, const Text& value) {
   if (DateValide(value)) return false;
   shell_.Focus(FormName, field);
+  Refus = {Text{field}, value, Text{messages::BadDate}};
   dialogs_.Tell(messages::BadDate);
   return true;
 }
 
 bool FormCand::ControleSaisie() {
+  Refus.reset();
   if (Intitule.empty()) {
-    dialogs_.Tell(CadreWebVisible ? messages::NotIdentified : messages::TitleRequired);
+    const TextView message = CadreWebVisible ? messages::NotIdentified : messages::TitleRequired;
+    Refus = {u"Intitule", {}, Text{message}};
+    dialogs_.Tell(message);
     return false;
   }
   return !RefuseDate(u"DateDiffusion", DateDiffusion) && !RefuseDate(u"DateLimite", DateLimite) &&
