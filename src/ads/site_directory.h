@@ -13,8 +13,8 @@ class SiteDirectory {
   // A site's name, blanks, and its address, which begins with "http".
   std::vector<Text> List1;
 
-  // Writes the delivered rows when the file is missing, then reads it. An empty file gives an empty list. A file that cannot be written or read leaves the
-  // delivered rows.
+  // Writes the delivered rows when the file is missing, then reads it. An empty file gives an empty
+  // list; one that cannot be written or read leaves the delivered rows.
   void Charger();
 
   // The lines of the file that are sites: those that hold a "/".
