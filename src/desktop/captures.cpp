@@ -222,7 +222,7 @@ void PhotographCv(Desktop& desktop, Photographer& photographer) {
 }
 
 // The sender of the letters.
-constexpr const char* SampleCv =
+constexpr const char* SampleSender =
     "Nom=Marchand\r\nPr\xE9nom=Julie\r\nAdresse1=7 Rue Des Lilas\r\nAdresse2=B\xE2timent C\r\nCP=69003\r\n"
     "Ville=Lyon\r\nTel=04 72 00 00 41\r\nMob=06 00 00 12 34\r\nEmail=julie.marchand@mail.example\r\n"
     "Fonction=Charg\xE9"
@@ -235,7 +235,7 @@ void PhotographLetters(Desktop& desktop, Photographer photographer) {
   shell.Load(LetterForm);
   LetterWindow& window = *desktop.LettersWindow();
   FormLettre& letter = desktop.Letter();
-  std::ofstream("CV/Assistante Com.dat") << SampleCv;
+  std::ofstream("CV/Assistante Com.dat") << SampleSender;
   window.Do([&] {
     letter.ChargerFichierLettre("Lettres/Julie Marchand (IR).dat");
     letter.NomLettre = u"Julie Marchand (IR)";
