@@ -149,11 +149,13 @@ class FakeDocuments : public Documents {
  public:
   bool Open(TextView target) override {
     opened.emplace_back(target);
-    return true;
+    return answer;
   }
-  Text ProgramFor(TextView) const override { return {}; }
+  Text ProgramFor(TextView) const override { return program; }
   std::vector<Text> WindowTitles() const override { return titles; }
 
+  bool answer = true;
+  Text program;
   std::vector<Text> opened;
   std::vector<Text> titles;
 };
