@@ -4,7 +4,11 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QListWidget>
+#include <QProcess>
 #include <QProgressBar>
+#include <QSslConfiguration>
+#include <QSslKey>
+#include <QSslServer>
 #include <QTimer>
 #include <QToolButton>
 #include <QWebEngineView>
@@ -230,7 +234,11 @@ TEST_F(BrowserTest, AHostilePageReachesNothingAndLeavesTheProgramUsable) {
   EXPECT_EQ(Pages().LocationURL(), FromQt(site.Address(QStringLiteral("hostile.htm"))));
   EXPECT_FALSE(site.asked.contains(QStringLiteral("tableau.htm"))) << "no window without a click";
   EXPECT_FALSE(Contains(Pages().BodyText(DocumentBrowser::Whole), u"root:"));
-  EXPECT_FALSE(Contains(Pages().BodyText(DocumentBrowser::Whole), u"granted"));
+  const auto notice = [&] { return Inside(QStringLiteral("document.getElementById('avis').textContent")); };
+  EXPECT_TRUE(QTest::qWaitFor([&] { return notice().count(QLatin1Char(' ')) == 6; }, Patience));
+  EXPECT_TRUE(notice().contains(QStringLiteral("avis denied"))) << notice().toStdString();
+  EXPECT_TRUE(notice().contains(QStringLiteral("position 1"))) << notice().toStdString();
+  EXPECT_FALSE(notice().contains(QStringLiteral("micro donné"))) << notice().toStdString();
   Inside(QStringLiteral("document.getElementById('fichier').click()"));
   FillFrom(*desktop, Pane());
   EXPECT_EQ(Value(QStringLiteral("[name=nom]")), QString()) << "beyond the thousandth element";
@@ -272,6 +280,52 @@ TEST_F(BrowserTest, ACrashOfThePageIsToldAndThePageComesBack) {
   ASSERT_TRUE(Settled());
   EXPECT_FALSE(InPane("AvisPage")->isVisible());
   EXPECT_EQ(Pages().BodyText(5), u"EMPLO");
+}
+
+TEST_F(BrowserTest, APageWhoseScriptNeverRestsIsLeftForAnotherOfItsSite) {
+  site.pages[QStringLiteral("boucle.htm")] =
+      "<p>Boucle</p><script>onload = () => setTimeout(() => { for (;;); "
+      "}, 200)</script>";
+  Browse(QStringLiteral("boucle.htm"));
+  ASSERT_TRUE(Settled());
+  QTest::qWait(300);
+  ClickLink("CaptureSel");
+  ASSERT_EQ(dialogs.told.size(), 1u) << "the capture gives up";
+  Browse(QStringLiteral("tableau.htm"));
+  ASSERT_TRUE(Settled());
+  EXPECT_EQ(Pages().BodyText(12), u"EMPLOI-LOIRE");
+  EXPECT_FALSE(InPane("AvisPage")->isVisible());
+}
+
+TEST_F(BrowserTest, ACertificateThatNobodyVouchesForIsRefused) {
+  const QString key = QString::fromStdString((scratch.Path() / "cle.pem").string());
+  const QString paper = QString::fromStdString((scratch.Path() / "certificat.pem").string());
+  const QStringList order{QStringLiteral("req"),
+                          QStringLiteral("-x509"),
+                          QStringLiteral("-newkey"),
+                          QStringLiteral("rsa:2048"),
+                          QStringLiteral("-nodes"),
+                          QStringLiteral("-subj"),
+                          QStringLiteral("/CN=localhost"),
+                          QStringLiteral("-keyout"),
+                          key,
+                          QStringLiteral("-out"),
+                          paper};
+  if (QProcess::execute(QStringLiteral("openssl"), order) != 0) GTEST_SKIP() << "openssl n'est pas là";
+  QFile keyFile(key);
+  QFile paperFile(paper);
+  ASSERT_TRUE(keyFile.open(QIODevice::ReadOnly) && paperFile.open(QIODevice::ReadOnly));
+  QSslConfiguration secrets;
+  secrets.setPrivateKey(QSslKey(&keyFile, QSsl::Rsa));
+  secrets.setLocalCertificate(QSslCertificate(&paperFile));
+  QSslServer server;
+  server.setSslConfiguration(secrets);
+  ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
+  Browse(QStringLiteral("https://127.0.0.1:%1/").arg(server.serverPort()));
+  ASSERT_TRUE(Settled());
+  auto* notice = InPane<QLabel>("AvisPage");
+  EXPECT_TRUE(notice->isVisible());
+  EXPECT_TRUE(notice->text().startsWith(QStringLiteral("Le certificat de"))) << notice->text().toStdString();
 }
 
 TEST_F(BrowserTest, ASiteThatDoesNotAnswerIsToldInFrench) {
