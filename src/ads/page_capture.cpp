@@ -3,10 +3,10 @@
 #include <optional>
 
 #include "ads/form_cand_web.h"
-#include "ads/outside_window.h"
 #include "ads/page_rating.h"
 #include "ads/ungluing.h"
 #include "base/raised.h"
+#include "workspace/systeme.h"
 
 namespace talvor {
 namespace {
