@@ -149,11 +149,12 @@ class FakeDocuments : public Documents {
  public:
   bool Open(TextView target) override {
     opened.emplace_back(target);
-    return true;
+    return answer;
   }
   Text ProgramFor(TextView) const override { return {}; }
   std::vector<Text> WindowTitles() const override { return titles; }
 
+  bool answer = true;
   std::vector<Text> opened;
   std::vector<Text> titles;
 };

@@ -1,10 +1,8 @@
-// Fakes of what picks, opens and offers files.
+// Fakes of what picks files and offers menus.
 #pragma once
 
 #include <map>
-#include <vector>
 
-#include "platform/documents.h"
 #include "platform/menus.h"
 #include "platform/pickers.h"
 
@@ -34,21 +32,6 @@ class FakeMenus : public Menus {
 
   Text opened;
   std::map<Text, bool> enabled;  // an item that no rule has touched is missing
-};
-
-class FakeDocuments : public Documents {
- public:
-  bool Open(TextView target) override {
-    opened.emplace_back(target);
-    return answer;
-  }
-  Text ProgramFor(TextView) const override { return program; }
-  std::vector<Text> WindowTitles() const override { return titles; }
-
-  bool answer = true;
-  Text program;
-  std::vector<Text> opened;
-  std::vector<Text> titles;
 };
 
 }  // namespace talvor
