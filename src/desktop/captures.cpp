@@ -14,6 +14,7 @@
 #include "cv/cv_file.h"
 #include "desktop/about_box.h"
 #include "desktop/application.h"
+#include "desktop/backup_window.h"
 #include "desktop/desktop.h"
 #include "desktop/qt_dialogs.h"
 #include "desktop/text_edge.h"
@@ -296,8 +297,37 @@ void PhotographBrowser(Desktop& desktop, Photographer photographer) {
   photographer.Take(u"navigateur-avis");
 }
 
+// What stands over the main window: the backup, the advice on printing, the menus of the slots.
+void PhotographSmallForms(Desktop& desktop, const Theme& theme, Photographer photographer) {
+  QtShell& shell = desktop.Windows();
+  shell.Show(u"FormLoadSave");
+  photographer.Take(u"sauver", shell.WindowOf(u"FormLoadSave"));
+  desktop.Backup().busy = true;
+  desktop.Backup().progress = {412, 1006, 96'000'000, 214'000'000};
+  static_cast<BackupWindow*>(shell.WindowOf(u"FormLoadSave"))->Refresh();
+  photographer.Take(u"sauver-copie", shell.WindowOf(u"FormLoadSave"));
+  desktop.Backup().busy = false;
+  shell.Unload(u"FormLoadSave");
+  shell.Show(MiseEnPage::Form);
+  photographer.Take(u"mise-en-page", shell.WindowOf(MiseEnPage::Form));
+  shell.Unload(MiseEnPage::Form);
+  HeaderBar& header = desktop.Main().Header();
+  for (const auto& [slot, menu, name] :
+       {std::tuple{0, u"MenuCV", u"menu-cv"}, std::tuple{8, u"MenuLettre", u"menu-lettre"},
+        std::tuple{10, u"MenuCandidature", u"menu-candidature"}}) {
+    header.OnSlotClick(static_cast<std::size_t>(slot));
+    QMenu* shown = desktop.Library().Menus().Menu(menu);
+    photographer.Take(name, shown);
+    shown->close();
+  }
+  AboutBox about(theme, nullptr);
+  photographer.Take(u"a-propos", &about);
+}
+
 void PhotographForms(Desktop& desktop, const Theme& theme, Photographer photographer) {
   QtShell& shell = desktop.Windows();
+  constexpr int UntilTheRowsStand = 250;
+  shell.Wait(UntilTheRowsStand);
   photographer.Take(u"accueil");
   shell.Show(u"FormCand");
   FormCandWindow& window = *desktop.CandidatureWindow();
@@ -319,8 +349,7 @@ void PhotographForms(Desktop& desktop, const Theme& theme, Photographer photogra
   photographer.Take(u"statistiques", shell.WindowOf(u"FormStat"));
   shell.Unload(u"FormStat");
   PhotographCv(desktop, photographer);
-  AboutBox about(theme, nullptr);
-  photographer.Take(u"a-propos", &about);
+  PhotographSmallForms(desktop, theme, photographer);
 }
 
 int Run(const QString& folder) {

@@ -3,7 +3,6 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLineEdit>
-#include <QMenu>
 #include <QPointer>
 #include <QSplitter>
 #include <QStyle>
@@ -63,7 +62,7 @@ void FormCandWindow::ConnectList() {
   tree.OnDelete = [this] { Do([&] { form_.MenuSupprimerCand(); }); };
   form_.OuvrirMenuItemCand = [this] {
     Refresh();
-    OpenItemMenu();
+    if (OnItemMenu) OnItemMenu(list_->Tree().PopupPlace());
   };
 }
 
@@ -200,26 +199,6 @@ void FormCandWindow::ShowRefusal() {
     line->style()->unpolish(line);
     line->style()->polish(line);
   }
-}
-
-void FormCandWindow::OpenItemMenu() {
-  QMenu menu(this);
-  const auto add = [&](const QString& icon, const QString& text) {
-    return menu.addAction(theme_.Icon(icon, QStringLiteral("text2")), text);
-  };
-  add(QStringLiteral("globe"), tr("Consulter l'offre sur &Internet"))->setEnabled(false);
-  add(QStringLiteral("link"), tr("Consulter le site d'&origine"))->setEnabled(false);
-  menu.addSeparator();
-  QAction* apply = add(QStringLiteral("send"), tr("&Postuler"));
-  apply->setEnabled(form_.MenuPostulerActif);
-  menu.addSeparator();
-  add(QStringLiteral("print"), tr("I&mprimer"));
-  QAction* remove = add(QStringLiteral("trash"), tr("&Supprimer"));
-  remove->setObjectName(QStringLiteral("MenuSupprimerCand"));
-
-  const QAction* chosen = menu.exec(list_->Tree().PopupPlace());
-  if (chosen == apply) form_.ClicPicturePostuler();
-  if (chosen == remove) form_.MenuSupprimerCand();
 }
 
 }  // namespace talvor

@@ -28,6 +28,9 @@ class FormCandWindow : public QWidget {
   // Called after each action, for what other windows show.
   std::function<void()> OnActed;
 
+  // The popup of a row, at a place of the screen.
+  std::function<void(QPoint place)> OnItemMenu;
+
   // Runs an action of the view model and shows what has become of it. The window may be gone when the
   // action returns.
   void Do(const std::function<void()>& action);
@@ -52,7 +55,6 @@ class FormCandWindow : public QWidget {
   void ConnectDetail();
   void ConnectWeb();
   void ShowRefusal();
-  void OpenItemMenu();
 
   FormCand& form_;
   FormCandCapture& capture_;
