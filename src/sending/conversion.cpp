@@ -1,11 +1,10 @@
 #include "sending/conversion.h"
 
-#include <algorithm>
-
 #include "base/line_file.h"
 #include "cv/editor.h"
 #include "cv/model_files.h"
 #include "workspace/document_keeping.h"
+#include "workspace/systeme.h"
 
 namespace talvor {
 namespace {
@@ -53,20 +52,6 @@ fs::path ConvertedCv(const Environment& environment, TextView nomCV, TextView en
   return PathOf(DocumentsFolder(environment).append(nomCV).append(ending));
 }
 
-bool TraitementTexteOuvert(const Documents& documents) {
-  const auto titles = documents.WindowTitles();
-  return std::any_of(titles.begin(), titles.end(), [](const Text& title) {
-    return Contains(title, u"OpenOffice") || Contains(title, u"WINWORD");
-  });
-}
-
-void OuvrirDocument(const fs::path& document, Documents& documents, Dialogs& dialogs) {
-  const auto target = TextOf(document);
-  if (!target || !documents.Open(*target))
-    dialogs.Tell(u"Aucun programme n'a pu ouvrir le fichier «\u00A0" +
-                 TextOf(document.filename()).value_or(Text{}) + u"\u00A0».");
-}
-
 // A target in use or without a folder, a CV without a name or without a page: told, and not converted.
 bool CvConversion::CanConvert(const fs::path& target) {
   const Text& name = around_.editor.NomCV;
@@ -104,7 +89,7 @@ void CvConversion::ConvertirWord() {
   old.Forget();
 
   // The word processor is left open for the user, showing the new document.
-  OuvrirDocument(target, around_.documents, around_.dialogs);
+  OuvrirDocument(TextOf(target).value_or(Text{}), around_.documents, around_.dialogs);
 }
 
 void CvConversion::Replace(TextView ending, PageExporter& exporter) {
@@ -113,7 +98,7 @@ void CvConversion::Replace(TextView ending, PageExporter& exporter) {
   if (!CanConvert(target)) return;
   const Text fault = exporter.Export(*ExistingModelFile(u"CVtemp.html"), target);
   if (!fault.empty()) return around_.dialogs.Tell(fault);
-  OuvrirDocument(target, around_.documents, around_.dialogs);
+  OuvrirDocument(TextOf(target).value_or(Text{}), around_.documents, around_.dialogs);
 }
 
 void CvConversion::ConvertirODF() { Replace(u".odt", around_.wordProcessor); }

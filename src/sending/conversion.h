@@ -19,12 +19,6 @@ namespace talvor {
 [[nodiscard]] std::filesystem::path ConvertedCv(const Environment& environment, TextView nomCV,
                                                 TextView ending);
 
-// True if the title of any window holds "OpenOffice" or "WINWORD", case-sensitive.
-[[nodiscard]] bool TraitementTexteOuvert(const Documents& documents);
-
-// Opens a document in the program of its kind; the user is told when none could be started.
-void OuvrirDocument(const std::filesystem::path& document, Documents& documents, Dialogs& dialogs);
-
 // `ConvertirWord` and `ConvertirODF` of the main window. They convert the page that the editor shows and
 // do nothing at all while the editor is not visible. Failures are told to the user.
 class CvConversion {

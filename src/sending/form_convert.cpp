@@ -7,6 +7,7 @@
 #include "base/line_file.h"
 #include "cv/model_files.h"
 #include "workspace/document_keeping.h"
+#include "workspace/systeme.h"
 
 namespace talvor {
 namespace {
@@ -51,14 +52,15 @@ void FormConvert::Charger() {
   }
 }
 
-void FormConvert::ClicInfo() {
-  if (infoLeads) OuvrirDocument(target_, around_.documents, around_.dialogs);
+void FormConvert::Ouvrir(const fs::path& target) {
+  OuvrirDocument(TextOf(target).value_or(Text{}), around_.documents, around_.dialogs);
 }
 
-void FormConvert::ClicLabel2() {
-  const fs::path folder = PathOf(DocumentsFolder(around_.environment)).parent_path();
-  OuvrirDocument(folder, around_.documents, around_.dialogs);
+void FormConvert::ClicInfo() {
+  if (infoLeads) Ouvrir(target_);
 }
+
+void FormConvert::ClicLabel2() { Ouvrir(PathOf(DocumentsFolder(around_.environment)).parent_path()); }
 
 void FormConvert::BoutonTLV1() { around_.shell.Unload(ConvertForm); }
 
@@ -69,8 +71,7 @@ void FormConvert::BoutonTLV2() {
 }
 
 void FormConvert::BoutonTLV3() {
-  const auto page = ExistingModelFile(u"CVtemp.html").value_or(ModelFile(u"CVtemp.html"));
-  OuvrirDocument(page, around_.documents, around_.dialogs);
+  Ouvrir(ExistingModelFile(u"CVtemp.html").value_or(ModelFile(u"CVtemp.html")));
 }
 
 void FormConvert::ClicPDF() {

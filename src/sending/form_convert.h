@@ -24,6 +24,8 @@ class FormConvert {
   void ClicPDF();     // converts to PDF and closes the form
 
  private:
+  void Ouvrir(const std::filesystem::path& target);
+
   CvConversion::Surroundings around_;
   CvConversion conversion_;
   std::filesystem::path target_;

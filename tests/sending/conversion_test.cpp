@@ -9,6 +9,7 @@
 #include "tests/fakes/fakes.h"
 #include "tests/fakes/scratch_folder.h"
 #include "tests/fakes/sending_fakes.h"
+#include "workspace/systeme.h"
 
 namespace talvor {
 namespace {
