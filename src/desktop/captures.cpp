@@ -222,7 +222,7 @@ void PhotographCv(Desktop& desktop, Photographer& photographer) {
 }
 
 // The sender of the letters.
-constexpr const char* SampleCv =
+constexpr const char* SampleSender =
     "Nom=Marchand\r\nPr\xE9nom=Julie\r\nAdresse1=7 Rue Des Lilas\r\nAdresse2=B\xE2timent C\r\nCP=69003\r\n"
     "Ville=Lyon\r\nTel=04 72 00 00 41\r\nMob=06 00 00 12 34\r\nEmail=julie.marchand@mail.example\r\n"
     "Fonction=Charg\xE9"
@@ -235,7 +235,7 @@ void PhotographLetters(Desktop& desktop, Photographer photographer) {
   shell.Load(LetterForm);
   LetterWindow& window = *desktop.LettersWindow();
   FormLettre& letter = desktop.Letter();
-  std::ofstream("CV/Assistante Com.dat") << SampleCv;
+  std::ofstream("CV/Assistante Com.dat") << SampleSender;
   window.Do([&] {
     letter.ChargerFichierLettre("Lettres/Julie Marchand (IR).dat");
     letter.NomLettre = u"Julie Marchand (IR)";
@@ -265,6 +265,35 @@ void PhotographLetters(Desktop& desktop, Photographer photographer) {
   shell.Unload(LetterForm);
 }
 
+void PhotographSending(Desktop& desktop, Photographer photographer) {
+  QtShell& shell = desktop.Windows();
+  std::ofstream("Lettres/Julie Marchand (ER).dat")
+      << "Nom=Marchand\r\nPr\xE9nom=Julie\r\nEmail=julie.marchand@mail.example\r\nText1=#Titre# "
+         "#NomContact#,<N><N>"
+         "Votre annonce parue sur #Origine# a retenu toute mon attention et je vous propose ma candidature "
+         "au "
+         "poste de #Intitule#.<N>Je vous prie d'agr\xE9"
+         "er, #Titre#, l'expression de mes salutations distingu\xE9"
+         "es.\r\n";
+  Text address;
+  shell.Show(ApplyForm);
+  QWidget* window = shell.WindowOf(ApplyForm);
+  photographer.Take(u"postuler", window);
+  shell.Unload(ApplyForm);
+  std::swap(desktop.Candidatures().Email, address);
+  shell.Show(ApplyForm);
+  window = shell.WindowOf(ApplyForm);
+  window->resize(window->minimumSize());
+  photographer.Take(u"postuler-petit", window);
+  std::swap(desktop.Candidatures().Email, address);
+  shell.Unload(ApplyForm);
+  desktop.Cv().OpenFile(u"Marchand Julie.dat");
+  shell.Show(ConvertForm);
+  photographer.Take(u"convertir", shell.WindowOf(ConvertForm));
+  shell.Unload(ConvertForm);
+  shell.Unload(EditorForm);
+}
+
 void PhotographForms(Desktop& desktop, const Theme& theme, Photographer photographer) {
   QtShell& shell = desktop.Windows();
   photographer.Take(u"accueil");
@@ -283,6 +312,7 @@ void PhotographForms(Desktop& desktop, const Theme& theme, Photographer photogra
   photographer.Take(u"candidatures-1024");
   desktop.Main().resize(1280, 800);
   PhotographLetters(desktop, photographer);
+  PhotographSending(desktop, photographer);
   shell.Show(u"FormStat");
   photographer.Take(u"statistiques", shell.WindowOf(u"FormStat"));
   shell.Unload(u"FormStat");

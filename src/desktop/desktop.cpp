@@ -38,6 +38,7 @@ Desktop::~Desktop() {
 void Desktop::MakeFormCand() {
   formCand_.emplace(principale_, clock_, dialogs_, shell_, browser_);
   capture_.emplace(*formCand_, clock_, browser_);
+  formCand_->OuvrirPostuler = [this](const ApplyRequest& request) { sending_->OpenFromFormCand(request); };
 }
 
 void Desktop::RefreshMain() {
@@ -52,6 +53,7 @@ void Desktop::RegisterForms() {
   RegisterLetters();
   RegisterReports();
   RegisterCv();
+  RegisterSending();
   RegisterGuide();
   RegisterSplash();
   shell_.Register(u"APropos", {.place = QtShell::Place::Over, .make = [this](QWidget* parent) -> QWidget* {
@@ -83,6 +85,7 @@ void Desktop::RegisterCandidatures() {
     MakeFormCand();
     formCandWindow_ = new FormCandWindow(*formCand_, *capture_, browser_, theme_, parent);
     formCandWindow_->OnActed = [this] { RefreshMain(); };
+    formCandWindow_->OnMenuPostuler = [this] { sending_->OpenFromMenu(); };
     browser_.makeView = [this] { return formCandWindow_->Web().MakeView(); };
     return formCandWindow_;
   };
@@ -169,6 +172,17 @@ void Desktop::RegisterCv() {
   };
 }
 
+void Desktop::RegisterSending() {
+  sending_.emplace(SendingDesk::Program{principale_, *formCand_, browser_, cv_, shell_, theme_, environment_,
+                                        clock_, dialogs_});
+  sending_->Register();
+  // A send changes the candidature that its form shows.
+  sending_->OnActed = [this] {
+    if (formCandWindow_) formCandWindow_->Do([] {});
+    RefreshMain();
+  };
+}
+
 void Desktop::RegisterGuide() {
   shell_.Register(u"Guide", {.place = QtShell::Place::Over,
                              .make = [this](QWidget* parent) -> QWidget* {
@@ -230,6 +244,7 @@ bool Desktop::StartAtOnce() {
 void Desktop::Stop() {
   if (formCandWindow_) formCandWindow_->StopTimers();
   if (letterWindow_) letterWindow_->StopTimer();
+  sending_->StopTimer();
   main_->setEnabled(false);
 }
 

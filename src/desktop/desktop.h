@@ -14,6 +14,7 @@
 #include "desktop/qt_dialogs.h"
 #include "desktop/qt_documents.h"
 #include "desktop/report_preview.h"
+#include "desktop/sending_desk.h"
 #include "desktop/splash.h"
 #include "desktop/web_browser.h"
 #include "platform/environment.h"
@@ -45,6 +46,7 @@ class Desktop {
   [[nodiscard]] FormLettre& Letter() { return formLettre_; }
   [[nodiscard]] QtPagePreview& Preview() { return preview_; }
   [[nodiscard]] CvDesk& Cv() { return cv_; }
+  [[nodiscard]] SendingDesk& Sending() { return *sending_; }
   // The window of the candidatures, or null.
   [[nodiscard]] FormCandWindow* CandidatureWindow() const { return formCandWindow_; }
   // The window of the letters, or null.
@@ -60,6 +62,7 @@ class Desktop {
   void OpenLetter(TextView file);
   void RegisterReports();
   void RegisterCv();
+  void RegisterSending();
   void RegisterGuide();
   void RegisterSplash();
   void RefreshMain();
@@ -86,6 +89,7 @@ class Desktop {
   std::optional<FormCandCapture> capture_;
   QtPickers pickers_;
   CvDesk cv_;
+  std::optional<SendingDesk> sending_;
 
   std::unique_ptr<MainWindow> main_;
   QPointer<FormCandWindow> formCandWindow_;

@@ -147,7 +147,7 @@ void FormCandWindow::OpenItemMenu() {
   remove->setObjectName(QStringLiteral("MenuSupprimerCand"));
 
   const QAction* chosen = menu.exec(list_->Tree().PopupPlace());
-  if (chosen == apply) form_.ClicPicturePostuler();
+  if (chosen == apply && OnMenuPostuler) OnMenuPostuler();
   if (chosen == remove) form_.MenuSupprimerCand();
 }
 

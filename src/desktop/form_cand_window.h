@@ -23,6 +23,8 @@ class FormCandWindow : public QWidget {
 
   // Called after each action, for what other windows show.
   std::function<void()> OnActed;
+  // "Postuler" of the popup `MenuItemCand`.
+  std::function<void()> OnMenuPostuler;
 
   // Runs an action of the view model and shows what has become of it. The window may be gone when the
   // action returns.
