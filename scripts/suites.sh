@@ -122,8 +122,8 @@ run_fuzz_target() {
   local program=build/fuzz/tests/fuzz/$1 corpus=build/fuzz/corpus/$1 length=-runs=0 seeds=()
   require_program "$program"
   mkdir -p "$corpus"
-  [ ! -d "tests/fuzz/seeds/$1" ] || seeds=("tests/fuzz/seeds/$1")
-  [ "$corpus/../$1.done" -nt "$program" ] || length=-max_total_time=${TALVOR_FUZZ_SECONDS:-10}
+  [ ! -d "tests/fuzz/corpus/$1" ] || seeds=("tests/fuzz/corpus/$1")
+  [ "$corpus/../$1.done" -nt "$program" ] || length=-max_total_time=${TALVOR_FUZZ_SECONDS:-60}
   say "   $1"
   logged "$1" "$program" "$length" -artifact_prefix="$corpus/" -timeout=10 "$corpus" "${seeds[@]}" || return 1
   touch "$corpus/../$1.done"

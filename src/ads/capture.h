@@ -15,6 +15,9 @@ class FormCandCapture {
   // and clears nothing.
   void Analyser();
 
+  // Runs the analyser on a text into the empty fields of the detail, and nothing else.
+  void AnalyserVersDetail(Text texte);
+
   // Makes a new candidature of the text of an advertisement (lines end in CR LF) and saves it. What
   // cannot be identified is told, and the detail keeps what was found.
   void CapturerTexte(Text texte);
@@ -23,8 +26,6 @@ class FormCandCapture {
   void Timer1();
 
  private:
-  void AnalyserVersDetail(Text texte);
-
   FormCand& form_;
   const Clock& clock_;
   Browser& browser_;

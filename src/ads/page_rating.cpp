@@ -8,8 +8,6 @@
 namespace talvor {
 namespace {
 
-constexpr std::size_t CharactersRated = 32000;
-
 // A page with more job words than this is a list of advertisements and not one of them.
 constexpr int JobWordsOfOne = 9;
 

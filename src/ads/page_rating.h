@@ -35,6 +35,9 @@ inline constexpr std::array<TextView, 26> MotsValid{u"OFFRE",
                                                     u"REF",
                                                     u"STATUT"};
 
+// Of a page only so many characters count.
+inline constexpr std::size_t CharactersRated = 32000;
+
 struct PageRating {
   double ScoreAnnonce = 0;  // with its half, when the page is a list of advertisements
   int ScoreMetiers = 0;     // rows of the job words, one that stands twice counted twice
@@ -42,7 +45,7 @@ struct PageRating {
   int FrameWeb = 330;       // the top that the capture strip moves to: 330 closed, 660 open
 };
 
-// Rates the text of a page; only its first 32000 characters count.
+// Rates the text of a page; only the first ones count.
 [[nodiscard]] PageRating RatePage(TextView bodyText, TextView address);
 
 }  // namespace talvor

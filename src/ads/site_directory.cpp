@@ -36,10 +36,14 @@ void SiteDirectory::Charger() {
   std::error_code error;
   if (!std::filesystem::exists(FileName, error) && WriteRows(List1)) return;
   const auto lines = ReadLines(FileName);
-  if (!lines) return;
-  List1.clear();
-  std::copy_if(lines->begin(), lines->end(), std::back_inserter(List1),
+  if (lines) List1 = RowsOf(*lines);
+}
+
+std::vector<Text> SiteDirectory::RowsOf(const std::vector<Text>& lines) {
+  std::vector<Text> rows;
+  std::copy_if(lines.begin(), lines.end(), std::back_inserter(rows),
                [](const Text& line) { return Contains(line, u"/"); });
+  return rows;
 }
 
 Text SiteDirectory::AddressOf(TextView row) {
@@ -49,10 +53,12 @@ Text SiteDirectory::AddressOf(TextView row) {
 
 Text SiteDirectory::NameOf(TextView row) { return Text{TrimBlanks(row.substr(0, row.find(u"http")))}; }
 
+Text SiteDirectory::FileTextOf(TextView pageText) {
+  return ReplaceAll(ReplaceAll(pageText, u"/ ", u"/\r\n"), u" ", u"   \t");
+}
+
 std::error_code SiteDirectory::MajListeSites(TextView pageText) {
-  Text rows = ReplaceAll(pageText, u"/ ", u"/\r\n");
-  rows = ReplaceAll(rows, u" ", u"   \t");
-  return WriteBytes(FileName, ToCodePage(rows));
+  return WriteBytes(FileName, ToCodePage(FileTextOf(pageText)));
 }
 
 }  // namespace talvor

@@ -13,18 +13,21 @@ class SiteDirectory {
   // A site's name, blanks, and its address, which begins with "http".
   std::vector<Text> List1;
 
-  // Writes the delivered rows when the file is missing, then reads it: each line that holds a "/" is a
-  // site. An empty file gives an empty list. A file that cannot be written or read leaves the
-  // delivered rows.
+  // Writes the delivered rows when the file is missing, then reads it. An empty file gives an empty
+  // list; one that cannot be written or read leaves the delivered rows.
   void Charger();
 
+  // The lines of the file that are sites: those that hold a "/".
+  [[nodiscard]] static std::vector<Text> RowsOf(const std::vector<Text>& lines);
   // The address of a row from its first "http" on; empty without one.
   [[nodiscard]] static Text AddressOf(TextView row);
   // The name of a row, blanks inside kept.
   [[nodiscard]] static Text NameOf(TextView row);
 
-  // Replaces the file by what the text of a directory page gives: a run of names and addresses, each
-  // address ended by "/" and a blank. The error, if the file could not be written.
+  // What the text of a directory page gives for the file: a run of names and addresses, each address
+  // ended by "/" and a blank, becomes a line a site.
+  [[nodiscard]] static Text FileTextOf(TextView pageText);
+  // Replaces the file by that. The error, if it could not be written.
   [[nodiscard]] static std::error_code MajListeSites(TextView pageText);
 };
 

@@ -45,6 +45,8 @@ Text SystemEnvironment::Variable(TextView name) const {
   if (name == u"AppData") return ApplicationData();
   if (name == u"userprofile" || name == u"homepath") return HomeFolder();
   if (name == u"temp") return TemporaryFiles();
+  // The user's documents lie in "Documents", as in the newer layout.
+  if (name == u"ALLUSERSPROFILE") return u"/ProgramData";
   return {};
 }
 

@@ -15,7 +15,8 @@ class SystemClock : public Clock {
 };
 
 // The environment of the process. `AppData` falls back to the folder for application data (XDG),
-// `userprofile` and `homepath` to the home folder, `temp` to the folder for temporary files.
+// `userprofile` and `homepath` to the home folder, `temp` to the folder for temporary files;
+// `ALLUSERSPROFILE` tells of the newer folder layout.
 class SystemEnvironment : public Environment {
  public:
   [[nodiscard]] Text Variable(TextView name) const override;

@@ -63,6 +63,7 @@ class CommandLine {
     AddStatistiques();
     AddLettre();
     AddCv();
+    AddSauvegarde();
   }
 
   ExitCode Run(std::vector<std::string> arguments) {
@@ -210,6 +211,19 @@ class CommandLine {
         ->required();
   }
 
+  void AddSauvegarde() {
+    Add("sauvegarder", "Copie le dossier de données dans un autre dossier",
+        [this] { return Sauvegarder(workspace_, folder_, console_); })
+        ->add_option("dossier", folder_, "Dossier qui reçoit la copie")
+        ->type_name("DOSSIER")
+        ->required();
+    Add("restaurer", "Reprend les données d’une copie ; ce qu’elle remplace reste dans Sauvegardes",
+        [this] { return Restaurer(workspace_, folder_, console_); })
+        ->add_option("dossier", folder_, "Dossier de la copie")
+        ->type_name("DOSSIER")
+        ->required();
+  }
+
   Console& console_;
   CLI::App app_{"Talvor en ligne de commande : annonces, candidatures et dossier de données."};
   std::function<ExitCode()> command_;
@@ -227,6 +241,7 @@ class CommandLine {
   RenderOptions render_;
   ConvertOptions convert_;
   std::string identity_;
+  std::string folder_;
 };
 
 }  // namespace

@@ -97,6 +97,12 @@ ExitCode ConvertirCv(const std::string& workspace, const ConvertOptions& options
 // The eleven fields of a pasted identity block as a JSON object, empty where no line fills them.
 ExitCode IdentiteCv(const std::string& file, Console& console);
 
+// Copies the whole data folder into a folder, under its own name.
+ExitCode Sauvegarder(const std::string& workspace, const std::string& folder, Console& console);
+
+// Copies such a copy over the data folder; `folder` is the copy itself, or the one that it was made in.
+ExitCode Restaurer(const std::string& workspace, const std::string& folder, Console& console);
+
 // Runs the tool on its arguments (without the program's name).
 [[nodiscard]] ExitCode RunCommandLine(std::vector<std::string> arguments, Console& console);
 

@@ -1,11 +1,8 @@
 #include "desktop/cv_desk.h"
 
-#include <QDir>
 #include <QLabel>
 #include <QPrinter>
 #include <QPrinterInfo>
-#include <QStandardPaths>
-#include <memory>
 
 #include "desktop/guide_panel.h"
 #include "desktop/text_edge.h"
@@ -18,9 +15,14 @@ namespace {
 constexpr TextView HelpForm = u"Aide";
 constexpr int TwipsOfPixel = 15;
 
+std::shared_ptr<QPrinter> DefaultPrinter() {
+  const QPrinterInfo printer = QPrinterInfo::defaultPrinter();
+  return printer.isNull() ? nullptr : std::make_shared<QPrinter>(printer, QPrinter::HighResolution);
+}
+
 }  // namespace
 
-CvDesk::CvDesk(Program program) : program_(program), menus_(program.theme) {
+CvDesk::CvDesk(Program program) : makePrinter(&DefaultPrinter), program_(program), menus_(program.theme) {
   menus_.OnChosen = [this](TextView item) { Chosen(item); };
   MakeForm();
 }
@@ -129,30 +131,28 @@ void CvDesk::OpenLastWordVersion() {
   if (!documents_.Open(file)) program_.dialogs.Tell(u"Aucun programme n'ouvre le fichier " + file);
 }
 
-// The page as it will be printed, in the user's own viewer.
+// The page as it stands on the disk, as it will be printed.
 void CvDesk::Preview() {
-  const QString file = QDir(QStandardPaths::writableLocation(QStandardPaths::TempLocation))
-                           .filePath(QStringLiteral("Talvor-CV.pdf"));
-  QWebEnginePage* page = window_->Page().page();
-  QObject::connect(
-      page, &QWebEnginePage::pdfPrintingFinished, window_,
-      [this](const QString& path, bool success) {
-        if (!success || !documents_.Open(FromQt(path)))
-          program_.dialogs.Tell(u"La prévisualisation n'a pas pu s'ouvrir.");
-      },
-      Qt::SingleShotConnection);
-  page->printToPdf(file);
+  const Text folder = program_.environment.Variable(u"userprofile") + u"/Documents/";
+  printPreview_ = new PrintPreviewWindow(program_.theme,
+                                         {.file = QUrl::fromLocalFile(ToQt(preview_.LocationURL())),
+                                          .reach = Reach::Folder,
+                                          .layout = CvPageLayout(),
+                                          .pdf = ToQt(folder + form_->NomCV + u".pdf")},
+                                         window_);
+  printPreview_->show();
 }
 
 void CvDesk::Print() {
-  if (QPrinterInfo::defaultPrinter().isNull())
-    return program_.dialogs.Tell(u"Aucune imprimante n'est installée.");
-  auto printer = std::make_shared<QPrinter>(QPrinterInfo::defaultPrinter());
+  const std::shared_ptr<QPrinter> printer = makePrinter();
+  if (!printer) return program_.dialogs.Tell(u"Aucune imprimante n’est installée.");
+  printer->setPageLayout(CvPageLayout());
   CvPageView& view = window_->Page();
+  // The printer lives until the page is through.
   QObject::connect(
       &view, &QWebEngineView::printFinished, window_,
       [this, printer](bool success) {
-        if (!success) program_.dialogs.Tell(u"L'impression n'a pas abouti.");
+        if (!success) program_.dialogs.Tell(u"L’impression n’a pas abouti.");
       },
       Qt::SingleShotConnection);
   view.print(printer.get());

@@ -4,12 +4,14 @@
 
 #include <QPointer>
 #include <functional>
+#include <memory>
 #include <optional>
 
 #include "cv/editor.h"
 #include "desktop/cv_menus.h"
 #include "desktop/cv_page_view.h"
 #include "desktop/cv_window.h"
+#include "desktop/print_preview.h"
 #include "desktop/qt_clipboard.h"
 #include "desktop/qt_dialogs.h"
 #include "desktop/qt_documents.h"
@@ -34,6 +36,9 @@ class CvDesk {
   // Called after each action of the window.
   std::function<void()> OnActed;
 
+  // The printer that takes the page without a question, null when there is none.
+  std::function<std::shared_ptr<QPrinter>()> makePrinter;
+
   // Registers `FormRédigerCV` and its help `Aide`.
   void Register();
   // Opens the CV of that file name.
@@ -46,6 +51,8 @@ class CvDesk {
   [[nodiscard]] FormRédigerCV& Form() { return *form_; }
   // The window, or null.
   [[nodiscard]] CvWindow* Window() const { return window_; }
+  // The print preview last opened, or null once it is closed.
+  [[nodiscard]] PrintPreviewWindow* PreviewWindow() const { return printPreview_; }
 
  private:
   void MakeForm();
@@ -65,6 +72,7 @@ class CvDesk {
   // Begun anew at each load of the form, in its place.
   std::optional<FormRédigerCV> form_;
   QPointer<CvWindow> window_;
+  QPointer<PrintPreviewWindow> printPreview_;
 };
 
 }  // namespace talvor

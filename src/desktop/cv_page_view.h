@@ -1,35 +1,23 @@
-// The live page of the editor of CVs, and the walls around it: the page holds whatever the user has
-// pasted, so no script runs in it, nothing is fetched from elsewhere, and of the disk it sees its own
-// folder alone.
+// The live page of the editor of CVs: it holds whatever the user has pasted, so it reaches no further
+// than the folder that its template and photo lie in.
 #pragma once
 
+#include <QPageLayout>
 #include <QPointer>
-#include <QWebEngineUrlRequestInterceptor>
 #include <QWebEngineView>
-#include <functional>
 
 #include "platform/browser.h"
 
 namespace talvor {
 
-// Lets through what lies in one folder, links followed; everything else is blocked.
-class FolderInterceptor : public QWebEngineUrlRequestInterceptor {
- public:
-  using QWebEngineUrlRequestInterceptor::QWebEngineUrlRequestInterceptor;
+class SealedPage;
 
-  // The folder of the page to be shown; empty lets nothing through.
-  void SetFolder(const QString& folder) { folder_ = folder; }
-  [[nodiscard]] bool Allows(const QUrl& url) const;
-  void interceptRequest(QWebEngineUrlRequestInfo& request) override;
-
- private:
-  QString folder_;
-};
+// A CV on paper, whose templates leave the margins to the sheet.
+[[nodiscard]] QPageLayout CvPageLayout();
 
 class CvPageView : public QWebEngineView {
  public:
   explicit CvPageView(QWidget* parent);
-  ~CvPageView() override;
 
   // Shows a page given by its full path. A page that is on show already is read anew and keeps its
   // scroll position.
@@ -42,10 +30,8 @@ class CvPageView : public QWebEngineView {
 
  private:
   void FitPage();
-  class Page;
 
-  FolderInterceptor interceptor_;
-  Page* page_;
+  SealedPage* page_;
 };
 
 // The preview of the form `FormRédigerCV`: the real part of its `WebBrowser1`. Without a view it only

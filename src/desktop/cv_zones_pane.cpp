@@ -165,31 +165,38 @@ QWidget* CvZonesPane::MakeIdentity() {
   grid->setColumnStretch(4, 1);
   grid->setColumnMinimumWidth(2, ColumnGap - 12);
   row->addLayout(grid, 1);
-
-  const auto field = [&](TextView name) { return MakeLineField(name, block); };
-  const auto label = [&](TextView name, QWidget* buddy, QChar key = {}) {
-    return MakeZoneLabel(name, key, buddy, block);
-  };
-  const int date = fontMetrics().horizontalAdvance(QStringLiteral("00/00/0000")) + 24;
-  const int digits = fontMetrics().horizontalAdvance(QStringLiteral("00000")) + 20;
   // Made in the order of reading, which is that of the Tab key.
-  const auto pair = [&](int at, TextView left, TextView right, QChar key = {}) {
-    QLineEdit* first = field(left);
-    QLineEdit* second = field(right);
-    AddFields(grid, at, 0, label(left, first, key), first);
-    AddFields(grid, at, 3, label(right, second), second);
+  AddAddress(*grid, block);
+  AddMailAndSituation(*grid, block);
+  AddBirthAndFamily(*grid, block);
+  row->addWidget(MakePhotoBox());
+  return block;
+}
+
+// Rows 0 to 3: name, address, telephone.
+void CvZonesPane::AddAddress(QGridLayout& grid, QWidget* block) {
+  const auto pair = [&](int row, TextView left, TextView right, QChar key = {}) {
+    QLineEdit* first = MakeLineField(left, block);
+    QLineEdit* second = MakeLineField(right, block);
+    AddFields(&grid, row, 0, MakeZoneLabel(left, key, first, block), first);
+    AddFields(&grid, row, 3, MakeZoneLabel(right, {}, second, block), second);
   };
   pair(0, u"Nom", u"Prénom", QLatin1Char('N'));
   pair(1, u"Adresse1", u"Adresse2");
-  QLineEdit* code = field(u"CP");
-  QLineEdit* town = field(u"Ville");
-  QLineEdit* country = field(u"Pays");
-  AddFields(grid, 2, 0, label(u"CP", code), code, town, digits);
-  AddFields(grid, 2, 3, label(u"Pays", country), country);
+  QLineEdit* code = MakeLineField(u"CP", block);
+  QLineEdit* town = MakeLineField(u"Ville", block);
+  QLineEdit* country = MakeLineField(u"Pays", block);
+  const int digits = fontMetrics().horizontalAdvance(QStringLiteral("00000")) + 20;
+  AddFields(&grid, 2, 0, MakeZoneLabel(u"CP", {}, code, block), code, town, digits);
+  AddFields(&grid, 2, 3, MakeZoneLabel(u"Pays", {}, country, block), country);
   code->setAccessibleName(tr("Code postal"));
   town->setAccessibleName(tr("Ville"));
   pair(3, u"Tel", u"Mob");
-  QLineEdit* mail = field(u"Email");
+}
+
+// Row 4.
+void CvZonesPane::AddMailAndSituation(QGridLayout& grid, QWidget* block) {
+  QLineEdit* mail = MakeLineField(u"Email", block);
   auto* situation = new QComboBox(block);
   situation->setObjectName(QStringLiteral("ListeSituations"));
   situation->setEditable(true);
@@ -204,17 +211,22 @@ QWidget* CvZonesPane::MakeIdentity() {
   connect(situation, &QComboBox::activated, this, [this](int index) {
     if (OnSituation) OnSituation(static_cast<std::size_t>(index));
   });
-  AddFields(grid, 4, 0, label(u"Email", mail), mail);
-  AddFields(grid, 4, 3, label(u"Situation", situation), situation);
+  AddFields(&grid, 4, 0, MakeZoneLabel(u"Email", {}, mail, block), mail);
+  AddFields(&grid, 4, 3, MakeZoneLabel(u"Situation", {}, situation, block), situation);
   situation->lineEdit()->setAccessibleName(ZoneCaption(u"Situation"));
-  QLineEdit* birth = field(u"DateNaissance");
-  QLineEdit* place = field(u"LieuNaissance");
-  AddFields(grid, 5, 0, label(u"DateNaissance", birth), birth, place, date);
+}
+
+// Row 5.
+void CvZonesPane::AddBirthAndFamily(QGridLayout& grid, QWidget* block) {
+  QLineEdit* birth = MakeLineField(u"DateNaissance", block);
+  QLineEdit* place = MakeLineField(u"LieuNaissance", block);
+  const int date = fontMetrics().horizontalAdvance(QStringLiteral("00/00/0000")) + 24;
+  AddFields(&grid, 5, 0, MakeZoneLabel(u"DateNaissance", {}, birth, block), birth, place, date);
   birth->setAccessibleName(tr("Date de naissance"));
   place->setAccessibleName(tr("Lieu de naissance"));
-  QLineEdit* age = field(u"Age");
-  QLineEdit* children = field(u"NbEnfants");
-  grid->addWidget(label(u"Age", age), 5, 3);
+  QLineEdit* age = MakeLineField(u"Age", block);
+  QLineEdit* children = MakeLineField(u"NbEnfants", block);
+  grid.addWidget(MakeZoneLabel(u"Age", {}, age, block), 5, 3);
   auto* family = new QHBoxLayout;
   family->setSpacing(5);
   age->setFixedWidth(36);
@@ -222,12 +234,9 @@ QWidget* CvZonesPane::MakeIdentity() {
   family->addWidget(age);
   family->addStretch(1);
   family->addWidget(children);
-  family->addWidget(label(u"NbEnfants", children));
-  grid->addLayout(family, 5, 4);
+  family->addWidget(MakeZoneLabel(u"NbEnfants", {}, children, block));
+  grid.addLayout(family, 5, 4);
   children->setAccessibleName(tr("Nombre d'enfants"));
-
-  row->addWidget(MakePhotoBox());
-  return block;
 }
 
 QWidget* CvZonesPane::MakePhotoBox() {

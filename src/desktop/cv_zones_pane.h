@@ -47,6 +47,9 @@ class CvZonesPane : public QWidget {
   QWidget* MakeTitleBar();
   QWidget* MakeIdentityBox();
   QWidget* MakeIdentity();
+  void AddAddress(QGridLayout& grid, QWidget* block);
+  void AddMailAndSituation(QGridLayout& grid, QWidget* block);
+  void AddBirthAndFamily(QGridLayout& grid, QWidget* block);
   QWidget* MakePhotoBox();
   QWidget* MakeFunction();
   QWidget* MakeZone(TextView field, QChar key, int height);

@@ -11,6 +11,19 @@
 
 namespace talvor {
 
+// The form of the candidatures with its two other sides.
+struct Desktop::CandidatureModels {
+  CandidatureModels(Principale& principale, const Clock& clock, Dialogs& dialogs, Shell& shell,
+                    DocumentBrowser& browser, Clipboard& clipboard, const Documents& documents)
+      : form(principale, clock, dialogs, shell, browser),
+        capture(form, clock, browser),
+        web(form, capture, {principale, dialogs, shell, browser, clipboard, documents}) {}
+
+  FormCand form;
+  FormCandCapture capture;
+  FormCandWeb web;
+};
+
 Desktop::Desktop(const Theme& theme, const Environment& environment, const Clock& clock, Dialogs& dialogs)
     : theme_(theme),
       environment_(environment),
@@ -23,6 +36,8 @@ Desktop::Desktop(const Theme& theme, const Environment& environment, const Clock
   RegisterForms();
   main_->OnClosed = [this] {
     if (letterWindow_) formLettre_.Timer1();
+    // Waits of this form end with it; the event loop alone would leave them turning.
+    shell_.Unload(u"FormCand");
     QCoreApplication::quit();
   };
   main_->OnHelp = [this] {
@@ -36,10 +51,17 @@ Desktop::~Desktop() {
 }
 
 void Desktop::MakeFormCand() {
-  formCand_.emplace(principale_, clock_, dialogs_, shell_, browser_);
-  capture_.emplace(*formCand_, clock_, browser_);
+  candidatures_ = std::make_shared<CandidatureModels>(principale_, clock_, dialogs_, shell_, browser_,
+                                                      clipboard_, documents_);
+  formCand_ = &candidatures_->form;
+  candidatures_->web.FormPostuler = [this] {
+    const FormPostuler* form = sending_->Apply();
+    return form == nullptr ? ApplyTexts{} : ApplyTexts{form->Email, form->Texte};
+  };
   formCand_->OuvrirPostuler = [this](const ApplyRequest& request) { sending_->OpenFromFormCand(request); };
 }
+
+FormCandWeb& Desktop::Web() { return candidatures_->web; }
 
 void Desktop::RefreshMain() {
   if (main_) main_->Refresh();
@@ -83,18 +105,23 @@ void Desktop::RegisterCandidatures() {
   QtShell::Form form;
   form.make = [this](QWidget* parent) -> QWidget* {
     MakeFormCand();
-    formCandWindow_ = new FormCandWindow(*formCand_, *capture_, browser_, theme_, parent);
+    formCandWindow_ =
+        new FormCandWindow(*formCand_, candidatures_->capture, candidatures_->web, browser_, theme_, parent);
+    formCandWindow_->models = candidatures_;
     formCandWindow_->OnActed = [this] { RefreshMain(); };
     formCandWindow_->OnMenuPostuler = [this] { sending_->OpenFromMenu(); };
-    browser_.makeView = [this] { return formCandWindow_->Web().MakeView(); };
     return formCandWindow_;
   };
-  form.loaded = [this] { formCandWindow_->Do([&] { formCand_->Charger(); }); };
+  form.loaded = [this] {
+    formCandWindow_->Do([&] {
+      formCand_->Charger();
+      candidatures_->web.Charger();
+    });
+    formCandWindow_->Web().FillSites(candidatures_->web.Sites);
+  };
   form.unloaded = [this] {
     // The window looks at the model until it is gone, so it goes at once with its timers.
     delete formCandWindow_.data();
-    browser_.makeView = {};
-    browser_.Forget();
   };
   shell_.Register(u"FormCand", form);
 }
@@ -173,8 +200,21 @@ void Desktop::RegisterCv() {
 }
 
 void Desktop::RegisterSending() {
-  sending_.emplace(SendingDesk::Program{principale_, *formCand_, browser_, cv_, shell_, theme_, environment_,
-                                        clock_, dialogs_});
+  sending_.emplace(SendingDesk::Program{.principale = principale_,
+                                        .formCand = [this]() -> FormCand& { return *formCand_; },
+                                        .tags =
+                                            [this] {
+                                              CandidatureTexts texts = TextsOf(*formCand_);
+                                              texts.Text1 = candidatures_->web.Text1;
+                                              return texts;
+                                            },
+                                        .browser = browser_,
+                                        .cv = cv_,
+                                        .shell = shell_,
+                                        .theme = theme_,
+                                        .environment = environment_,
+                                        .clock = clock_,
+                                        .dialogs = dialogs_});
   sending_->Register();
   // A send changes the candidature that its form shows.
   sending_->OnActed = [this] {

@@ -11,9 +11,10 @@
 #include "desktop/home_window.h"
 #include "desktop/letter_window.h"
 #include "desktop/main_window.h"
+#include "desktop/print_preview.h"
+#include "desktop/qt_clipboard.h"
 #include "desktop/qt_dialogs.h"
 #include "desktop/qt_documents.h"
-#include "desktop/report_preview.h"
 #include "desktop/sending_desk.h"
 #include "desktop/splash.h"
 #include "desktop/web_browser.h"
@@ -45,6 +46,8 @@ class Desktop {
   [[nodiscard]] FormCand& Candidatures() { return *formCand_; }
   [[nodiscard]] FormLettre& Letter() { return formLettre_; }
   [[nodiscard]] QtPagePreview& Preview() { return preview_; }
+  [[nodiscard]] FormCandWeb& Web();
+  [[nodiscard]] WebBrowser& Pages() { return browser_; }
   [[nodiscard]] CvDesk& Cv() { return cv_; }
   [[nodiscard]] SendingDesk& Sending() { return *sending_; }
   // The window of the candidatures, or null.
@@ -74,9 +77,9 @@ class Desktop {
   Dialogs& dialogs_;
 
   QtShell shell_;
-  WebBrowser browser_;
+  WebBrowser browser_{dialogs_};
   Principale principale_{shell_};
-  AssistantTexte assistantTexte_{principale_, shell_};
+  AssistantTexte assistantTexte_{principale_, shell_, dialogs_};
   Guide guide_{principale_, shell_};
   FormLettre formLettre_{principale_, clock_, dialogs_, shell_};
   QtDocuments documents_;
@@ -84,9 +87,11 @@ class Desktop {
   QtPagePreview preview_{theme_};
   PrintedReports reports_{principale_, clock_, environment_, dialogs_, shell_, preview_};
   Depart depart_;
-  // Begun anew at each load of the form, in its place.
-  std::optional<FormCand> formCand_;
-  std::optional<FormCandCapture> capture_;
+  QtClipboard clipboard_;
+  // Begun anew at each load of the form; the ones before live on while an action of theirs goes on.
+  struct CandidatureModels;
+  std::shared_ptr<CandidatureModels> candidatures_;
+  FormCand* formCand_ = nullptr;
   QtPickers pickers_;
   CvDesk cv_;
   std::optional<SendingDesk> sending_;

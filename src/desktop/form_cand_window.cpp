@@ -1,9 +1,12 @@
 #include "desktop/form_cand_window.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
+#include <QLineEdit>
 #include <QMenu>
 #include <QPointer>
 #include <QSplitter>
+#include <QStyle>
 
 namespace talvor {
 namespace {
@@ -12,9 +15,9 @@ const QList<int> WideSizes{312, 474, 494};
 
 }  // namespace
 
-FormCandWindow::FormCandWindow(FormCand& form, FormCandCapture& capture, Browser& browser, const Theme& theme,
-                               QWidget* parent)
-    : QWidget(parent), form_(form), capture_(capture), browser_(browser), theme_(theme) {
+FormCandWindow::FormCandWindow(FormCand& form, FormCandCapture& capture, FormCandWeb& web,
+                               WebBrowser& browser, const Theme& theme, QWidget* parent)
+    : QWidget(parent), form_(form), capture_(capture), webModel_(web), browser_(browser), theme_(theme) {
   setObjectName(QStringLiteral("FormCand"));
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(0, 0, 0, 0);
@@ -34,9 +37,11 @@ FormCandWindow::FormCandWindow(FormCand& form, FormCandCapture& capture, Browser
     binder_.Bind(*address, form_.AdresseWeb);
   binder_.OnEdited = [this](QWidget& field) {
     if (&field == &detail_->Statut()) detail_->ShowStatusDot(form_.Statut);
+    ShowRefusal();
   };
   ConnectList();
   ConnectDetail();
+  ConnectWeb();
 
   constexpr int PasteWatchMilliseconds = 500;
   constexpr int SaveMilliseconds = 3000;
@@ -74,11 +79,60 @@ void FormCandWindow::ConnectDetail() {
   contract.OnToggle = [this] { Do([&] { form_.ClicImage1(); }); };
   contract.OnChosen = [this](std::size_t row) { Do([&] { form_.ClicContrat(row); }); };
   contract.OnLeave = [this] { Do([&] { form_.QuitterNature(); }); };
-  web_->OnGo = [this] { Do([&] { browser_.Navigate(form_.AdresseWeb); }); };
+  // A click on the address of the advertisement opens it.
+  if (auto* www = findChild<QWidget*>(QStringLiteral("www"))) www->installEventFilter(this);
+}
+
+void FormCandWindow::ConnectWeb() {
+  const auto doing = [this](void (FormCandWeb::*action)()) {
+    return [this, action] { Do([&] { (webModel_.*action)(); }); };
+  };
+  web_->on = {.enter = doing(&FormCandWeb::EntrerAdresseWeb),
+              .address = doing(&FormCandWeb::ClicAdresseWeb),
+              .go = doing(&FormCandWeb::ClicGo),
+              .stop = doing(&FormCandWeb::Arreter),
+              .back = doing(&FormCandWeb::ClicPrecedent),
+              .forward = doing(&FormCandWeb::ClicSuivant),
+              .start = doing(&FormCandWeb::ClicImage4),
+              .strip = doing(&FormCandWeb::ClicImage5),
+              .sites = doing(&FormCandWeb::ClicImage6),
+              .leaveSites = doing(&FormCandWeb::QuitterList1),
+              .capture = doing(&FormCandWeb::ClicCaptureSel),
+              .prefill = doing(&FormCandWeb::ClicLabel2),
+              .bring = doing(&FormCandWeb::ClicLabel3),
+              .reload = [this] { browser_.Reload(); },
+              .site = [this](std::size_t row) { Do([&] { webModel_.ClicList1(row); }); }};
+  webModel_.OnChange = [this] { Refresh(); };
+  webModel_.OnSignal = [this](TextView key) {
+    Refresh();
+    list_->Tree().Flash(key);
+  };
+  browser_.makeView = [this] { return web_->MakeView(); };
+  browser_.OnLoaded = doing(&FormCandWeb::EvaluerPage);
+  browser_.OnState = [this](const WebState& state) { web_->ShowState(state); };
+  web_->ShowState(browser_.State());
+}
+
+// The window goes: the model may still be in a wait, from which it comes back to no window.
+FormCandWindow::~FormCandWindow() {
+  webModel_.Fermer();
+  webModel_.OnChange = {};
+  webModel_.OnSignal = {};
+  browser_.makeView = {};
+  browser_.OnLoaded = {};
+  browser_.OnState = {};
+  browser_.Forget();
+}
+
+bool FormCandWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::MouseButtonRelease && watched->objectName() == QStringLiteral("www"))
+    Do([&] { webModel_.ClicWww(); });
+  return QWidget::eventFilter(watched, event);
 }
 
 void FormCandWindow::Do(const std::function<void()>& action) {
   const QPointer<FormCandWindow> self(this);
+  const std::shared_ptr<void> kept = models;
   action();
   if (!self) return;
   Refresh();
@@ -86,7 +140,7 @@ void FormCandWindow::Do(const std::function<void()>& action) {
 }
 
 void FormCandWindow::Tick500() {
-  Do([&] { capture_.Timer1(); });
+  Do([&] { webModel_.Timer1(); });
 }
 
 void FormCandWindow::Tick3000() {
@@ -126,9 +180,26 @@ void FormCandWindow::Refresh() {
   detail_->ShowPostuler(form_.PicturePostulerVisible);
   detail_->ShowInternet(form_.CadreWebVisible);
   detail_->ShowStatusDot(form_.Statut);
+  ShowRefusal();
   detail_->Statut().ShowList(form_.ListeStatutsChoice);
   detail_->Nature().ShowList(form_.ListeContratsChoice);
   if (web_->isHidden() == form_.CadreWebVisible) web_->setVisible(form_.CadreWebVisible);
+  web_->Show(webModel_);
+}
+
+// A field at fault looks and speaks so until its text changes.
+void FormCandWindow::ShowRefusal() {
+  for (const auto& field : DetailFields) {
+    auto* line = findChild<QLineEdit*>(ToQt(field.name));
+    if (line == nullptr) continue;
+    const bool refused =
+        form_.Refus && form_.Refus->field == field.name && form_.Refus->value == form_.*(field.text);
+    if (line->property("invalid").toBool() == refused) continue;
+    line->setProperty("invalid", refused);
+    line->setAccessibleDescription(refused ? ToQt(form_.Refus->message) : QString());
+    line->style()->unpolish(line);
+    line->style()->polish(line);
+  }
 }
 
 void FormCandWindow::OpenItemMenu() {

@@ -4,6 +4,7 @@
 #include <QTimer>
 #include <QWidget>
 #include <functional>
+#include <memory>
 
 #include "ads/capture.h"
 #include "desktop/browser_pane.h"
@@ -17,9 +18,12 @@ namespace talvor {
 
 class FormCandWindow : public QWidget {
  public:
-  // The view models must outlive the window.
-  FormCandWindow(FormCand& form, FormCandCapture& capture, Browser& browser, const Theme& theme,
-                 QWidget* parent);
+  FormCandWindow(FormCand& form, FormCandCapture& capture, FormCandWeb& web, WebBrowser& browser,
+                 const Theme& theme, QWidget* parent);
+  ~FormCandWindow() override;
+
+  // Kept until the window is gone and its last action has returned: what owns the view models.
+  std::shared_ptr<void> models;
 
   // Called after each action, for what other windows show.
   std::function<void()> OnActed;
@@ -43,15 +47,19 @@ class FormCandWindow : public QWidget {
  protected:
   void showEvent(QShowEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void ConnectList();
   void ConnectDetail();
+  void ConnectWeb();
+  void ShowRefusal();
   void OpenItemMenu();
 
   FormCand& form_;
   FormCandCapture& capture_;
-  Browser& browser_;
+  FormCandWeb& webModel_;
+  WebBrowser& browser_;
   const Theme& theme_;
   FieldBinder binder_;
   QSplitter* splitter_;

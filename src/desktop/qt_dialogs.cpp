@@ -30,6 +30,17 @@ QString QtFilter(TextView filter) {
   return kinds.join(QStringLiteral(";;"));
 }
 
+// The folder where the dialog starts, with the proposed name.
+QString Beginning(const FileQuestion& question) {
+  const QString folder = ToQt(TextOf(question.folder).value_or(Text{}));
+  return question.name.empty() ? folder : folder + QLatin1Char('/') + ToQt(question.name);
+}
+
+std::optional<std::filesystem::path> Answer(const QString& file) {
+  if (file.isEmpty()) return std::nullopt;
+  return PathOf(FromQt(file));
+}
+
 }  // namespace
 
 void QtDialogs::Tell(TextView message) { Ask(frame_, QMessageBox::Information, message, QMessageBox::Ok); }
@@ -40,11 +51,14 @@ bool QtDialogs::Confirm(TextView question) {
 }
 
 std::optional<std::filesystem::path> QtPickers::OpenFile(const FileQuestion& question) {
-  const auto folder = TextOf(question.folder);
-  const QString file = QFileDialog::getOpenFileName(frame_, ToQt(question.title),
-                                                    ToQt(folder.value_or(Text{})), QtFilter(question.filter));
-  if (file.isEmpty()) return std::nullopt;
-  return PathOf(FromQt(file));
+  return Answer(QFileDialog::getOpenFileName(frame_, ToQt(question.title), Beginning(question),
+                                             QtFilter(question.filter)));
+}
+
+std::optional<std::filesystem::path> QtPickers::SaveFile(const FileQuestion& question) {
+  return Answer(QFileDialog::getSaveFileName(frame_, ToQt(question.title), Beginning(question),
+                                             QtFilter(question.filter), nullptr,
+                                             QFileDialog::DontConfirmOverwrite));
 }
 
 std::optional<Colour> QtPickers::PickColour() {

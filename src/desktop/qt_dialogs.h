@@ -24,6 +24,7 @@ class QtPickers : public Pickers {
  public:
   void SetFrame(QWidget* frame) { frame_ = frame; }
   std::optional<std::filesystem::path> OpenFile(const FileQuestion& question) override;
+  std::optional<std::filesystem::path> SaveFile(const FileQuestion& question) override;
   std::optional<Colour> PickColour() override;
 
  private:

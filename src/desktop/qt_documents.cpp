@@ -23,7 +23,9 @@ QString AnswerOf(const QString& program, const QStringList& arguments) {
 }  // namespace
 
 bool QtDocuments::Open(TextView target) {
-  return QProcess::startDetached(QStringLiteral("xdg-open"), {ToQt(target)});
+  // A file whose name begins like an option is still a file.
+  const QString argument = (target.starts_with(u'-') ? QStringLiteral("./") : QString()) + ToQt(target);
+  return QProcess::startDetached(QStringLiteral("xdg-open"), {argument});
 }
 
 Text QtDocuments::ProgramFor(TextView file) const {

@@ -1,42 +1,51 @@
-// A web page that reaches nothing: no scripts, no network, and of the disk one file alone.
+// A web page that reaches nothing: no scripts, no network, and of the disk one file or its folder.
 #pragma once
 
 #include <QWebEnginePage>
-#include <QWebEngineProfile>
 #include <QWebEngineUrlRequestInterceptor>
 
 namespace talvor {
 
-// Lets the one address through and blocks every other request.
-class OneFileOnly : public QWebEngineUrlRequestInterceptor {
+// What a sealed page may read besides its own file: nothing, or what lies in the folder of that file,
+// links followed.
+enum class Reach { File, Folder };
+
+// Lets through what is within reach of the file on show and blocks every other request.
+class ReachGuard : public QWebEngineUrlRequestInterceptor {
  public:
-  using QWebEngineUrlRequestInterceptor::QWebEngineUrlRequestInterceptor;
-  void Allow(const QUrl& address) { allowed_ = address; }
+  ReachGuard(Reach reach, QObject* parent) : QWebEngineUrlRequestInterceptor(parent), reach_(reach) {}
+  // An empty address lets the blank page alone through.
+  void SetFile(const QUrl& file) { file_ = file; }
+  [[nodiscard]] bool Allows(const QUrl& address) const;
   void interceptRequest(QWebEngineUrlRequestInfo& request) override;
 
  private:
-  QUrl allowed_;
+  Reach reach_;
+  QUrl file_;
 };
 
 // For pages whose markup holds texts as foreign hands have written them. Its profile leaves nothing on
 // the disk, texts without a declared encoding are read in the code page of the workspace.
 class SealedPage : public QWebEnginePage {
  public:
-  explicit SealedPage(QObject* parent);
+  SealedPage(Reach reach, QObject* parent);
   ~SealedPage() override;
 
-  // Loads a file, the only thing that the page may read.
-  void LoadFile(const QUrl& address);
+  // Loads a file. One that is on show already is read anew and keeps its scroll position.
+  void ShowFile(const QUrl& file);
+  void ShowBlank();
 
  protected:
-  // No link leads away from the file, no window opens.
+  // No link, form or refresh leads away from the file, no window opens.
   bool acceptNavigationRequest(const QUrl& address, NavigationType type, bool isMainFrame) override;
   QWebEnginePage* createWindow(WebWindowType) override { return nullptr; }
 
  private:
-  explicit SealedPage(QWebEngineProfile* profile, QObject* parent);
+  SealedPage(Reach reach, QWebEngineProfile* profile, QObject* parent);
+  void BuildWalls();
 
-  OneFileOnly* guard_;
+  Reach reach_;
+  ReachGuard* guard_;
   QUrl file_;
 };
 

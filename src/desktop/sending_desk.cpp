@@ -7,7 +7,7 @@
 
 namespace talvor {
 
-SendingDesk::SendingDesk(Program program) : program_(program), mail_(program.environment) {
+SendingDesk::SendingDesk(Program program) : program_(std::move(program)), mail_(program_.environment) {
   wordProcessor_.whileWaiting = [] { QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); };
 }
 
@@ -15,6 +15,7 @@ void SendingDesk::MakeApply() {
   apply_.emplace(
       FormPostuler::Surroundings{.principale = program_.principale,
                                  .formCand = program_.formCand,
+                                 .tags = program_.tags,
                                  .formCandBrowser = program_.browser,
                                  .clock = program_.clock,
                                  .environment = program_.environment,
@@ -34,7 +35,7 @@ void SendingDesk::MakeApply() {
 QWidget* SendingDesk::MakeApplyWindow(QWidget* parent) {
   MakeApply();
   applyWindow_ = new ApplyWindow(*apply_, program_.theme, parent);
-  const FormCand& form = program_.formCand;
+  const FormCand& form = program_.formCand();
   const Text company = form.Societe.empty() ? Text{} : u", " + form.Societe;
   applyWindow_->setWindowTitle(form.Intitule.empty()
                                    ? QObject::tr("Postuler")
@@ -75,14 +76,20 @@ void SendingDesk::Register() {
 }
 
 // The load begins the form anew in its place, so that it comes before the form is asked.
-void SendingDesk::OpenFromFormCand(const ApplyRequest& request) {
+void SendingDesk::Review(const std::function<void()>& wayIn) {
   program_.shell.Load(ApplyForm);
-  if (applyWindow_) applyWindow_->Do([&] { apply_->OuvrirDepuisFormCand(request); });
+  if (!applyWindow_) return;
+  applyWindow_->Do(wayIn);
+  // The marks of the letter that has been replaced would stand for a second.
+  if (applyWindow_) applyWindow_->Tick1000();
+}
+
+void SendingDesk::OpenFromFormCand(const ApplyRequest& request) {
+  Review([&] { apply_->OuvrirDepuisFormCand(request); });
 }
 
 void SendingDesk::OpenFromMenu() {
-  program_.shell.Load(ApplyForm);
-  if (applyWindow_) applyWindow_->Do([this] { apply_->OuvrirDepuisMenu(); });
+  Review([this] { apply_->OuvrirDepuisMenu(); });
 }
 
 void SendingDesk::StopTimer() {

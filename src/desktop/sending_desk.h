@@ -20,8 +20,9 @@ class SendingDesk {
   // All of them must outlive it.
   struct Program {
     Principale& principale;
-    FormCand& formCand;
-    Browser& browser;  // of `FormCand`
+    std::function<FormCand&()> formCand;
+    std::function<CandidatureTexts()> tags;  // the texts of its fields
+    Browser& browser;                        // of `FormCand`
     CvDesk& cv;
     QtShell& shell;
     const Theme& theme;
@@ -47,6 +48,7 @@ class SendingDesk {
 
  private:
   void MakeApply();
+  void Review(const std::function<void()>& wayIn);
   QWidget* MakeApplyWindow(QWidget* parent);
   QWidget* MakeConvertWindow(QWidget* parent);
 

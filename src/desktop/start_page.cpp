@@ -5,11 +5,15 @@
 #include <QWebEngineUrlScheme>
 
 #include "ads/start_page.h"
+#include "base/line_file.h"
 
 namespace talvor {
 namespace {
 
 const QByteArray SchemeName = QByteArrayLiteral("talvor");
+
+// The page of sites, in the data folder, from which the directory can be rebuilt.
+constexpr const char* SitesPage = "listesites.htm";
 
 }  // namespace
 
@@ -21,10 +25,15 @@ void RegisterStartPageScheme() {
 }
 
 void StartPageHandler::requestStarted(QWebEngineUrlRequestJob* job) {
-  SiteDirectory directory;
-  directory.Charger();
   auto* page = new QBuffer(job);
-  page->setData(QByteArray::fromStdString(ToUtf8(StartPageHtml(directory))));
+  const auto sites = ReadBytes(SitesPage);
+  if (job->requestUrl().fileName() == QString::fromLatin1(SitesPage) && sites) {
+    page->setData(QByteArray::fromStdString(*sites));
+  } else {
+    SiteDirectory directory;
+    directory.Charger();
+    page->setData(QByteArray::fromStdString(ToUtf8(StartPageHtml(directory))));
+  }
   page->open(QIODevice::ReadOnly);
   job->reply(QByteArrayLiteral("text/html"), page);
 }

@@ -9,7 +9,7 @@ namespace talvor {
 // Makes the scheme known; once, before the application is.
 void RegisterStartPageScheme();
 
-// Answers every address of the scheme with the start page.
+// Answers with the page of sites under its name, and every other address with the start page.
 class StartPageHandler : public QWebEngineUrlSchemeHandler {
  public:
   using QWebEngineUrlSchemeHandler::QWebEngineUrlSchemeHandler;

@@ -44,7 +44,10 @@ std::string BytesOf(const Property& property) {
 
 std::vector<Text> ReadWindowTitles() {
   const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-  xcb_connection_t* server = x11 == nullptr ? nullptr : x11->connection();
+  return ReadWindowTitles(x11 == nullptr ? nullptr : x11->connection());
+}
+
+std::vector<Text> ReadWindowTitles(xcb_connection_t* server) {
   if (server == nullptr) return {};
   const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(server)).data->root;
   const std::string list = BytesOf(Read(server, root, Atom(server, "_NET_CLIENT_LIST_STACKING")));
@@ -63,6 +66,7 @@ std::vector<Text> ReadWindowTitles() {
 }
 #else
 std::vector<Text> ReadWindowTitles() { return {}; }
+std::vector<Text> ReadWindowTitles(xcb_connection_t*) { return {}; }
 #endif
 
 }  // namespace talvor

@@ -19,6 +19,7 @@ struct FileQuestion {
   Text title;
   std::filesystem::path folder;  // where the dialog starts
   Text filter;                   // «Label|*.a;*.b», further kinds behind further "|"
+  Text name;                     // the proposed file name
 };
 
 // The dialogs in which the user picks something. Nothing when the user gives up.
@@ -27,6 +28,8 @@ class Pickers {
   virtual ~Pickers() = default;
   // The full path of an existing file; the current directory stays as it is.
   [[nodiscard]] virtual std::optional<std::filesystem::path> OpenFile(const FileQuestion& question) = 0;
+  // The full path of a file to be written, which may exist; nothing is asked about that.
+  [[nodiscard]] virtual std::optional<std::filesystem::path> SaveFile(const FileQuestion& question) = 0;
   [[nodiscard]] virtual std::optional<Colour> PickColour() = 0;
 };
 

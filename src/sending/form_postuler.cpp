@@ -82,13 +82,13 @@ void FormPostuler::Charger() {
   for (std::size_t i = 0; i < CvCount; ++i) CV[i] = around_.principale.ImageMenu[i].toolTip;
 
   // After the merge: the subject of the model stands only once the model is picked by hand.
-  ChangerEmailDest(around_.formCand.Email);
-  Objet = u"Réponse à l'annonce ref " + around_.formCand.Reference;
+  ChangerEmailDest(around_.formCand().Email);
+  Objet = u"Réponse à l'annonce ref " + around_.formCand().Reference;
 
   around_.shell.Show(ApplyForm);
 
   // An advertisement that is answered on the web alone.
-  if (EmailDest.empty() && !around_.formCand.www.empty()) {
+  if (EmailDest.empty() && !around_.formCand().www.empty()) {
     SendByMailEnabled = false;
     ClicMessagerie(MarkAsSent);
   }
@@ -98,8 +98,8 @@ void FormPostuler::Charger() {
 }
 
 void FormPostuler::Merge(TextView fileName) {
-  FusionnerLettre(FileIn(workspace_paths::LetterFolder(), fileName), TextsOf(around_.formCand),
-                  around_.clock.Today(), *this, around_.dialogs, around_.shell);
+  FusionnerLettre(FileIn(workspace_paths::LetterFolder(), fileName), around_.tags(), around_.clock.Today(),
+                  *this, around_.dialogs, around_.shell);
 }
 
 void FormPostuler::PointFile2() {
@@ -121,8 +121,8 @@ void FormPostuler::OuvrirDepuisFormCand(const ApplyRequest& request) {
 
 void FormPostuler::OuvrirDepuisMenu() {
   around_.shell.Load(ApplyForm);
-  Texte = around_.formCand.Lettre;
-  PJ = around_.formCand.CV;
+  Texte = around_.formCand().Lettre;
+  PJ = around_.formCand().CV;
   around_.shell.Show(ApplyForm);
 }
 
@@ -222,11 +222,11 @@ void FormPostuler::Send() {
         u"\u00A0». Votre messagerie peut l’ouvrir pour l’envoyer.");
 }
 
-void FormPostuler::MarquerEnvoyee() { around_.formCand.MarquerEnvoyee(PJ, Texte); }
+void FormPostuler::MarquerEnvoyee() { around_.formCand().MarquerEnvoyee(PJ, Texte); }
 
 void FormPostuler::BoutonTLV2() {
-  FormCand& form = around_.formCand;
   around_.shell.Show(CandidatureForm);
+  FormCand& form = around_.formCand();
   form.CadreWebVisible = true;
   // The page of the advertisement, unless it is the one on show already.
   if (form.AdresseWeb == form.www) return;

@@ -37,8 +37,9 @@ class FormPostuler : public MergedLetter {
 
   struct Surroundings {
     Principale& principale;
-    FormCand& formCand;
-    Browser& formCandBrowser;  // the browser pane of `FormCand`
+    std::function<FormCand&()> formCand;     // as it stands: a new one at each load of its form
+    std::function<CandidatureTexts()> tags;  // the texts of its fields
+    Browser& formCandBrowser;                // the browser pane of `FormCand`
     const Clock& clock;
     const Environment& environment;
     Dialogs& dialogs;

@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "app/hints.h"
+
 namespace talvor {
 namespace {
 
@@ -9,12 +11,12 @@ constexpr TextView Extension = u".dat";
 constexpr TextView BackTitle = u"Retour au menu principal";
 constexpr TextView BackCommand = u"Retour";
 
-constexpr TextView HintNewCandidature =
-    u"Pour créer une nouvelle candidature, vous pouvez effectuer un copier/coller dans la zone description, "
-    u"les informations détaillées s'auto-alimenteront";
-constexpr TextView HintCapture =
-    u"Positionnez-vous sur une annonce puis cliquez sur le lien 'Enregistrer cette annonce' qui apparaîtra "
-    u"alors ci-dessus pour la répertorier dans votre base";
+// This panel says more than the menu of the slots does.
+constexpr TextView BetterWriteOne =
+    u"INFORMATION : Pour profiter pleinement de toutes les fonctionnalités de Talvor, génération automatique "
+    u"des courriers, prégénération des courriers d'accompagnement et préremplissage automatique des "
+    u"formulaires, il est préférable de rédiger un nouveau CV à l'aide de l'assistant, éventuellement en "
+    u"effectuant des Copier/Coller du CV que vous possédez déjà.";
 
 // The last match stands.
 Text KindOfModel(TextView name) {
@@ -36,8 +38,8 @@ void Run(const std::function<void()>& command) {
 
 }  // namespace
 
-AssistantTexte::AssistantTexte(Principale& principale, Shell& shell)
-    : principale_(principale), shell_(shell) {}
+AssistantTexte::AssistantTexte(Principale& principale, Shell& shell, Dialogs& dialogs)
+    : principale_(principale), shell_(shell), dialogs_(dialogs) {}
 
 // The last visible slot is the entry for a new CV, which is why one is taken off.
 int AssistantTexte::CountCvs() const {
@@ -102,7 +104,7 @@ void AssistantTexte::Clic(TextView title) {
     shell_.Unload(u"AssistantTexte");
     return shell_.Show(u"FormRédigerCV");
   }
-  if (title == u"Rattacher un CV existant") return Run(commands.rattacherCv);
+  if (title == u"Rattacher un CV existant") return RattacherCV();
   if (title == u"Réaliser un nouveau modèle de lettre") {
     shell_.Show(u"FormLettre");
     return Run(commands.nouvelleLettre);
@@ -128,18 +130,23 @@ void AssistantTexte::ClicFile(TextView title) {
     }
 }
 
+void AssistantTexte::RattacherCV() {
+  if (principale_.ImageMenu[0].picture == SlotPicture::ImageNew) dialogs_.Tell(BetterWriteOne);
+  Run(commands.rattacherCv);
+}
+
 void AssistantTexte::GererCandidatures() {
   shell_.Show(u"FormCand");
   if (principale_.ImageMenu[Principale::CandidatureSlot].picture != SlotPicture::ImageNew) return;
   shell_.Wait(500);
-  principale_.AfficherGuide(HintNewCandidature);
+  principale_.AfficherGuide(hints::NewCandidature);
 }
 
 void AssistantTexte::RechercherOffres() {
   shell_.Show(u"FormCand");
   Run(commands.rechercherOffres);
   if (principale_.ImageMenu[Principale::CandidatureSlot].picture == SlotPicture::ImageNew)
-    principale_.AfficherGuide(HintCapture);
+    principale_.AfficherGuide(hints::Capture);
   Run(commands.naviguerAccueil);
 }
 

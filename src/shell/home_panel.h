@@ -5,6 +5,7 @@
 #include <functional>
 #include <vector>
 
+#include "platform/dialogs.h"
 #include "platform/shell.h"
 #include "workspace/principale.h"
 
@@ -20,7 +21,7 @@ class AssistantTexte {
  public:
   enum class Level { Home, CV, Letters, Candidatures };
 
-  AssistantTexte(Principale& principale, Shell& shell);
+  AssistantTexte(Principale& principale, Shell& shell, Dialogs& dialogs);
 
   // What the commands lead to on other floors; one that is not set does nothing.
   struct Commands {
@@ -52,11 +53,13 @@ class AssistantTexte {
   [[nodiscard]] HomeRow LetterRow(std::size_t slot) const;
   [[nodiscard]] Text NameInSlot(std::size_t slot) const;
   void ClicFile(TextView title);
+  void RattacherCV();
   void GererCandidatures();
   void RechercherOffres();
 
   Principale& principale_;
   Shell& shell_;
+  Dialogs& dialogs_;
 };
 
 }  // namespace talvor

@@ -1,6 +1,7 @@
 #include "tracking/form_cand.h"
 
 #include "base/fonctionnel.h"
+#include "base/raised.h"
 #include "tracking/contracts.h"
 #include "tracking/form_cand_messages.h"
 #include "tracking/status_lists.h"
@@ -9,18 +10,6 @@ namespace talvor {
 namespace {
 
 constexpr TextView FormName = u"FormCand";
-
-// Raised for the life of a save, whatever way it ends.
-class Raised {
- public:
-  explicit Raised(bool& flag) : flag_(flag) { flag_ = true; }
-  ~Raised() { flag_ = false; }
-  Raised(const Raised&) = delete;
-  Raised& operator=(const Raised&) = delete;
-
- private:
-  bool& flag_;
-};
 
 }  // namespace
 
@@ -66,13 +55,17 @@ void FormCand::ValeursParDefaut() {
 bool FormCand::RefuseDate(TextView field, const Text& value) {
   if (DateValide(value)) return false;
   shell_.Focus(FormName, field);
+  Refus = {Text{field}, value, Text{messages::BadDate}};
   dialogs_.Tell(messages::BadDate);
   return true;
 }
 
 bool FormCand::ControleSaisie() {
+  Refus.reset();
   if (Intitule.empty()) {
-    dialogs_.Tell(CadreWebVisible ? messages::NotIdentified : messages::TitleRequired);
+    const TextView message = CadreWebVisible ? messages::NotIdentified : messages::TitleRequired;
+    Refus = {u"Intitule", {}, Text{message}};
+    dialogs_.Tell(message);
     return false;
   }
   return !RefuseDate(u"DateDiffusion", DateDiffusion) && !RefuseDate(u"DateLimite", DateLimite) &&

@@ -38,6 +38,13 @@ struct ApplyRequest {
   bool canBeSent = false;  // shows `BoutonTLV1`
 };
 
+// Why the last check refused the fields.
+struct Refusal {
+  Text field;  // its name
+  Text value;  // as refused; a field that says something else by now is no longer at fault
+  Text message;
+};
+
 class FormCand : public CandidatureDetail {
  public:
   FormCand(Principale& principale, const Clock& clock, Dialogs& dialogs, Shell& shell, Browser& browser);
@@ -50,6 +57,7 @@ class FormCand : public CandidatureDetail {
   Text AdresseWeb;  // the address field of the browser pane
   bool CadreWebVisible = false;
   bool PicturePostulerVisible = false;
+  std::optional<Refusal> Refus;
   ChoiceList ListeStatutsChoice;
   ChoiceList ListeContratsChoice;
 
@@ -89,8 +97,8 @@ class FormCand : public CandidatureDetail {
   void ViderDetail();
   // Fills what an empty field stands for.
   void ValeursParDefaut();
-  // True if the fields can be saved; the first fault is told and takes the focus. `DateRDV` is not
-  // looked at.
+  // True if the fields can be saved; the first fault is told, stands in `Refus` and, being a date, takes
+  // the focus. `DateRDV` is not looked at.
   [[nodiscard]] bool ControleSaisie();
   // Saves the detail as a new row or over its own; the only writer of rows. Throws StoreError when the
   // engine refuses, a `DateRDV` that is no date included.

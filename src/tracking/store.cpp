@@ -199,9 +199,11 @@ Database::~Database() = default;
 Database::Database(Database&&) noexcept = default;
 Database& Database::operator=(Database&&) noexcept = default;
 
-Database Database::Open(const Clock& clock) {
+Database Database::Open(const Clock& clock) { return OpenFile(workspace_paths::Database(), clock); }
+
+Database Database::OpenFile(const fs::path& file, const Clock& clock) {
   Database database;
-  database.engine_ = std::make_unique<Engine>(workspace_paths::Database(), clock);
+  database.engine_ = std::make_unique<Engine>(file, clock);
   return database;
 }
 

@@ -49,6 +49,8 @@ class Database {
   // a database of candidatures or that a newer version has written is refused and left untouched. The
   // clock must outlive the handle.
   [[nodiscard]] static Database Open(const Clock& clock);
+  // The same for a database that stands elsewhere.
+  [[nodiscard]] static Database OpenFile(const std::filesystem::path& file, const Clock& clock);
 
   // Makes an empty database in `file`; one that stands there is left alone.
   static void Create(const std::filesystem::path& file);

@@ -39,6 +39,26 @@ std::error_code Keep(const fs::path& document) {
   return error;
 }
 
+std::error_code MoveToOtherDisk(const fs::path& from, const fs::path& to) {
+  const auto bytes = ReadBytes(from);
+  if (!bytes) return std::make_error_code(std::errc::io_error);
+  std::error_code error = WriteBytes(to, *bytes);
+  if (!error) fs::remove(from, error);
+  return error;
+}
+
+// Moves a whole file to its place, over the one that stands there.
+std::error_code PutInPlace(const fs::path& file, const fs::path& place) {
+  std::error_code error;
+  fs::rename(file, place, error);
+  if (error == std::errc::cross_device_link) error = MoveToOtherDisk(file, place);
+  if (error) {
+    std::error_code ignored;  // the first failure is the one to tell
+    fs::remove(file, ignored);
+  }
+  return error;
+}
+
 }  // namespace
 
 fs::path FileIn(const fs::path& folder, TextView name) {
@@ -70,12 +90,34 @@ fs::path KeptVersion(const fs::path& document, int age) {
 }
 
 std::error_code SaveDocument(const fs::path& document, std::string_view bytes) {
-  if (const auto old = ExistingFile(document)) {
-    std::error_code error = Keep(*old);
-    if (!error) fs::remove(*old, error);
-    if (error) return error;
-  }
-  return WriteBytes(document, bytes);
+  const auto old = ExistingFile(document);
+  std::error_code error = old ? Keep(*old) : std::error_code{};
+  if (!error) fs::create_directories(KeptVersion(document, 0).parent_path(), error);
+  // Whole before it takes the place of the old one, so that no moment is without the document.
+  const fs::path arriving = KeptVersion(document, 0);
+  if (!error) error = WriteBytes(arriving, bytes);
+  if (!error) error = PutInPlace(arriving, document);
+  if (error) return error;
+  // The old file under a name of other case.
+  if (old && *old != document) fs::remove(*old, error);
+  return error;
+}
+
+std::error_code DeleteDocument(const fs::path& document) {
+  if (!IsFile(document)) return std::make_error_code(std::errc::no_such_file_or_directory);
+  std::error_code error = Keep(document);
+  if (!error) fs::remove(document, error);
+  return error;
+}
+
+std::error_code RenameDocument(const fs::path& from, const fs::path& to) {
+  std::error_code error;
+  if (!IsFile(from)) return std::make_error_code(std::errc::no_such_file_or_directory);
+  const fs::path taken = ExistingFile(to).value_or(to);
+  if (fs::exists(taken, error) && !fs::equivalent(from, taken, error))
+    return std::make_error_code(std::errc::file_exists);
+  fs::rename(from, to, error);
+  return error == std::errc::cross_device_link ? MoveToOtherDisk(from, to) : error;
 }
 
 }  // namespace talvor

@@ -177,6 +177,25 @@ TEST_F(CommandLineTest, ReportsAndStatisticsComeFromTheSameRows) {
   EXPECT_NE(text.find("NON EMISE" + std::string(31, ' ') + "1  #\n"), std::string::npos) << text;
 }
 
+TEST_F(CommandLineTest, ADataFolderIsCopiedAndTakenBackEvenOverADamagedBase) {
+  Prepare();
+  ASSERT_EQ(Talvorctl({"--espace", "d", "capturer", "-"}, "Caissier\nSociété : Acmé\nfin\n").code, Done);
+  const std::string before = Talvorctl({"--espace", "d", "candidatures"}).out;
+  EXPECT_EQ(Talvorctl({"--espace", "d", "sauvegarder", "d/CV"}).code, Refused);
+  const Result saved = Talvorctl({"--espace", "d", "sauvegarder", "clé/sous-dossier"});
+  EXPECT_EQ(saved.code, Done) << saved.err;
+  EXPECT_NE(saved.out.find("sous-dossier/d\n"), std::string::npos) << saved.out;
+
+  std::ofstream{"d/Talvor.mdb"} << std::string(2000, 'x');
+  for (const char* given : {"clé/sous-dossier", "clé/sous-dossier/d"}) {
+    const Result restored = Talvorctl({"--espace", "d", "restaurer", given});
+    EXPECT_EQ(restored.code, Done) << restored.err;
+    EXPECT_EQ(Talvorctl({"--espace", "d", "candidatures"}).out, before);
+  }
+  EXPECT_EQ(Talvorctl({"--espace", "d", "restaurer", "clé"}).code, Refused);
+  EXPECT_EQ(Talvorctl({"--espace", "absent", "sauvegarder", "x"}).code, Refused);
+}
+
 TEST_F(CommandLineTest, ARowThatIsNotThereIsNamed) {
   Prepare();
   const Result result = Talvorctl({"--espace", "d", "candidature", "99999"});
@@ -185,8 +204,8 @@ TEST_F(CommandLineTest, ARowThatIsNotThereIsNamed) {
 }
 
 TEST_F(CommandLineTest, EveryCommandExplainsItselfInFrench) {
-  for (const char* command :
-       {"preparer", "analyser", "capturer", "candidatures", "candidature", "rapport", "statistiques"}) {
+  for (const char* command : {"preparer", "analyser", "capturer", "candidatures", "candidature", "rapport",
+                              "statistiques", "sauvegarder", "restaurer"}) {
     const Result help = Talvorctl({command, "--help"});
     EXPECT_EQ(help.code, Done);
     EXPECT_NE(help.out.find("Emploi : talvorctl " + std::string{command}), std::string::npos) << help.out;

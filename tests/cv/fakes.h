@@ -47,6 +47,7 @@ class FakePickers : public Pickers {
     asked = question;
     return file;
   }
+  std::optional<std::filesystem::path> SaveFile(const FileQuestion&) override { return std::nullopt; }
   std::optional<Colour> PickColour() override { return colour; }
 
   FileQuestion asked;

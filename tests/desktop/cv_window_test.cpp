@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QMenu>
+#include <QProcess>
 #include <QTcpServer>
 #include <QToolButton>
 #include <QWebEngineFindTextResult>
@@ -22,6 +23,9 @@ constexpr const char* Template =
     "<html><body style='font-family:Arial;color:#FF6600'><h1>#Prenom# #Nom#</h1><p>#Adresse1#</p><p>#CP# "
     "#Ville#</p><p>#Email#</p>#Photographie#P01<h2>Etudes</h2>#Etudes#P02#Formations#P03<h2>Parcours</h2>"
     "#Experiences#P04#Competences#P05#Langues#P06#Divers#P07</body></html>\r\n";
+
+// A printer rounds its colours.
+bool IsRed(QRgb pixel) { return qRed(pixel) > 240 && qGreen(pixel) < 16 && qBlue(pixel) < 16; }
 
 class CvWindowTest : public DesktopTest {
  protected:
@@ -208,6 +212,65 @@ TEST_F(CvWindowTest, ThePanelsTheGridAndTheMenusReachTheForm) {
   menu->close();
   EXPECT_EQ(Form().LangueCV, u"1");
   EXPECT_TRUE(failures.empty());
+}
+
+TEST_F(CvWindowTest, ThePageIsPrintedAndPreviewedWithItsPhotoOnA4) {
+  QImage red(20, 30, QImage::Format_RGB32);
+  red.fill(Qt::red);
+  ASSERT_TRUE(red.save(QString::fromStdString((Folder() / "Modeles/Julie.jpg").string()), "PNG"));
+  Write("CV/Julie.dat", "Nom=Marchand\r\nNomModele=Basic\r\nMod\xE8le=Basic.htm\r\nEtudes=Licence\r\n");
+  desktop->Cv().OpenFile(u"Julie.dat");
+  ASSERT_TRUE(SeesAtLast(QStringLiteral("Licence")));
+
+  desktop->Cv().makePrinter = [] { return nullptr; };
+  Click("Entree3");
+  auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+  ASSERT_NE(menu, nullptr);
+  auto* print = menu->findChild<QAction*>(QStringLiteral("ImprimerCV"));
+  menu->close();
+  print->trigger();
+  ASSERT_EQ(dialogs.told.size(), 1u) << "no printer: said, and nothing else happens";
+
+  // Both ways end in a PDF that readers of its own look into.
+  const auto read = [](const char* reader, const QStringList& arguments) {
+    QProcess process;
+    process.start(QString::fromUtf8(reader), arguments);
+    EXPECT_TRUE(process.waitForFinished() && process.exitCode() == 0) << reader;
+    return process.readAllStandardOutput();
+  };
+  const auto expectPhotoOnA4 = [&](const QString& file) {
+    EXPECT_TRUE(read("pdfinfo", {file}).contains("(A4)"));
+    EXPECT_TRUE(read("pdfinfo", {file}).contains("Pages:           1\n"));
+    read("pdftoppm",
+         {QStringLiteral("-png"), QStringLiteral("-singlefile"), file, QStringLiteral("feuille")});
+    const QImage sheet(QStringLiteral("feuille.png"));
+    int photo = 0;
+    for (int y = 0; y < sheet.height(); ++y)
+      for (int x = 0; x < sheet.width(); ++x) photo += IsRed(sheet.pixel(x, y));
+    EXPECT_GT(photo, 100 * 150) << "a picture of 100 pixels at 150 dots an inch is larger";
+  };
+  desktop->Cv().makePrinter = [] {
+    auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
+    printer->setOutputFormat(QPrinter::PdfFormat);
+    printer->setOutputFileName(QStringLiteral("papier.pdf"));
+    return printer;
+  };
+  bool printed = false;
+  QObject::connect(&Page(), &QWebEngineView::printFinished, [&](bool success) { printed = success; });
+  print->trigger();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return printed; }, Patience));
+  expectPhotoOnA4(QStringLiteral("papier.pdf"));
+
+  menu->findChild<QAction*>(QStringLiteral("PrévisualiserCV"))->trigger();
+  PrintPreviewWindow* preview = desktop->Cv().PreviewWindow();
+  ASSERT_TRUE(preview != nullptr && preview->isVisible());
+  ASSERT_TRUE(QTest::qWaitFor([&] { return preview->IsComplete(); }, Patience));
+  bool saved = false;
+  preview->SavePdf(QStringLiteral("apercu.pdf"), [&](bool stands) { saved = stands; });
+  ASSERT_TRUE(QTest::qWaitFor([&] { return saved; }, Patience));
+  expectPhotoOnA4(QStringLiteral("apercu.pdf"));
+  EXPECT_TRUE(read("pdftotext", {QStringLiteral("apercu.pdf"), QStringLiteral("-")}).contains("Licence"));
+  EXPECT_EQ(dialogs.told.size(), 1u);
 }
 
 TEST_F(CvWindowTest, EveryControlHasANameAndEveryMnemonicIsItsOwn) {

@@ -33,6 +33,9 @@ class DesktopTest : public testing::Test {
   DesktopTest() {
     environment.values[u"AppData"] = *FromUtf8(scratch.Path().string());
     InstallerDossier(scratch.Path() / "Talvor", {});
+    // The browser keeps its own folders there.
+    qputenv("XDG_DATA_HOME", QByteArray::fromStdString((scratch.Path() / "navigateur").string()));
+    qputenv("XDG_CACHE_HOME", QByteArray::fromStdString((scratch.Path() / "cache").string()));
     theme.Apply(Theme::Palette::Light);
     Restart();
   }

@@ -92,6 +92,7 @@ TEST_F(FormCandWindowTest, LinesAndNoBreakSpacesCrossTheEdgeUnharmed) {
 TEST_F(FormCandWindowTest, ARefusedSaveIsToldOnce) {
   Click("Action3");
   EXPECT_EQ(dialogs.told, (std::vector<Text>{Text{messages::TitleRequired}}));
+  EXPECT_TRUE(Find("Intitule")->property("invalid").toBool());
   SaveRow(QStringLiteral("Maçon"));
   auto* sent = Find<QLineEdit>("DateEnvoi");
   sent->setText(QStringLiteral("32/01/2026"));
@@ -100,6 +101,11 @@ TEST_F(FormCandWindowTest, ARefusedSaveIsToldOnce) {
   EXPECT_EQ(dialogs.told.size(), 2u);
   EXPECT_TRUE(sent->hasFocus());
   EXPECT_EQ(sent->text(), QStringLiteral("32/01/2026"));
+  EXPECT_FALSE(Find("Intitule")->property("invalid").toBool());
+  EXPECT_TRUE(sent->property("invalid").toBool());
+  EXPECT_EQ(sent->accessibleDescription(), ToQt(messages::BadDate));
+  sent->setText(QStringLiteral("3"));
+  EXPECT_FALSE(sent->property("invalid").toBool()) << "at fault until its text changes";
   EXPECT_EQ(Read(2).DateEnvoi, u"") << "the refused first save has lost its number";
 }
 

@@ -8,7 +8,6 @@
 #include <vector>
 
 #include "base/line_file.h"
-#include "platform/documents.h"
 #include "platform/mail_client.h"
 #include "platform/word_processor.h"
 
@@ -46,21 +45,6 @@ class FakeMailClient : public MailClient {
     steps.push_back(Text{name} + (value.empty() ? u"" : u" ") + Text{value});
     return !failing.contains(Text{name});
   }
-};
-
-class FakeDocuments : public Documents {
- public:
-  bool Open(TextView target) override {
-    opened.emplace_back(target);
-    return opens;
-  }
-  Text ProgramFor(TextView file) const override { return Contains(file, u"DocWord.doc") ? program : Text{}; }
-  std::vector<Text> WindowTitles() const override { return titles; }
-
-  bool opens = true;
-  Text program;
-  std::vector<Text> titles;
-  std::vector<Text> opened;
 };
 
 // Writes the bytes of the page and the name of the format, as a conversion of a kind.

@@ -189,7 +189,7 @@ TEST_F(ConversionTest, AnOpenWordProcessorIsAdvisedAgainstAtOpeningAndAtConverti
 }
 
 TEST_F(ConversionTest, ADocumentThatNothingOpensIsTold) {
-  documents.opens = false;
+  documents.answer = false;
   conversion.ConvertirWord();
   ASSERT_EQ(dialogs.told.size(), 1u);
   EXPECT_TRUE(Contains(dialogs.told[0], u"Dupont.doc"));

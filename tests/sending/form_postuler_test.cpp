@@ -79,16 +79,16 @@ class FormPostulerTest : public testing::Test {
   std::vector<Text> loadedCvs;
   Principale principale{shell};
   FormCand formCand{principale, clock, dialogs, shell, browser};
-  FormPostuler form{{principale,
-                     formCand,
-                     browser,
-                     clock,
-                     environment,
-                     dialogs,
-                     shell,
-                     mail,
-                     [this](TextView name) { loadedCvs.emplace_back(name); },
-                     {}}};
+  FormPostuler form{{.principale = principale,
+                     .formCand = [this]() -> FormCand& { return formCand; },
+                     .tags = [this] { return TextsOf(formCand); },
+                     .formCandBrowser = browser,
+                     .clock = clock,
+                     .environment = environment,
+                     .dialogs = dialogs,
+                     .shell = shell,
+                     .mail = mail,
+                     .chargerFichierCV = [this](TextView name) { loadedCvs.emplace_back(name); }}};
 };
 
 TEST_F(FormPostulerTest, TheLoadMergesTheFirstModelAndOverridesItsSubject) {

@@ -152,7 +152,7 @@ TEST_F(ShellTest, ASlotTellsItsNameKindAndCaption) {
 
 class HomePanelTest : public ShellTest {
  protected:
-  AssistantTexte panel{principale, shell};
+  AssistantTexte panel{principale, shell, dialogs};
 };
 
 TEST_F(HomePanelTest, CountsTheSlotsBeforeTheFreeOne) {
@@ -187,6 +187,19 @@ TEST_F(HomePanelTest, TitlesAreCommands) {
   principale.ImageMenu[0].toolTip = u"Julie.doc";
   panel.ChoixCV();
   EXPECT_EQ(panel.Label1[2], HomeRow{}) << "only a file of the editor is offered";
+}
+
+TEST_F(HomePanelTest, AttachingTheFirstCvIsAdvisedAgainst) {
+  int attached = 0;
+  panel.commands.rattacherCv = [&] { ++attached; };
+  principale.ImageMenu[0].picture = SlotPicture::ImageNew;
+  panel.Clic(u"Rattacher un CV existant");
+  ASSERT_EQ(dialogs.told.size(), 1u);
+  EXPECT_TRUE(Contains(dialogs.told[0], u"prégénération des courriers d'accompagnement"));
+  principale.ImageMenu[0].picture = SlotPicture::CVPDF;
+  panel.Clic(u"Rattacher un CV existant");
+  EXPECT_EQ(dialogs.told.size(), 1u);
+  EXPECT_EQ(attached, 2);
 }
 
 TEST_F(HomePanelTest, TheFirstCandidatureIsHelpedByAHint) {

@@ -1,4 +1,4 @@
-#include "desktop/report_preview.h"
+#include "desktop/print_preview.h"
 
 #include <QFileDialog>
 #include <QMessageBox>
@@ -11,21 +11,22 @@
 
 #include "desktop/bouton_tlv.h"
 #include "desktop/pane.h"
-#include "desktop/sealed_page.h"
 #include "desktop/text_edge.h"
 
 namespace talvor {
 
-ReportWindow::ReportWindow(const Theme& theme, QWidget* parent)
+PrintPreviewWindow::PrintPreviewWindow(const Theme& theme, PrintedPage page, QWidget* parent)
     : QDialog(parent),
+      printed_(std::move(page)),
       view_(new QWebEngineView(this)),
       progress_(new QProgressBar(this)),
       printer_(QPrinter::HighResolution) {
   setObjectName(QStringLiteral("AperçuImpression"));
   setWindowTitle(tr("Aperçu avant impression"));
-  printer_.setPageSize(QPageSize(QPageSize::A4));
-  printer_.setPageOrientation(QPageLayout::Landscape);
-  view_->setPage(new SealedPage(view_));
+  setAttribute(Qt::WA_DeleteOnClose);
+  printer_.setPageLayout(printed_.layout);
+  auto* sealed = new SealedPage(printed_.reach, view_);
+  view_->setPage(sealed);
   view_->setContextMenuPolicy(Qt::NoContextMenu);
   progress_->setTextVisible(false);
   progress_->setFixedHeight(3);
@@ -46,9 +47,10 @@ ReportWindow::ReportWindow(const Theme& theme, QWidget* parent)
   column->addWidget(progress_);
   column->addWidget(view_, 1);
   resize(980, 680);
+  sealed->ShowFile(printed_.file);
 }
 
-QLayout* ReportWindow::MakeTools(const Theme& theme) {
+QLayout* PrintPreviewWindow::MakeTools(const Theme& theme) {
   auto* tools = new QHBoxLayout;
   tools->setContentsMargins(12, 8, 12, 8);
   tools->setSpacing(8);
@@ -73,38 +75,31 @@ QLayout* ReportWindow::MakeTools(const Theme& theme) {
   return tools;
 }
 
-void ReportWindow::LoadReport(const QUrl& file) {
-  complete_ = false;
-  progress_->setVisible(true);
-  static_cast<SealedPage*>(view_->page())->LoadFile(file);
-}
-
-void ReportWindow::Print() {
+void PrintPreviewWindow::Print() {
   QPrintDialog dialog(&printer_, this);
   if (dialog.exec() == QDialog::Accepted) view_->print(&printer_);
 }
 
-void ReportWindow::SetUpPage() { QPageSetupDialog(&printer_, this).exec(); }
+void PrintPreviewWindow::SetUpPage() { QPageSetupDialog(&printer_, this).exec(); }
 
-void ReportWindow::Zoom(qreal factor) {
+void PrintPreviewWindow::Zoom(qreal factor) {
   constexpr qreal Smallest = 0.3;
   constexpr qreal Largest = 3;
   view_->setZoomFactor(qBound(Smallest, view_->zoomFactor() * factor, Largest));
 }
 
-void ReportWindow::Tell(const QString& text) { QMessageBox::warning(this, windowTitle(), text); }
+void PrintPreviewWindow::Tell(const QString& text) { QMessageBox::warning(this, windowTitle(), text); }
 
-void ReportWindow::AskForPdf() {
-  const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-  const QString file = QFileDialog::getSaveFileName(
-      this, tr("Enregistrer en PDF"), folder + QStringLiteral("/Talvor.pdf"), tr("Documents PDF (*.pdf)"));
+void PrintPreviewWindow::AskForPdf() {
+  const QString file =
+      QFileDialog::getSaveFileName(this, tr("Enregistrer en PDF"), printed_.pdf, tr("Documents PDF (*.pdf)"));
   if (file.isEmpty()) return;
   SavePdf(file, [this, file](bool saved) {
     if (!saved) Tell(tr("Le fichier « %1 » n’a pas pu être écrit.").arg(file));
   });
 }
 
-void ReportWindow::SavePdf(const QString& file, const std::function<void(bool)>& done) {
+void PrintPreviewWindow::SavePdf(const QString& file, const std::function<void(bool)>& done) {
   // One connection an order: the page answers each of them once.
   auto* const page = view_->page();
   connect(
@@ -115,9 +110,16 @@ void ReportWindow::SavePdf(const QString& file, const std::function<void(bool)>&
 
 void QtPagePreview::Navigate(TextView address) {
   delete window_.data();
-  window_ = new ReportWindow(theme_, frame_);
-  window_->setAttribute(Qt::WA_DeleteOnClose);
-  window_->LoadReport(QUrl(ToQt(address)));
+  const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  QPageLayout layout = QPrinter(QPrinter::HighResolution).pageLayout();
+  layout.setPageSize(QPageSize(QPageSize::A4));
+  layout.setOrientation(QPageLayout::Landscape);
+  window_ = new PrintPreviewWindow(theme_,
+                                   {.file = QUrl(ToQt(address)),
+                                    .reach = Reach::File,
+                                    .layout = layout,
+                                    .pdf = folder + QStringLiteral("/Talvor.pdf")},
+                                   frame_);
 }
 
 void QtPagePreview::Preview() {

@@ -1,11 +1,13 @@
-// The preview of a printed report: the real part of `PagePreview`.
+// A page before it goes to the printer: the preview of the reports and of the CV.
 #pragma once
 
 #include <QDialog>
 #include <QPointer>
 #include <QPrinter>
-#include <memory>
+#include <QUrl>
+#include <functional>
 
+#include "desktop/sealed_page.h"
 #include "desktop/theme.h"
 #include "platform/page_preview.h"
 
@@ -14,18 +16,23 @@ class QWebEngineView;
 
 namespace talvor {
 
-class SealedPage;
+// What is printed, and how it lies on the sheet until the user says otherwise.
+struct PrintedPage {
+  QUrl file;
+  Reach reach = Reach::File;
+  QPageLayout layout;
+  QString pdf;  // proposed when the page is kept as PDF: the path of a file
+};
 
-// The window: the report as it prints, with print, page set-up, zoom and PDF.
-class ReportWindow : public QDialog {
+// The window: the page as it prints, with print, page set-up, zoom and PDF.
+class PrintPreviewWindow : public QDialog {
  public:
-  ReportWindow(const Theme& theme, QWidget* parent);
+  PrintPreviewWindow(const Theme& theme, PrintedPage page, QWidget* parent);
 
-  void LoadReport(const QUrl& file);
   [[nodiscard]] bool IsComplete() const { return complete_; }
   [[nodiscard]] QWebEngineView& View() { return *view_; }
 
-  // Writes the report to a PDF file; `done` hears whether it stands.
+  // Writes the page to a PDF file; `done` hears whether it stands.
   void SavePdf(const QString& file, const std::function<void(bool)>& done);
 
  private:
@@ -36,18 +43,20 @@ class ReportWindow : public QDialog {
   void Zoom(qreal factor);
   void Tell(const QString& text);
 
+  PrintedPage printed_;
   QWebEngineView* view_;
   QProgressBar* progress_;
   QPrinter printer_;
   bool complete_ = false;
 };
 
+// The preview of the reports: the real part of `PagePreview`.
 class QtPagePreview : public PagePreview {
  public:
   explicit QtPagePreview(const Theme& theme) : theme_(theme) {}
   void SetFrame(QWidget* frame) { frame_ = frame; }
   // The window of the last report, or null once it is closed.
-  [[nodiscard]] ReportWindow* Window() const { return window_; }
+  [[nodiscard]] PrintPreviewWindow* Window() const { return window_; }
 
   void Navigate(TextView address) override;
   [[nodiscard]] bool IsComplete() const override { return window_ && window_->IsComplete(); }
@@ -56,7 +65,7 @@ class QtPagePreview : public PagePreview {
  private:
   const Theme& theme_;
   QPointer<QWidget> frame_;
-  QPointer<ReportWindow> window_;
+  QPointer<PrintPreviewWindow> window_;
 };
 
 }  // namespace talvor

@@ -1,0 +1,102 @@
+// `FormCand`: the browser pane, its directory of sites, and the prefill of web forms.
+
+#include "ads/form_cand_web.h"
+#include "ads/prefill.h"
+
+namespace talvor {
+
+FormCandWeb::FormCandWeb(FormCand& form, FormCandCapture& capture, const Surroundings& around)
+    : form_(form),
+      capture_(capture),
+      principale_(around.principale),
+      dialogs_(around.dialogs),
+      shell_(around.shell),
+      browser_(around.browser),
+      clipboard_(around.clipboard),
+      documents_(around.documents) {}
+
+void FormCandWeb::Charger() { Sites.Charger(); }
+
+void FormCandWeb::Fermer() { closed_ = true; }
+
+void FormCandWeb::Changed() const {
+  if (OnChange) OnChange();
+}
+
+void FormCandWeb::EntrerAdresseWeb() { browser_.Navigate(form_.AdresseWeb); }
+
+void FormCandWeb::ClicAdresseWeb() { List1Visible = false; }
+
+void FormCandWeb::ClicGo() { browser_.Navigate(form_.AdresseWeb); }
+
+void FormCandWeb::ClicSuivant() { browser_.GoForward(); }
+
+void FormCandWeb::ClicPrecedent() { browser_.GoBack(); }
+
+void FormCandWeb::ClicImage4() {
+  form_.AdresseWeb = principale_.AdresseWeb;
+  browser_.Navigate(form_.AdresseWeb);
+}
+
+void FormCandWeb::ClicImage5() { DeplacerFrameWeb(StripOpen); }
+
+void FormCandWeb::ClicImage6() {
+  List1Visible = !List1Visible;
+  shell_.Focus(u"FormCand", u"AdresseWeb");
+}
+
+void FormCandWeb::ClicList1(std::size_t row) {
+  if (row < Sites.List1.size()) {
+    // A row with a "/" and no "http" leaves the address that stands.
+    const Text address = SiteDirectory::AddressOf(Sites.List1[row]);
+    if (!address.empty()) form_.AdresseWeb = address;
+    List1Visible = false;
+  }
+  browser_.Navigate(form_.AdresseWeb);
+}
+
+void FormCandWeb::QuitterList1() { List1Visible = false; }
+
+void FormCandWeb::ClicWww() {
+  form_.CadreWebVisible = true;
+  form_.AdresseWeb = form_.www;
+  browser_.Navigate(form_.AdresseWeb);
+}
+
+void FormCandWeb::Arreter() {
+  stopped_ = true;
+  browser_.Stop();
+}
+
+std::error_code FormCandWeb::MajListeSites() {
+  shell_.PumpEvents();
+  browser_.Navigate(principale_.AdresseWeb + u"listesites.htm");
+  if (!AttendrePage()) return {};
+  return SiteDirectory::MajListeSites(browser_.BodyText(DocumentBrowser::Whole));
+}
+
+ApplyTexts FormCandWeb::Postuler() const {
+  const bool shown = shell_.FormeVisible(u"FormPostuler");
+  return shown && FormPostuler ? FormPostuler() : ApplyTexts{};
+}
+
+void FormCandWeb::ClicLabel2() {
+  const PrefillValues values = PrefillValuesOf(principale_, Postuler().Texte);
+  // The list begins with the root of the page at 0; the walk begins behind it.
+  const std::vector<PageElement> elements = browser_.Elements(PrefillElements + 1);
+  std::vector<ElementValue> orders;
+  for (std::size_t i = 1; i < elements.size(); ++i)
+    if (const Text* value = PrefillValue(values, elements[i].name, elements[i].id))
+      orders.push_back({i, *value});
+  browser_.SetValues(orders);
+}
+
+void FormCandWeb::PreremplirFormulaireConnu() {
+  if (!shell_.FormeVisible(u"FormPostuler")) return;
+  const ApplyTexts texts = Postuler();
+  browser_.SetNamedValue(u"EmailCV", texts.Email);
+  browser_.SetNamedValue(u"expediteur", texts.Email);
+  browser_.SetNamedValue(u"message", texts.Texte);
+}
+
+}  // namespace talvor

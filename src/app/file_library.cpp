@@ -1,0 +1,263 @@
+#include "app/file_library.h"
+
+#include <array>
+#include <optional>
+#include <span>
+
+#include "app/file_error.h"
+#include "app/menu_trees.h"
+#include "base/line_file.h"
+#include "cv/editor.h"
+#include "letters/form_lettre.h"
+#include "workspace/document_keeping.h"
+#include "workspace/systeme.h"
+
+namespace talvor {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr TextView BetterWriteOne =
+    u"INFORMATION : Pour profiter pleinement de toutes les fonctionnalités de Talvor, génération automatique "
+    u"des courriers et préremplissage automatique des formulaires, il est préférable de rédiger un nouveau "
+    u"CV à l'aide de l'assistant, éventuellement en effectuant des Copier/Coller du CV que vous possédez "
+    u"déjà.";
+// The label and the pattern spell one kind in two ways.
+constexpr TextView CvFilter =
+    u"Fichiers CV (*.Doc,*.docx,*.rtf,*.pdf,*.sxw)|*.doc;*.rtf;*.docx;*.pdf;*.swx;*.odt|Tous (*.*)|*.*";
+constexpr TextView CopyPrefix = u"Copie de ";
+constexpr TextView Photo = u".jpg";
+
+struct Renaming {
+  fs::path from;
+  fs::path to;
+};
+
+// All of them or none: what was renamed before a failure gets its old name back.
+void RenameAll(std::span<const Renaming> renamings) {
+  for (std::size_t i = 0; i < renamings.size(); ++i) {
+    const std::error_code failure = RenameDocument(renamings[i].from, renamings[i].to);
+    if (!failure) continue;
+    const Renaming& failed = renamings[i];
+    while (i-- > 0)
+      if (const auto stuck = RenameDocument(renamings[i].to, renamings[i].from))
+        throw FileError(renamings[i].to, u"n’a pas pu reprendre son ancien nom", stuck);
+    throw FileError(failed.from,
+                    u"n’a pas pu devenir «\u00A0" + TextOf(failed.to).value_or(Text{}) + u"\u00A0»", failure);
+  }
+}
+
+void CopyDocument(const fs::path& from, const fs::path& to) {
+  const auto bytes = ReadBytes(from);
+  const auto failure = bytes ? SaveDocument(to, *bytes) : std::make_error_code(std::errc::io_error);
+  if (failure) throw FileError(from, u"n’a pas pu être copié", failure);
+}
+
+void Delete(const fs::path& document) {
+  if (const auto failure = DeleteDocument(document))
+    throw FileError(document, u"n’a pas pu être supprimé", failure);
+}
+
+Text LastCharacters(const Text& name, std::size_t count) {
+  return name.size() <= count ? name : name.substr(name.size() - count);
+}
+
+// The renaming of a photo along with its CV, if it has one.
+std::optional<Renaming> RenamingOfPhoto(const Text& oldName, const Text& chosen) {
+  constexpr std::size_t Ending = 4;
+  const Text stem = oldName.substr(0, oldName.size() < Ending ? 0 : oldName.size() - Ending);
+  const auto photo = ExistingFile(FileIn(workspace_paths::ModelFolder(), stem + Text{Photo}));
+  if (!photo) return std::nullopt;
+  return Renaming{*photo, PathOf(ReplaceAll(chosen, u"/CV/", u"/Modeles/") + Text{Photo})};
+}
+
+}  // namespace
+
+FileLibrary::FileLibrary(Surroundings surroundings) : around_(surroundings) {}
+
+const MenuSlot& FileLibrary::Slot() const {
+  const auto index =
+      static_cast<std::size_t>(around_.principale.IndexMenu < 0 ? 0 : around_.principale.IndexMenu);
+  return around_.principale.ImageMenu[index];
+}
+
+Text FileLibrary::Name() const { return Slot().toolTip; }
+
+void FileLibrary::ClicSlot(std::size_t slot) {
+  EnableSlotMenu(around_.menus, around_.principale, slot, around_.shell.FormeVisible(EditorForm),
+                 around_.environment);
+  around_.principale.IndexMenu = static_cast<std::int16_t>(slot);
+  around_.menus.Open(MenuOfSlot(slot));
+}
+
+void FileLibrary::DoubleClicSlot(std::size_t slot) {
+  around_.principale.IndexMenu = static_cast<std::int16_t>(slot);
+  const Text name = Name();
+  if (slot == Principale::CandidatureSlot) {
+    around_.shell.Load(u"FormCand");
+    return around_.shell.Show(u"FormCand");
+  }
+  if (slot >= Principale::FirstLetterSlot) return name.empty() ? MenuRédigerLettre() : MenuOuvrirLettre();
+  if (name.empty()) return MenuNouveauCV();
+  // The editor takes the file whatever its extension is.
+  if (ways.ouvrirCV) ways.ouvrirCV(name);
+}
+
+bool FileLibrary::Choisir(TextView item) {
+  struct Action {
+    TextView item;
+    void (FileLibrary::*run)();
+  };
+  static constexpr std::array<Action, 16> Actions{{
+      {u"MenuNouveauCV", &FileLibrary::MenuNouveauCV},
+      {u"MenuRattacherCV", &FileLibrary::MenuRattacherCV},
+      {u"MenuOuvrirCV", &FileLibrary::MenuOuvrirCV},
+      {u"MenuSupprimerCV", &FileLibrary::MenuSupprimerCV},
+      {u"Renommer", &FileLibrary::Renommer},
+      {u"MenuDupliquerCV", &FileLibrary::MenuDupliquerCV},
+      {u"MenuConvertirCV", &FileLibrary::MenuConvertirCV},
+      {u"MenuOuvrirWord", &FileLibrary::MenuOuvrirWord},
+      {u"MenuImprimerCV", &FileLibrary::MenuImprimerCV},
+      {u"MenuEnvoyerAmi", &FileLibrary::MenuEnvoyerAmi},
+      {u"MenuEnvoyerRecruteur", &FileLibrary::MenuEnvoyerRecruteur},
+      {u"MenuRédigerLettre", &FileLibrary::MenuRédigerLettre},
+      {u"MenuOuvrirLettre", &FileLibrary::MenuOuvrirLettre},
+      {u"MenuDuppliquerLettre", &FileLibrary::MenuDuppliquerLettre},
+      {u"RenommerLettre", &FileLibrary::RenommerLettre},
+      {u"MenuSupprimerLettre", &FileLibrary::MenuSupprimerLettre},
+  }};
+  for (const Action& action : Actions)
+    if (action.item == item) {
+      (this->*action.run)();
+      return true;
+    }
+  return false;
+}
+
+void FileLibrary::MenuNouveauCV() {
+  around_.shell.Unload(EditorForm);
+  around_.shell.Show(EditorForm);
+}
+
+void FileLibrary::MenuRattacherCV() {
+  if (around_.principale.ImageMenu[0].picture == SlotPicture::ImageNew) around_.dialogs.Tell(BetterWriteOne);
+  RattacherCV();
+}
+
+void FileLibrary::RattacherCV() {
+  const auto chosen = around_.pickers.OpenFile({.title = u"Sélection d'un CV",
+                                                .folder = PathOf(around_.environment.Variable(u"homepath")),
+                                                .filter = Text{CvFilter},
+                                                .name = {}});
+  if (chosen) {
+    fs::path copy = workspace_paths::CvFolder();
+    copy /= chosen->filename();
+    CopyDocument(*chosen, copy);
+  }
+  around_.principale.InitMenu();
+}
+
+void FileLibrary::MenuOuvrirCV() {
+  const Text name = Name();
+  if (!Contains(name, u".dat"))
+    OuvrirDocument(TextOf(FileIn(workspace_paths::CvFolder(), name)).value_or(Text{}), around_.documents,
+                   around_.dialogs);
+  else if (ways.ouvrirCV)
+    ways.ouvrirCV(name);
+}
+
+void FileLibrary::MenuSupprimerCV() { SupprimerCV(static_cast<std::size_t>(around_.principale.IndexMenu)); }
+
+void FileLibrary::SupprimerCV(std::size_t index) {
+  FileList& list = around_.principale.File1;
+  list.Point(workspace_paths::CvFolder());
+  const Text name = list.List(index);
+  if (!around_.dialogs.Confirm(u"Confirmez-vous la suppression du CV : " + name + u" ?")) return;
+  Delete(FileIn(workspace_paths::CvFolder(), name));
+  MenuNouveauCV();
+  around_.principale.InitMenu();
+}
+
+std::optional<Text> FileLibrary::AskNewName(const fs::path& folder) const {
+  const auto chosen = around_.pickers.SaveFile(
+      {.title = u"Saisie d'un nouveau nom", .folder = folder, .filter = u"*.*", .name = {}});
+  const auto path = chosen ? TextOf(*chosen) : std::nullopt;
+  return path && !path->empty() ? path : std::nullopt;
+}
+
+void FileLibrary::Renommer() {
+  const Text oldName = Name();
+  const fs::path file = FileIn(workspace_paths::CvFolder(), oldName);
+  const auto answer = AskNewName(workspace_paths::CvFolder());
+  if (!answer) return;
+  if (UpperCase(oldName).ends_with(u"DOCX")) {
+    // The photo keeps its old name here.
+    const Renaming alone{file, PathOf(*answer + LastCharacters(oldName, 5))};
+    RenameAll({&alone, 1});
+  } else {
+    // An extension goes wherever it stands in the path; one of another kind, .rtf say, stays and doubles.
+    Text chosen = *answer;
+    for (const TextView extension : {u".dat", u".doc", u".pdf"}) chosen = ReplaceAll(chosen, extension, u"");
+    const Renaming cv{file, PathOf(chosen + LastCharacters(oldName, 4))};
+    const std::array both{cv, RenamingOfPhoto(oldName, chosen).value_or(Renaming{})};
+    RenameAll({both.data(), both[1].from.empty() ? 1u : 2u});
+  }
+  AfterRenaming(EditorForm);
+}
+
+void FileLibrary::RenommerLettre() {
+  const Text oldName = Name();
+  const auto chosen = AskNewName(workspace_paths::LetterFolder());
+  if (!chosen) return;
+  const Renaming alone{FileIn(workspace_paths::LetterFolder(), oldName),
+                       PathOf(*chosen + LastCharacters(oldName, 4))};
+  RenameAll({&alone, 1});
+  AfterRenaming(LetterForm);
+}
+
+void FileLibrary::AfterRenaming(TextView form) {
+  around_.shell.Unload(form);
+  around_.shell.Load(form);
+  around_.principale.InitMenu();
+  if (ways.viderInformation) ways.viderInformation();
+}
+
+// A second copy of the same file replaces the first one, which stays among the kept versions.
+void FileLibrary::Dupliquer(const fs::path& folder) {
+  CopyDocument(FileIn(folder, Name()), FileIn(folder, Text{CopyPrefix} + Name()));
+  around_.principale.InitMenu();
+}
+
+void FileLibrary::MenuDupliquerCV() { Dupliquer(workspace_paths::CvFolder()); }
+void FileLibrary::MenuDuppliquerLettre() { Dupliquer(workspace_paths::LetterFolder()); }
+
+void FileLibrary::MenuConvertirCV() { around_.shell.Show(u"FormConvert"); }
+
+void FileLibrary::MenuOuvrirWord() {
+  OuvrirDocument(LastWordVersion(Name(), around_.environment), around_.documents, around_.dialogs);
+}
+
+void FileLibrary::MenuImprimerCV() {
+  if (ways.imprimerCV) ways.imprimerCV();
+}
+
+void FileLibrary::MenuRédigerLettre() {
+  if (ways.nouvelleLettre) ways.nouvelleLettre();
+}
+
+void FileLibrary::MenuOuvrirLettre() {
+  if (ways.ouvrirLettre) ways.ouvrirLettre(Name());
+}
+
+void FileLibrary::MenuSupprimerLettre() {
+  const Text name = Name();
+  if (!around_.dialogs.Confirm(u"Confirmez-vous la suppression du modèle de lettre " + name + u" ?")) return;
+  Delete(FileIn(workspace_paths::LetterFolder(), name));
+  if (!around_.shell.FormeVisible(LetterForm)) {
+    around_.shell.Unload(u"AssistantTexte");
+    around_.shell.Load(u"AssistantTexte");
+  }
+  around_.principale.InitMenu();
+}
+
+}  // namespace talvor

@@ -1,0 +1,14 @@
+// What a failure of the file system says to the user.
+#pragma once
+
+#include <system_error>
+
+#include "base/text.h"
+
+namespace talvor {
+
+// The cause of a failure in French, without a capital and without a full stop: «l’accès est refusé».
+// One that has no words of its own is told by its number.
+[[nodiscard]] Text CauseOf(const std::error_code& failure);
+
+}  // namespace talvor
