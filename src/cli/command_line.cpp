@@ -200,6 +200,10 @@ class CommandLine {
     render->add_option("fichier", render_.file, "CV de Talvor")->type_name("F.dat")->required();
     render->add_option("--modele", render_.model, "Modèle de la page")->type_name("M.htm")->required();
     render->add_flag("--photo", render_.photo, "Met la photo Photo.jpg à sa place");
+    CLI::App* convert = Add(*cv, "convertir", "Écrit un CV en .doc, .docx, .odt ou .pdf",
+                            [this] { return ConvertirCv(workspace_, convert_, console_); });
+    convert->add_option("fichier", convert_.file, "CV de Talvor")->type_name("F.dat")->required();
+    convert->add_option("--vers", convert_.target, "Document à écrire")->type_name("DOCUMENT")->required();
     CLI::App* identity = Add(*cv, "identite", "Donne en JSON les champs d’un bloc d’identité",
                              [this] { return IdentiteCv(identity_, console_); });
     identity->add_option("fichier", identity_, "Texte UTF-8 du bloc, « - » pour l’entrée standard")
@@ -235,6 +239,7 @@ class CommandLine {
   std::int32_t num_ = 0;
   std::string report_;
   RenderOptions render_;
+  ConvertOptions convert_;
   std::string identity_;
   std::string folder_;
 };

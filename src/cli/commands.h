@@ -3,11 +3,13 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "cli/console.h"
+#include "cv/cv_document.h"
 
 namespace talvor::cli {
 
@@ -70,6 +72,9 @@ struct MergeOptions {
 // Merges a letter model with a candidature; `Texte`, `Email` and `Objet` as a JSON object.
 ExitCode LettreFusionner(const MergeOptions& options, Console& console);
 
+// The CV of a file, under the name of that file; throws CommandError when it cannot be read.
+[[nodiscard]] CvDocument CvOf(const std::filesystem::path& file);
+
 struct RenderOptions {
   std::string file;
   std::string model;
@@ -79,6 +84,15 @@ struct RenderOptions {
 // The page of a CV as UTF-8, its lines ended by CR LF, whatever character set the template declares.
 // The language grid is summed up anew, and the CV bears the name of its file.
 ExitCode RendreCv(const RenderOptions& options, Console& console);
+
+struct ConvertOptions {
+  std::string file;
+  std::string target;  // its ending tells the format
+};
+
+// Writes a CV as a document for a word processor or as PDF, over one of that name; prints its path.
+// Template and photo come from the data folder given by --espace, or else from the one of the CV.
+ExitCode ConvertirCv(const std::string& workspace, const ConvertOptions& options, Console& console);
 
 // The eleven fields of a pasted identity block as a JSON object, empty where no line fills them.
 ExitCode IdentiteCv(const std::string& file, Console& console);

@@ -28,6 +28,8 @@ constexpr FieldTable<CvDocument, 11> ParsedFields{{
     {u"DateNaissance", &CvDocument::DateNaissance},
 }};
 
+}  // namespace
+
 CvDocument CvOf(const fs::path& file) {
   CvDocument cv;
   if (!ReadCv(file, cv)) throw CommandError("le CV « " + file.string() + " » est introuvable ou illisible");
@@ -35,8 +37,6 @@ CvDocument CvOf(const fs::path& file) {
   cv.NomCV = TextOf(file.stem()).value_or(cv.NomCV);
   return cv;
 }
-
-}  // namespace
 
 ExitCode RendreCv(const RenderOptions& options, Console& console) {
   CvDocument cv = CvOf(options.file);

@@ -324,6 +324,35 @@ void PhotographSmallForms(Desktop& desktop, const Theme& theme, Photographer pho
   photographer.Take(u"a-propos", &about);
 }
 
+void PhotographSending(Desktop& desktop, Photographer photographer) {
+  QtShell& shell = desktop.Windows();
+  std::ofstream("Lettres/Julie Marchand (ER).dat")
+      << "Nom=Marchand\r\nPr\xE9nom=Julie\r\nEmail=julie.marchand@mail.example\r\nText1=#Titre# "
+         "#NomContact#,<N><N>"
+         "Votre annonce parue sur #Origine# a retenu toute mon attention et je vous propose ma candidature "
+         "au "
+         "poste de #Intitule#.<N>Je vous prie d'agr\xE9"
+         "er, #Titre#, l'expression de mes salutations distingu\xE9"
+         "es.\r\n";
+  Text address;
+  shell.Show(ApplyForm);
+  QWidget* window = shell.WindowOf(ApplyForm);
+  photographer.Take(u"postuler", window);
+  shell.Unload(ApplyForm);
+  std::swap(desktop.Candidatures().Email, address);
+  shell.Show(ApplyForm);
+  window = shell.WindowOf(ApplyForm);
+  window->resize(window->minimumSize());
+  photographer.Take(u"postuler-petit", window);
+  std::swap(desktop.Candidatures().Email, address);
+  shell.Unload(ApplyForm);
+  desktop.Cv().OpenFile(u"Marchand Julie.dat");
+  shell.Show(ConvertForm);
+  photographer.Take(u"convertir", shell.WindowOf(ConvertForm));
+  shell.Unload(ConvertForm);
+  shell.Unload(EditorForm);
+}
+
 void PhotographForms(Desktop& desktop, const Theme& theme, Photographer photographer) {
   QtShell& shell = desktop.Windows();
   constexpr int UntilTheRowsStand = 250;
@@ -345,6 +374,7 @@ void PhotographForms(Desktop& desktop, const Theme& theme, Photographer photogra
   desktop.Main().resize(1280, 800);
   PhotographBrowser(desktop, photographer);
   PhotographLetters(desktop, photographer);
+  PhotographSending(desktop, photographer);
   shell.Show(u"FormStat");
   photographer.Take(u"statistiques", shell.WindowOf(u"FormStat"));
   shell.Unload(u"FormStat");

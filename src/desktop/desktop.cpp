@@ -65,6 +65,11 @@ void Desktop::MakeFormCand() {
   candidatures_ = std::make_shared<CandidatureModels>(principale_, clock_, dialogs_, shell_, browser_,
                                                       clipboard_, documents_);
   formCand_ = &candidatures_->form;
+  candidatures_->web.FormPostuler = [this] {
+    const FormPostuler* form = sending_->Apply();
+    return form == nullptr ? ApplyTexts{} : ApplyTexts{form->Email, form->Texte};
+  };
+  formCand_->OuvrirPostuler = [this](const ApplyRequest& request) { sending_->OpenFromFormCand(request); };
 }
 
 FormCandWeb& Desktop::Web() { return candidatures_->web; }
@@ -81,6 +86,7 @@ void Desktop::RegisterForms() {
   RegisterLetters();
   RegisterReports();
   RegisterCv();
+  RegisterSending();
   RegisterGuide();
   RegisterSplash();
   RegisterLibrary();
@@ -153,7 +159,7 @@ void Desktop::RegisterCandidatureMenus() {
   };
   ways.consulterInternet = inWindow([](CandidatureModels& cand) { cand.web.ClicWww(); });
   ways.consulterOrigine = inWindow([](CandidatureModels& cand) { cand.web.ConsulterOrigine(); });
-  ways.postuler = inWindow([](CandidatureModels& cand) { cand.form.ClicPicturePostuler(); });
+  ways.postuler = [this] { sending_->OpenFromMenu(); };
   ways.supprimerCand = inWindow([](CandidatureModels& cand) { cand.form.MenuSupprimerCand(); });
 }
 
@@ -179,6 +185,8 @@ void Desktop::CloseDocuments() {
   if (cv_.Window() != nullptr && !cv_.Form().Nom.empty()) cv_.Form().SauvegarderCV();
   shell_.Unload(EditorForm);
   shell_.Unload(LetterForm);
+  shell_.Unload(ApplyForm);
+  shell_.Unload(ConvertForm);
   if (!formCandWindow_) return;
   formCandWindow_->Tick3000();
   // A candidature that has no row yet waits for one in the new data; the list closes its handle.
@@ -288,6 +296,30 @@ void Desktop::RegisterCv() {
   assistantTexte_.commands.ouvrirCv = [this](TextView file) { cv_.OpenFile(file); };
 }
 
+void Desktop::RegisterSending() {
+  sending_.emplace(SendingDesk::Program{.principale = principale_,
+                                        .formCand = [this]() -> FormCand& { return *formCand_; },
+                                        .tags =
+                                            [this] {
+                                              CandidatureTexts texts = TextsOf(*formCand_);
+                                              texts.Text1 = candidatures_->web.Text1;
+                                              return texts;
+                                            },
+                                        .browser = browser_,
+                                        .cv = cv_,
+                                        .shell = shell_,
+                                        .theme = theme_,
+                                        .environment = environment_,
+                                        .clock = clock_,
+                                        .dialogs = dialogs_});
+  sending_->Register();
+  // A send changes the candidature that its form shows.
+  sending_->OnActed = [this] {
+    if (formCandWindow_) formCandWindow_->Do([] {});
+    RefreshMain();
+  };
+}
+
 void Desktop::RegisterGuide() {
   shell_.Register(u"Guide", {.place = QtShell::Place::Over,
                              .make = [this](QWidget* parent) -> QWidget* {
@@ -351,6 +383,7 @@ void Desktop::Stop() {
   if (formCandWindow_) formCandWindow_->StopTimers();
   if (letterWindow_) letterWindow_->StopTimer();
   formLettre_.Timer1();
+  sending_->StopTimer();
   main_->setEnabled(false);
 }
 

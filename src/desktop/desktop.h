@@ -17,6 +17,7 @@
 #include "desktop/qt_clipboard.h"
 #include "desktop/qt_dialogs.h"
 #include "desktop/qt_documents.h"
+#include "desktop/sending_desk.h"
 #include "desktop/splash.h"
 #include "desktop/web_browser.h"
 #include "platform/environment.h"
@@ -56,6 +57,7 @@ class Desktop {
   [[nodiscard]] CvDesk& Cv() { return cv_; }
   [[nodiscard]] LibraryDesk& Library() { return library_; }
   [[nodiscard]] FormLoadSave& Backup() { return backup_; }
+  [[nodiscard]] SendingDesk& Sending() { return *sending_; }
   // The window of the candidatures, or null.
   [[nodiscard]] FormCandWindow* CandidatureWindow() const { return formCandWindow_; }
   // The window of the letters, or null.
@@ -77,6 +79,7 @@ class Desktop {
   void OpenLetter(TextView file);
   void RegisterReports();
   void RegisterCv();
+  void RegisterSending();
   void RegisterGuide();
   void RegisterSplash();
   void RefreshMain();
@@ -110,6 +113,7 @@ class Desktop {
   FormLoadSave backup_;
   Assistant assistant_{assistantTexte_, shell_};
   MiseEnPage miseEnPage_{shell_, dialogs_};
+  std::optional<SendingDesk> sending_;
 
   std::unique_ptr<MainWindow> main_;
   QPointer<FormCandWindow> formCandWindow_;

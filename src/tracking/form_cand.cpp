@@ -107,6 +107,9 @@ void FormCand::Action(std::size_t index) {
     case 1:
       Supprimer();
       break;
+    case 2:  // no label bears it
+      shell_.Show(u"FormPostuler");
+      break;
     case 3:
       Valider();
       break;
@@ -114,7 +117,7 @@ void FormCand::Action(std::size_t index) {
       MontrerCadreWeb();
       break;
     default:
-      break;  // index 2 has no label
+      break;
   }
 }
 

@@ -106,7 +106,8 @@ class FormCand : public CandidatureDetail {
   // Every 3000 ms: saves a row that has a key and has changed. Nothing while a save is under way.
   void Timer2();
 
-  // The action labels by index: 0 "Nouvelle", 1 "Supprimer", 3 "Valider", 4 "Internet".
+  // The action labels by index: 0 "Nouvelle", 1 "Supprimer", 3 "Valider", 4 "Internet". Index 2, which
+  // no label bears, brings the apply form forward with its merged letter.
   void Action(std::size_t index);
   // Deletes the row of the detail on the handle that the detail holds. Once the list has been built
   // again that handle is closed and the delete fails like any failure of the engine.

@@ -121,7 +121,7 @@ INSTANTIATE_TEST_SUITE_P(
                             "le fichier « binaire » n’est pas un texte UTF-8"}));
 
 TEST_F(CvCommandsTest, EachOneExplainsItselfInFrench) {
-  for (const std::string command : {"", "rendre", "identite"}) {
+  for (const std::string command : {"", "rendre", "convertir", "identite"}) {
     std::vector<std::string> arguments{"cv", "--help"};
     if (!command.empty()) arguments.insert(arguments.begin() + 1, command);
     const Result help = Talvorctl(arguments);

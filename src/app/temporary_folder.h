@@ -1,0 +1,22 @@
+#pragma once
+
+#include <filesystem>
+
+namespace talvor {
+
+// A folder of its own, gone with all it holds at the end of the object.
+class TemporaryFolder {
+ public:
+  // Makes it inside `parent`, hidden. Throws filesystem_error when that is not possible.
+  explicit TemporaryFolder(const std::filesystem::path& parent);
+  ~TemporaryFolder();
+  TemporaryFolder(const TemporaryFolder&) = delete;
+  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+
+  [[nodiscard]] const std::filesystem::path& Path() const { return folder_; }
+
+ private:
+  std::filesystem::path folder_;
+};
+
+}  // namespace talvor

@@ -1,0 +1,52 @@
+// The conversion: the rendered page of the CV as a document in the user's documents folder.
+#pragma once
+
+#include <filesystem>
+
+#include "cv/cv_document.h"
+#include "platform/dialogs.h"
+#include "platform/documents.h"
+#include "platform/environment.h"
+#include "platform/shell.h"
+#include "platform/word_processor.h"
+
+namespace talvor {
+
+// The user's documents folder, with a "/" at its end.
+[[nodiscard]] Text DocumentsFolder(const Environment& environment);
+
+// Where a CV stands once converted; `ending` is that of the format («.doc»).
+[[nodiscard]] std::filesystem::path ConvertedCv(const Environment& environment, TextView nomCV,
+                                                TextView ending);
+
+// `ConvertirWord` and `ConvertirODF` of the main window. They convert the page that the editor shows and
+// do nothing at all while the editor is not visible. Failures are told to the user.
+class CvConversion {
+ public:
+  struct Surroundings {
+    const CvDocument& editor;  // the CV in the editor
+    const Environment& environment;
+    Shell& shell;
+    Dialogs& dialogs;
+    Documents& documents;
+    WordProcessor& wordProcessor;
+    PageExporter& printer;  // writes the page as a PDF, as it looks in the editor
+  };
+
+  explicit CvConversion(Surroundings around) : around_(around) {}
+
+  // Replaces the document «.doc» and opens it. The old one goes first, and where it cannot go nothing
+  // is converted; it comes back when the conversion fails.
+  void ConvertirWord();
+  // The same as «.odt» or as PDF; the old document stands until the new one is complete.
+  void ConvertirODF();
+  void ConvertirPDF();
+
+ private:
+  [[nodiscard]] bool CanConvert(const std::filesystem::path& target);
+  void Replace(TextView ending, PageExporter& exporter);
+
+  Surroundings around_;
+};
+
+}  // namespace talvor

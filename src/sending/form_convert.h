@@ -1,0 +1,36 @@
+// `FormConvert`, the dialog around the conversion of the CV in the editor.
+#pragma once
+
+#include "sending/conversion.h"
+
+namespace talvor {
+
+class FormConvert {
+ public:
+  explicit FormConvert(const CvConversion::Surroundings& around) : around_(around), conversion_(around) {}
+
+  Text Text1;                           // the program associated with .doc
+  Text Info{u"Aucun fichier trouvé."};  // the last converted version, with its date
+  bool infoLeads = false;               // a click on `Info` opens that version
+
+  // The form is loaded, which comes before anything else asked of it.
+  void Charger();
+
+  void ClicInfo();
+  void ClicLabel2();  // opens the documents folder
+  void BoutonTLV1();  // closes the form
+  void BoutonTLV2();  // converts to .doc and closes the form
+  void BoutonTLV3();  // opens the rendered page
+  void ClicPDF();     // converts to PDF and closes the form
+
+ private:
+  void Ouvrir(const std::filesystem::path& target);
+
+  CvConversion::Surroundings around_;
+  CvConversion conversion_;
+  std::filesystem::path target_;
+};
+
+inline constexpr TextView ConvertForm = u"FormConvert";
+
+}  // namespace talvor

@@ -1,0 +1,239 @@
+#include "sending/form_postuler.h"
+
+#include <algorithm>
+#include <exception>
+
+#include "base/line_file.h"
+#include "sending/conversion.h"
+#include "sending/form_convert.h"
+#include "sending/mail.h"
+#include "workspace/document_keeping.h"
+
+namespace talvor {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr TextView CandidatureForm = u"FormCand";
+constexpr TextView LetterEnding = u".dat";
+
+constexpr TextView AskToConvert =
+    u"Ce CV n'a pas été converti au format .doc. Souhaitez vous le convertir maintenant ?";
+constexpr TextView NothingConverted =
+    u"Vous n'avez pas converti votre CV au format word (ou pdf, ou rtf ou odt)";
+constexpr TextView Sent = u"Candidature envoyée";
+constexpr TextView NotSent =
+    u"Problème lors de l'envoi automatique. Vous devez effectuer l'envoi manuellement via votre messagerie "
+    u"et noter la candidature comme envoyée";
+constexpr TextView Marked =
+    u"La candidature a été marquée comme envoyée aujourd'hui. L'envoi doit être effectué par vous même via "
+    u"votre propre messagerie ou par voie postale";
+constexpr TextView NoConnection = u"Talvor ne parvient pas à se connecter à Internet";
+
+bool HasEnding(TextView name, TextView ending) {
+  return name.size() >= ending.size() &&
+         CompareIgnoringCase(name.substr(name.size() - ending.size()), ending) == 0;
+}
+
+bool CanBeAttached(TextView name) {
+  return HasEnding(name, u".doc") || HasEnding(name, u".docx") || HasEnding(name, u".pdf") ||
+         HasEnding(name, u".odt");
+}
+
+bool LooksLikeAddress(TextView text) { return Contains(text, u"@") && Contains(text, u"."); }
+
+// A "#" is the tag that the merge could not resolve.
+bool IsFit(TextView text) { return !text.empty() && !Contains(text, u"#"); }
+
+bool IsFile(TextView path) {
+  std::error_code unreadable;
+  return !path.empty() && fs::is_regular_file(PathOf(path), unreadable);
+}
+
+// The wait cursor for the life of the object.
+class Hourglass {
+ public:
+  explicit Hourglass(const std::function<void(bool)>& cursor) : cursor_(cursor) {
+    if (cursor_) cursor_(true);
+  }
+  ~Hourglass() {
+    if (cursor_) cursor_(false);
+  }
+  Hourglass(const Hourglass&) = delete;
+  Hourglass& operator=(const Hourglass&) = delete;
+
+ private:
+  const std::function<void(bool)>& cursor_;
+};
+
+}  // namespace
+
+FormPostuler::FormPostuler(Surroundings around) : around_(std::move(around)) {}
+
+void FormPostuler::Charger() {
+  // The models; those beyond the fifth are not offered.
+  File1.Point(workspace_paths::LetterFolder());
+  for (std::size_t i = 0; i < ModelCount; ++i) Modele[i] = ReplaceAll(File1.List(i), LetterEnding, {});
+  for (std::size_t j = std::min(File1.Count(), ModelCount); j < ModelCount; ++j) ImageLettre[j] = false;
+
+  // Without any model the path leads to the folder itself, and the merge tells so.
+  Merge(File1.List(0));
+
+  for (std::size_t i = 0; i < CvCount; ++i) CV[i] = around_.principale.ImageMenu[i].toolTip;
+
+  // After the merge: the subject of the model stands only once the model is picked by hand.
+  ChangerEmailDest(around_.formCand().Email);
+  Objet = u"Réponse à l'annonce ref " + around_.formCand().Reference;
+
+  around_.shell.Show(ApplyForm);
+
+  // An advertisement that is answered on the web alone.
+  if (EmailDest.empty() && !around_.formCand().www.empty()) {
+    SendByMailEnabled = false;
+    ClicMessagerie(MarkAsSent);
+  }
+  if (!EmailDest.empty()) BoutonTLV2Visible = false;
+
+  PointFile2();
+}
+
+void FormPostuler::Merge(TextView fileName) {
+  FusionnerLettre(FileIn(workspace_paths::LetterFolder(), fileName), around_.tags(), around_.clock.Today(),
+                  *this, around_.dialogs, around_.shell);
+}
+
+void FormPostuler::PointFile2() {
+  documents_ = DocumentsFolder(around_.environment);
+  documents_.pop_back();
+  FileList files;
+  files.Point(PathOf(documents_));
+  File2.clear();
+  for (std::size_t i = 0; i < files.Count(); ++i)
+    if (CanBeAttached(files.List(i))) File2.push_back(files.List(i));
+}
+
+void FormPostuler::OuvrirDepuisFormCand(const ApplyRequest& request) {
+  around_.shell.Load(ApplyForm);
+  Texte = request.Texte;
+  BoutonTLV1Visible = request.canBeSent;
+  around_.shell.Show(ApplyForm);
+}
+
+void FormPostuler::OuvrirDepuisMenu() {
+  around_.shell.Load(ApplyForm);
+  Texte = around_.formCand().Lettre;
+  PJ = around_.formCand().CV;
+  around_.shell.Show(ApplyForm);
+}
+
+void FormPostuler::Timer1() {
+  const auto mark = [](bool fit) { return fit ? MarkOk : MarkX; };
+  Ok[SenderCheck] = mark(LooksLikeAddress(Email));
+  Ok[RecipientCheck] = mark(LooksLikeAddress(EmailDest));
+  Ok[SubjectCheck] = mark(IsFit(Objet));
+  Ok[LetterCheck] = mark(IsFit(Texte));
+  // The field is taken as one path: several attachments never look fit.
+  Ok[AttachmentCheck] = mark(IsFile(PJ));
+}
+
+void FormPostuler::ChangerEmailDest(TextView text) {
+  if (EmailDest == text) return;
+  EmailDest = text;
+  if (!Contains(EmailDest, u"@")) return;
+  BoutonTLV2Visible = false;
+  SendByMailEnabled = true;
+  ClicMessagerie(SendByMail);
+}
+
+void FormPostuler::ClicModele(std::size_t i) {
+  if (i < ModelCount && !Modele[i].empty()) Merge(Modele[i] + Text{LetterEnding});
+}
+
+void FormPostuler::ClicCV(std::size_t i) {
+  if (i >= CvCount || CV[i].empty()) return;
+  const Text name = CV[i];
+
+  // A CV that is a file to attach. Its bare name stands in the field, without the folder.
+  if (Contains(name, u".doc") || Contains(name, u".rtf") || Contains(name, u".pdf")) {
+    PJ = name;
+    return;
+  }
+
+  // Its converted version, in the newer layout of the documents folder, whatever the system's.
+  const Text converted =
+      around_.environment.Variable(u"userprofile") + u"/Documents/" + ReplaceAll(name, LetterEnding, u".doc");
+  if (IsFile(converted)) {
+    PJ = converted;
+    return;
+  }
+
+  // The conversion does not come back into the field: the slot is to be clicked again.
+  if (!around_.dialogs.Confirm(AskToConvert)) return;
+  if (around_.chargerFichierCV) around_.chargerFichierCV(name);
+  around_.shell.Show(ConvertForm);
+}
+
+void FormPostuler::ClicMessagerie(std::size_t i) {
+  if (i > SendByMail || (i == SendByMail && !SendByMailEnabled)) return;
+  Messagerie = i;
+  BoutonTLV1Libelle = i == SendByMail ? u"Envoyer la candidature" : u"Marquer comme envoyée";
+}
+
+void FormPostuler::ClicParcourir() {
+  // A CV may have been converted since the form was opened.
+  PointFile2();
+  if (File2.empty()) return around_.dialogs.Tell(NothingConverted);
+  File2Visible = true;
+  around_.shell.Focus(ApplyForm, u"File2");
+}
+
+void FormPostuler::ClicFile2(std::size_t row) {
+  if (row >= File2.size()) return;
+  PJ = documents_ + u"/" + File2[row];
+  File2Visible = false;
+}
+
+void FormPostuler::BoutonTLV1() {
+  try {
+    if (Messagerie == SendByMail) return Send();
+    MarquerEnvoyee();
+    around_.dialogs.Tell(Marked);
+  } catch (const std::exception&) {
+    // Whatever has failed here, the database included, is told in these words.
+    around_.dialogs.Tell(NoConnection);
+  }
+}
+
+void FormPostuler::Send() {
+  const bool ok = [this] {
+    const Hourglass hourglass(around_.waitCursor);
+    return EnvoyerParMAPI(around_.mail, EmailDest, Objet, Texte, PJ);
+  }();
+  if (ok) {
+    MarquerEnvoyee();
+    BoutonTLV1Visible = false;
+    around_.dialogs.Tell(Sent);
+    return;
+  }
+  around_.dialogs.Tell(NotSent);
+  if (const Text left = around_.mail.LeftMessage(); !left.empty())
+    around_.dialogs.Tell(
+        u"Le message préparé, pièces jointes comprises, a été enregistré dans le fichier «\u00A0" + left +
+        u"\u00A0». Votre messagerie peut l’ouvrir pour l’envoyer.");
+}
+
+void FormPostuler::MarquerEnvoyee() { around_.formCand().MarquerEnvoyee(PJ, Texte); }
+
+void FormPostuler::BoutonTLV2() {
+  around_.shell.Show(CandidatureForm);
+  FormCand& form = around_.formCand();
+  form.CadreWebVisible = true;
+  // The page of the advertisement, unless it is the one on show already.
+  if (form.AdresseWeb == form.www) return;
+  form.AdresseWeb = form.www;
+  around_.shell.PumpEvents();
+  const Hourglass hourglass(around_.waitCursor);
+  around_.formCandBrowser.Navigate(form.AdresseWeb);
+}
+
+}  // namespace talvor
