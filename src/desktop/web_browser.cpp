@@ -196,7 +196,8 @@ Text WebBrowser::BodyText(std::size_t characters) {
 Text WebBrowser::BodyMarkup() { return FromQt(Ask(page_scripts::BodyMarkup()).toString()); }
 
 void WebBrowser::CopySelection() {
-  if (view_ && view_->hasSelection()) QGuiApplication::clipboard()->setText(view_->selectedText());
+  if (!view_ || !state_.notice.isEmpty()) return;
+  if (view_->hasSelection()) QGuiApplication::clipboard()->setText(view_->selectedText());
 }
 
 std::vector<PageElement> WebBrowser::Elements(std::size_t count) {

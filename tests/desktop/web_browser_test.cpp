@@ -100,6 +100,14 @@ TEST_F(BrowserTest, ASelectionIsCapturedWhereverTheFocusHasGone) {
   EXPECT_EQ(dialogs.told, std::vector<Text>{Text{messages::NotIdentified}}) << "the selection holds no title";
   EXPECT_EQ(Count(), 0);
   EXPECT_EQ(Pages().BodyText(12), u"EMPLOI-LOIRE");
+
+  // Behind a notice the selection is out of the user's sight.
+  Inside(QStringLiteral("getSelection().selectAllChildren(document.body)"));
+  Browse(QStringLiteral("file:///etc/passwd"));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return InPane("AvisPage")->isVisible(); }, Patience));
+  ASSERT_TRUE(Pages().View()->hasSelection());
+  ClickLink("CaptureSel");
+  EXPECT_EQ(Count(), 0);
 }
 
 TEST_F(BrowserTest, APageThatFillsItselfIsCapturedAsItStands) {
