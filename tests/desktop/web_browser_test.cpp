@@ -46,6 +46,7 @@ class BrowserTest : public DesktopTest {
     auto* address = InPane<QLineEdit>("AdresseWeb");
     address->setText(path.contains(QLatin1Char(':')) ? path : site.Address(path));
     QTest::keyClick(address, Qt::Key_Return);
+    QCoreApplication::processEvents();  // the key is over before the page is asked for
   }
   // The page has been loaded and rated, and the strip stands still.
   bool Settled() {
@@ -108,6 +109,22 @@ TEST_F(BrowserTest, ASelectionIsCapturedWhereverTheFocusHasGone) {
   ASSERT_TRUE(Pages().View()->hasSelection());
   ClickLink("CaptureSel");
   EXPECT_EQ(Count(), 0);
+}
+
+TEST_F(BrowserTest, TheAddressIsNotTakenAwayWhileItHandlesItsKey) {
+  site.pages[QStringLiteral("boucle.htm")] =
+      "<p>Boucle</p><script>onload = () => setTimeout(() => { for (;;); }, 2500)</script>";
+  Browse(QStringLiteral("boucle.htm"));
+  ASSERT_TRUE(Settled());
+  QTest::qWait(2500);
+  // The page does not answer, and the form is closed while it is asked.
+  const QPointer<QLineEdit> address(InPane<QLineEdit>("AdresseWeb"));
+  QTimer::singleShot(300, &desktop->Main(), [&] { desktop->Windows().Unload(u"FormCand"); });
+  QTest::keyClick(address, Qt::Key_Return);
+  EXPECT_TRUE(address) << "gone under its own event";
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !address; }, Patience));
+  QTest::qWait(2000);
+  EXPECT_TRUE(failures.empty());
 }
 
 TEST_F(BrowserTest, APageThatFillsItselfIsCapturedAsItStands) {
@@ -431,6 +448,7 @@ TEST_F(BrowserTest, TheListOfSitesServesTheKeyboardAndTheMouse) {
             Pane().mapToGlobal(QPoint(Pane().width(), 0)).x());
   QTest::keyClick(rows, Qt::Key_Return);
   EXPECT_FALSE(rows->isVisible());
+  QCoreApplication::processEvents();
   ASSERT_TRUE(Settled());
   EXPECT_EQ(Line("AdresseWeb"), site.Address(QStringLiteral("liste.htm")));
 }
@@ -455,6 +473,7 @@ TEST_F(BrowserTest, TheAddressOfTheAdvertisementOpensIt) {
   desktop->Candidatures().CadreWebVisible = false;
   Window().Refresh();
   Click("www");
+  QCoreApplication::processEvents();
   EXPECT_TRUE(Pane().isVisible());
   ASSERT_TRUE(Settled());
   EXPECT_EQ(Pages().BodyText(12), u"EMPLOI-LOIRE");
