@@ -353,18 +353,43 @@ TEST_F(BrowserTest, ACertificateThatNobodyVouchesForIsRefused) {
   EXPECT_TRUE(notice->text().startsWith(QStringLiteral("Le certificat de"))) << notice->text().toStdString();
 }
 
-TEST_F(BrowserTest, ASiteThatDoesNotAnswerIsToldInFrench) {
+TEST_F(BrowserTest, ASiteThatDoesNotAnswerIsToldInFrenchAndIsAPlaceLikeAnyOther) {
   QTcpServer taken;
   ASSERT_TRUE(taken.listen(QHostAddress::LocalHost));
   const quint16 port = taken.serverPort();
   taken.close();
-  Browse(QStringLiteral("http://127.0.0.1:%1/").arg(port));
-  ASSERT_TRUE(Settled());
-  EXPECT_TRUE(InPane<QLabel>("AvisPage")->text().contains(QStringLiteral("ne répond pas")));
-  EXPECT_TRUE(InPane("AvisPage")->isVisible());
+  const QString silent = QStringLiteral("http://127.0.0.1:%1/").arg(port);
+  const auto fail = [&] {
+    Browse(silent);
+    ASSERT_TRUE(Settled());
+    EXPECT_TRUE(InPane<QLabel>("AvisPage")->text().contains(QStringLiteral("ne répond pas")));
+    EXPECT_TRUE(InPane("AvisPage")->isVisible());
+    EXPECT_EQ(Line("AdresseWeb"), silent) << "the address can be mended";
+  };
+  fail();
   ClickLink("CaptureSel");
   ASSERT_EQ(dialogs.told.size(), 1u);
   EXPECT_TRUE(dialogs.told[0].starts_with(u"Talvor a des difficultés"));
+
+  // The way back leads to the page before, not past it.
+  for (const char* page : {"tableau.htm", "liste.htm"}) {
+    Browse(QString::fromLatin1(page));
+    ASSERT_TRUE(Settled());
+  }
+  fail();
+  QTest::mouseClick(InPane<QToolButton>("Précédent"), Qt::LeftButton);
+  ASSERT_TRUE(Settled());
+  EXPECT_FALSE(InPane("AvisPage")->isVisible());
+  EXPECT_EQ(Line("AdresseWeb"), site.Address(QStringLiteral("liste.htm")));
+
+  fail();
+  SiteServer again{QStringLiteral(TALVOR_TEST_DATA "/sites")};
+  again.pages[QString()] = "<p>De retour</p>";
+  again.close();
+  ASSERT_TRUE(again.listen(QHostAddress::LocalHost, port));
+  QTest::mouseClick(InPane<QPushButton>("Recharger"), Qt::LeftButton);
+  ASSERT_TRUE(Settled());
+  EXPECT_EQ(Pages().BodyText(9), u"De retour");
 }
 
 TEST_F(BrowserTest, ALinkToANewWindowOpensInThePane) {
