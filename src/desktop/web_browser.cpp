@@ -167,7 +167,9 @@ void WebBrowser::Reload() {
   if (!view_) return;
   const QUrl failed = std::exchange(failed_, {});
   state_.notice.clear();
-  state_.loading = true;
+  // Without a page there is nothing to load, and no end of a load would come.
+  const bool page = view_->history()->count() > 0;
+  state_.loading = page || !failed.isEmpty();
   Changed();
   if (failed.isEmpty())
     view_->reload();

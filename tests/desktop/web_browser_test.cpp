@@ -366,6 +366,10 @@ TEST_F(BrowserTest, ASiteThatDoesNotAnswerIsToldInFrenchAndIsAPlaceLikeAnyOther)
     EXPECT_TRUE(InPane("AvisPage")->isVisible());
     EXPECT_EQ(Line("AdresseWeb"), silent) << "the address can be mended";
   };
+  // An address that is refused before any page has been loaded leaves nothing to load again.
+  Browse(QStringLiteral("file:///etc/passwd"));
+  QTest::mouseClick(InPane<QPushButton>("Recharger"), Qt::LeftButton);
+  EXPECT_EQ(Pages().ReadyState(), DocumentBrowser::Complete) << "loading without end";
   fail();
   ClickLink("CaptureSel");
   ASSERT_EQ(dialogs.told.size(), 1u);
