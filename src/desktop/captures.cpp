@@ -293,6 +293,37 @@ void PhotographSmallForms(Desktop& desktop, const Theme& theme, Photographer pho
   photographer.Take(u"a-propos", &about);
 }
 
+// The page of an advertisement, as a site would show it.
+constexpr TextView SamplePage =
+    u"data:text/html;charset=utf-8,<body style='font:14px sans-serif;margin:24px'><h1>Chargée de "
+    u"communication interne</h1><p>Société : Valmont Énergie</p><p>Référence : CI-2026-114</p><p>Contrat : "
+    u"CDI</p><p>Lieu : Lyon</p><p>Salaire : 32000 euros</p><p>Profil : expérience de trois ans</p>"
+    u"<p>Postuler : CV et lettre</p></body>";
+
+void PhotographBrowser(Desktop& desktop, Photographer photographer) {
+  FormCandWindow& window = *desktop.CandidatureWindow();
+  FormCandWeb& web = desktop.Web();
+  constexpr int UntilThePageIsRated = 2500;
+  window.Do([&] { desktop.Candidatures().Action(4); });
+  desktop.Windows().Wait(UntilThePageIsRated);
+  photographer.Take(u"navigateur-depart");
+  window.Do([&] {
+    desktop.Candidatures().AdresseWeb = SamplePage;
+    web.ClicGo();
+  });
+  desktop.Windows().Wait(UntilThePageIsRated);
+  window.Do([&] { web.Label3Visible = true; });
+  photographer.Take(u"navigateur");
+  window.Do([&] { web.ClicImage6(); });
+  photographer.Take(u"navigateur-sites", window.findChild<QWidget*>(QStringLiteral("List1")));
+  window.Do([&] { web.QuitterList1(); });
+  desktop.Main().resize(1024, 768);
+  photographer.Take(u"navigateur-1024");
+  desktop.Main().resize(1280, 800);
+  window.Do([&] { desktop.Pages().Navigate(u"file:///"); });
+  photographer.Take(u"navigateur-avis");
+}
+
 void PhotographForms(Desktop& desktop, const Theme& theme, Photographer photographer) {
   QtShell& shell = desktop.Windows();
   constexpr int UntilTheRowsStand = 250;
@@ -312,6 +343,7 @@ void PhotographForms(Desktop& desktop, const Theme& theme, Photographer photogra
   desktop.Main().resize(1024, 768);
   photographer.Take(u"candidatures-1024");
   desktop.Main().resize(1280, 800);
+  PhotographBrowser(desktop, photographer);
   PhotographLetters(desktop, photographer);
   shell.Show(u"FormStat");
   photographer.Take(u"statistiques", shell.WindowOf(u"FormStat"));

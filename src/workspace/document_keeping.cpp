@@ -47,6 +47,18 @@ std::error_code MoveToOtherDisk(const fs::path& from, const fs::path& to) {
   return error;
 }
 
+// Moves a whole file to its place, over the one that stands there.
+std::error_code PutInPlace(const fs::path& file, const fs::path& place) {
+  std::error_code error;
+  fs::rename(file, place, error);
+  if (error == std::errc::cross_device_link) error = MoveToOtherDisk(file, place);
+  if (error) {
+    std::error_code ignored;  // the first failure is the one to tell
+    fs::remove(file, ignored);
+  }
+  return error;
+}
+
 }  // namespace
 
 fs::path FileIn(const fs::path& folder, TextView name) {
@@ -78,12 +90,17 @@ fs::path KeptVersion(const fs::path& document, int age) {
 }
 
 std::error_code SaveDocument(const fs::path& document, std::string_view bytes) {
-  if (const auto old = ExistingFile(document)) {
-    std::error_code error = Keep(*old);
-    if (!error) fs::remove(*old, error);
-    if (error) return error;
-  }
-  return WriteBytes(document, bytes);
+  const auto old = ExistingFile(document);
+  std::error_code error = old ? Keep(*old) : std::error_code{};
+  if (!error) fs::create_directories(KeptVersion(document, 0).parent_path(), error);
+  // Whole before it takes the place of the old one, so that no moment is without the document.
+  const fs::path arriving = KeptVersion(document, 0);
+  if (!error) error = WriteBytes(arriving, bytes);
+  if (!error) error = PutInPlace(arriving, document);
+  if (error) return error;
+  // The old file under a name of other case.
+  if (old && *old != document) fs::remove(*old, error);
+  return error;
 }
 
 std::error_code DeleteDocument(const fs::path& document) {

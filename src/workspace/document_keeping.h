@@ -24,10 +24,9 @@ inline constexpr int KeptVersions = 5;
 // (`age` 1) up to a.5.dat for the oldest (`age` 5).
 [[nodiscard]] std::filesystem::path KeptVersion(const std::filesystem::path& document, int age);
 
-// Writes a document anew under its name, the old file deleted first, whatever its case. Before that
-// the old version joins the five kept ones and pushes the oldest out; one that is kept already is not
-// kept twice. The error, if any step failed: a version that cannot be kept is not deleted; after any
-// other failure it stands among the kept ones.
+// Writes a document anew in the place of the old file, whatever the case of its name. Before that the
+// old version joins the five kept ones and pushes the oldest out; one that is kept already is not kept
+// twice. The error, if any step failed: the old file then stands as it was.
 [[nodiscard]] std::error_code SaveDocument(const std::filesystem::path& document, std::string_view bytes);
 
 // Deletes a document, whose last version joins the kept ones before. The error, if any step failed; a

@@ -241,6 +241,7 @@ TEST_F(CvFiles, AFailedSaveIsToldAndLosesNothing) {
   EXPECT_EQ(principale_.ImageMenu[0].picture, SlotPicture::None) << "the menu is not rebuilt";
 
   ASSERT_FALSE(WriteBytes("CV/Essai.dat", "Nom=ancien\r\n"));
+  std::filesystem::remove_all("Sauvegardes");
   ASSERT_FALSE(WriteBytes("Sauvegardes", "a file where the folder should be"));
   cv.NomCV = u"Essai";
   EXPECT_FALSE(Save(cv));

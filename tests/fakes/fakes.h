@@ -151,10 +151,11 @@ class FakeDocuments : public Documents {
     opened.emplace_back(target);
     return answer;
   }
-  Text ProgramFor(TextView) const override { return {}; }
+  Text ProgramFor(TextView) const override { return program; }
   std::vector<Text> WindowTitles() const override { return titles; }
 
   bool answer = true;
+  Text program;
   std::vector<Text> opened;
   std::vector<Text> titles;
 };
