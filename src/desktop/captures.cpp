@@ -266,33 +266,6 @@ void PhotographLetters(Desktop& desktop, Photographer photographer) {
   shell.Unload(LetterForm);
 }
 
-// What stands over the main window: the backup, the advice on printing, the menus of the slots.
-void PhotographSmallForms(Desktop& desktop, const Theme& theme, Photographer photographer) {
-  QtShell& shell = desktop.Windows();
-  shell.Show(u"FormLoadSave");
-  photographer.Take(u"sauver", shell.WindowOf(u"FormLoadSave"));
-  desktop.Backup().busy = true;
-  desktop.Backup().progress = {412, 1006, 96'000'000, 214'000'000};
-  static_cast<BackupWindow*>(shell.WindowOf(u"FormLoadSave"))->Refresh();
-  photographer.Take(u"sauver-copie", shell.WindowOf(u"FormLoadSave"));
-  desktop.Backup().busy = false;
-  shell.Unload(u"FormLoadSave");
-  shell.Show(MiseEnPage::Form);
-  photographer.Take(u"mise-en-page", shell.WindowOf(MiseEnPage::Form));
-  shell.Unload(MiseEnPage::Form);
-  HeaderBar& header = desktop.Main().Header();
-  for (const auto& [slot, menu, name] :
-       {std::tuple{0, u"MenuCV", u"menu-cv"}, std::tuple{8, u"MenuLettre", u"menu-lettre"},
-        std::tuple{10, u"MenuCandidature", u"menu-candidature"}}) {
-    header.OnSlotClick(static_cast<std::size_t>(slot));
-    QMenu* shown = desktop.Library().Menus().Menu(menu);
-    photographer.Take(name, shown);
-    shown->close();
-  }
-  AboutBox about(theme, nullptr);
-  photographer.Take(u"a-propos", &about);
-}
-
 // The page of an advertisement, as a site would show it.
 constexpr TextView SamplePage =
     u"data:text/html;charset=utf-8,<body style='font:14px sans-serif;margin:24px'><h1>Chargée de "
@@ -322,6 +295,33 @@ void PhotographBrowser(Desktop& desktop, Photographer photographer) {
   desktop.Main().resize(1280, 800);
   window.Do([&] { desktop.Pages().Navigate(u"file:///"); });
   photographer.Take(u"navigateur-avis");
+}
+
+// What stands over the main window: the backup, the advice on printing, the menus of the slots.
+void PhotographSmallForms(Desktop& desktop, const Theme& theme, Photographer photographer) {
+  QtShell& shell = desktop.Windows();
+  shell.Show(u"FormLoadSave");
+  photographer.Take(u"sauver", shell.WindowOf(u"FormLoadSave"));
+  desktop.Backup().busy = true;
+  desktop.Backup().progress = {412, 1006, 96'000'000, 214'000'000};
+  static_cast<BackupWindow*>(shell.WindowOf(u"FormLoadSave"))->Refresh();
+  photographer.Take(u"sauver-copie", shell.WindowOf(u"FormLoadSave"));
+  desktop.Backup().busy = false;
+  shell.Unload(u"FormLoadSave");
+  shell.Show(MiseEnPage::Form);
+  photographer.Take(u"mise-en-page", shell.WindowOf(MiseEnPage::Form));
+  shell.Unload(MiseEnPage::Form);
+  HeaderBar& header = desktop.Main().Header();
+  for (const auto& [slot, menu, name] :
+       {std::tuple{0, u"MenuCV", u"menu-cv"}, std::tuple{8, u"MenuLettre", u"menu-lettre"},
+        std::tuple{10, u"MenuCandidature", u"menu-candidature"}}) {
+    header.OnSlotClick(static_cast<std::size_t>(slot));
+    QMenu* shown = desktop.Library().Menus().Menu(menu);
+    photographer.Take(name, shown);
+    shown->close();
+  }
+  AboutBox about(theme, nullptr);
+  photographer.Take(u"a-propos", &about);
 }
 
 void PhotographForms(Desktop& desktop, const Theme& theme, Photographer photographer) {

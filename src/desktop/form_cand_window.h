@@ -5,6 +5,7 @@
 #include <QWidget>
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include "ads/capture.h"
 #include "desktop/browser_pane.h"
@@ -69,7 +70,7 @@ class FormCandWindow : public QWidget {
   QTimer timer1_;
   QTimer timer2_;
   unsigned shownVersion_ = 0;
-  bool narrow_ = false;
+  std::optional<bool> narrow_;  // until the first layout
 };
 
 }  // namespace talvor
