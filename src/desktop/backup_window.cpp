@@ -162,7 +162,7 @@ void BackupWindow::Refresh() {
                  french.formattedDataSize(static_cast<qint64>(now.byteCount), 0, QLocale::DataSizeSIFormat)));
     const double part =
         now.byteCount == 0 ? 1 : static_cast<double>(now.bytes) / static_cast<double>(now.byteCount);
-    bar_->setValue(static_cast<int>(part * bar_->maximum()));
+    bar_->setValue(static_cast<int>(std::min(part, 1.0) * bar_->maximum()));
   }
   if (copying_->isHidden() == shown) {
     copying_->setVisible(shown);
