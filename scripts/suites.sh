@@ -44,6 +44,25 @@ configure_preset() {
   logged "$1-configure" cmake --preset "$1"
 }
 
+# Form framework -------------------------------------------------------------------------------------------
+
+# fetch_react PRESET: the framework of one of the test sites, once. Without npm or out of reach of its registry
+# that one test is left out, and says so.
+fetch_react() {
+  local folder=$root/build/$1/react version=18.3.1 name
+  for name in react react-dom; do
+    [ ! -s "$folder/$name.production.min.js" ] || continue
+    mkdir -p "$folder"
+    if ! command -v npm >/dev/null || ! (cd "$folder" && logged "npm-$name" npm pack --silent "$name@$version") ||
+      ! tar -xzOf "$folder/$name-$version.tgz" "package/umd/$name.production.min.js" >"$folder/$name.js"; then
+      say "   $name $version n’a pas pu être téléchargé avec npm : le test des formulaires React sera sauté"
+      return 0
+    fi
+    mv "$folder/$name.js" "$folder/$name.production.min.js"
+    rm -f "$folder/$name-$version.tgz"
+  done
+}
+
 # Tests ----------------------------------------------------------------------------------------------------
 
 run_tests() {

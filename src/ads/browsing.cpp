@@ -63,6 +63,14 @@ void FormCandWeb::ClicWww() {
   browser_.Navigate(form_.AdresseWeb);
 }
 
+void FormCandWeb::ConsulterOrigine() {
+  form_.CadreWebVisible = true;
+  const auto host = form_.www.find(u"//");
+  const auto path = form_.www.find(u'/', host == Text::npos ? 0 : host + 2);
+  form_.AdresseWeb = form_.www.substr(0, path);
+  browser_.Navigate(form_.AdresseWeb);
+}
+
 void FormCandWeb::Arreter() {
   stopped_ = true;
   browser_.Stop();

@@ -86,6 +86,8 @@ class FormCandWeb {
   void ClicList1(std::size_t row);
   void QuitterList1();
   void ClicWww();
+  // The start page of the site that `www` leads to.
+  void ConsulterOrigine();
   // The user ends the load under way.
   void Arreter();
   // Rebuilds the file of sites from the page of sites; the error, if it could not be written.

@@ -51,7 +51,10 @@ Text SiteDirectory::AddressOf(TextView row) {
   return at == TextView::npos ? Text{} : Text{row.substr(at)};
 }
 
-Text SiteDirectory::NameOf(TextView row) { return Text{TrimBlanks(row.substr(0, row.find(u"http")))}; }
+Text SiteDirectory::NameOf(TextView row) {
+  // A rebuilt file parts name and address with a tab as well.
+  return Text{TrimBlanks(ReplaceAll(row.substr(0, row.find(u"http")), u"\t", u" "))};
+}
 
 Text SiteDirectory::FileTextOf(TextView pageText) {
   return ReplaceAll(ReplaceAll(pageText, u"/ ", u"/\r\n"), u" ", u"   \t");

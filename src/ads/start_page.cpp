@@ -12,9 +12,10 @@ constexpr TextView Head =
     u"a{color:#0b6470;text-decoration:none}a:hover,a:focus{text-decoration:underline}"
     u"@media(prefers-color-scheme:dark){body{background:#11191d;color:#e7eef0}p{color:#aebdc4}a{color:#"
     u"5fc4cf}}"
-    u"</style></head><body><h1>Sites d’emploi</h1><p>Choisissez un site, ouvrez une annonce, puis copiez son "
-    u"texte dans la zone «\u00A0Description du poste\u00A0»\u00A0: les champs se remplissent "
-    u"d’eux-mêmes.</p><ul>";
+    u"</style></head><body><h1>Sites d’emploi</h1><p>Choisissez un site, ouvrez une annonce, puis cliquez "
+    u"sur "
+    u"«\u00A0Capturer l'annonce\u00A0»\u00A0: ses champs se remplissent d’eux-mêmes et la candidature "
+    u"s’enregistre.</p><ul>";
 constexpr TextView Foot = u"</ul></body></html>";
 
 Text Escaped(TextView text) {

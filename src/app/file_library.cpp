@@ -75,13 +75,11 @@ std::optional<Renaming> RenamingOfPhoto(const Text& oldName, const Text& chosen)
 
 FileLibrary::FileLibrary(Surroundings surroundings) : around_(surroundings) {}
 
-const MenuSlot& FileLibrary::Slot() const {
-  const auto index =
-      static_cast<std::size_t>(around_.principale.IndexMenu < 0 ? 0 : around_.principale.IndexMenu);
-  return around_.principale.ImageMenu[index];
+// The file of the slot that was clicked last.
+Text FileLibrary::Name() const {
+  const std::int16_t index = around_.principale.IndexMenu;
+  return index < 0 ? Text{} : around_.principale.ImageMenu[static_cast<std::size_t>(index)].toolTip;
 }
-
-Text FileLibrary::Name() const { return Slot().toolTip; }
 
 void FileLibrary::ClicSlot(std::size_t slot) {
   EnableSlotMenu(around_.menus, around_.principale, slot, around_.shell.FormeVisible(EditorForm),
@@ -91,6 +89,7 @@ void FileLibrary::ClicSlot(std::size_t slot) {
 }
 
 void FileLibrary::DoubleClicSlot(std::size_t slot) {
+  if (slot < Principale::CandidatureSlot && !around_.principale.ImageMenu[slot].visible) return;
   around_.principale.IndexMenu = static_cast<std::int16_t>(slot);
   const Text name = Name();
   if (slot == Principale::CandidatureSlot) {
@@ -101,6 +100,21 @@ void FileLibrary::DoubleClicSlot(std::size_t slot) {
   if (name.empty()) return MenuNouveauCV();
   // The editor takes the file whatever its extension is.
   if (ways.ouvrirCV) ways.ouvrirCV(name);
+}
+
+bool FileLibrary::ChooseFile(std::size_t slot) {
+  const MenuSlot& chosen = around_.principale.ImageMenu[slot];
+  if (slot >= Principale::CandidatureSlot || !chosen.visible || chosen.toolTip.empty()) return false;
+  around_.principale.IndexMenu = static_cast<std::int16_t>(slot);
+  return true;
+}
+
+void FileLibrary::RenommerSlot(std::size_t slot) {
+  if (ChooseFile(slot)) slot < Principale::FirstLetterSlot ? Renommer() : RenommerLettre();
+}
+
+void FileLibrary::SupprimerSlot(std::size_t slot) {
+  if (ChooseFile(slot)) slot < Principale::FirstLetterSlot ? MenuSupprimerCV() : MenuSupprimerLettre();
 }
 
 bool FileLibrary::Choisir(TextView item) {

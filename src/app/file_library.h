@@ -44,6 +44,9 @@ class FileLibrary {
   // A click on a slot, 0 to 10: its menu, with the items that apply. A double click: its document.
   void ClicSlot(std::size_t slot);
   void DoubleClicSlot(std::size_t slot);
+  // The keys of a slot that holds a file: its renaming, its delete. A free slot has neither.
+  void RenommerSlot(std::size_t slot);
+  void SupprimerSlot(std::size_t slot);
   // Runs the item of `MenuCV` or `MenuLettre` of that name; false for a name of other menus.
   bool Choisir(TextView item);
 
@@ -71,7 +74,7 @@ class FileLibrary {
   void MenuSupprimerLettre();
 
  private:
-  [[nodiscard]] const MenuSlot& Slot() const;
+  [[nodiscard]] bool ChooseFile(std::size_t slot);
   [[nodiscard]] Text Name() const;
   [[nodiscard]] std::optional<Text> AskNewName(const std::filesystem::path& folder) const;
   void Dupliquer(const std::filesystem::path& folder);

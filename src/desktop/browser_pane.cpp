@@ -104,10 +104,10 @@ QWidget* BrowserPane::MakeBar() {
   address_->setObjectName(QStringLiteral("AdresseWeb"));
   address_->setAccessibleName(tr("Adresse de la page"));
   address_->installEventFilter(this);
-  auto* globe = address_->addAction(theme_.Icon(QStringLiteral("globe"), QStringLiteral("text2")),
-                                    QLineEdit::LeadingPosition);
-  connect(&theme_, &Theme::Changed, globe,
-          [this, globe] { globe->setIcon(theme_.Icon(QStringLiteral("globe"), QStringLiteral("text2"))); });
+  globe_ = address_->addAction(theme_.Icon(QStringLiteral("globe"), QStringLiteral("text2")),
+                               QLineEdit::LeadingPosition);
+  connect(&theme_, &Theme::Changed, globe_,
+          [this] { globe_->setIcon(theme_.Icon(QStringLiteral("globe"), QStringLiteral("text2"))); });
   connect(address_, &QLineEdit::returnPressed, this, [this] { Act(&Actions::enter); });
   connect(new QShortcut(Qt::CTRL | Qt::Key_L, this), &QShortcut::activated, address_, [this] {
     address_->setFocus(Qt::ShortcutFocusReason);
@@ -192,7 +192,8 @@ void BrowserPane::ShowStrip(int top) {
   const int wide = strip_->width();
   links_->setDirection(QBoxLayout::LeftToRight);
   if (links_->sizeHint().width() + 24 > wide) links_->setDirection(QBoxLayout::TopToBottom);
-  const int whole = stripContent_->sizeHint().height();
+  stripContent_->layout()->invalidate();
+  const int whole = stripContent_->layout()->sizeHint().height();
   const int high = whole * (top - FormCandWeb::StripClosed) / Way;
   strip_->setFixedHeight(high);
   strip_->setVisible(high > 0);
@@ -218,8 +219,8 @@ void BrowserPane::ShowSites(bool shown) {
 void BrowserPane::ShowState(const WebState& state) {
   progress_->setVisible(state.loading);
   progress_->setValue(state.progress);
-  go_->setVisible(!state.loading);
   stop_->setVisible(state.loading);
+  ShowBar();
   back_->setEnabled(state.back);
   forward_->setEnabled(state.forward);
   notice_->ShowText(state.notice);
@@ -237,7 +238,16 @@ bool BrowserPane::eventFilter(QObject* watched, QEvent* event) {
 
 void BrowserPane::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
+  ShowBar();
   ShowStrip(top_);
+}
+
+// A narrow bar keeps its room for the address, where Enter does what Go does.
+void BrowserPane::ShowBar() {
+  constexpr int NarrowWidth = 340;
+  const bool wide = width() >= NarrowWidth;
+  go_->setVisible(wide && stop_->isHidden());
+  globe_->setVisible(wide);
 }
 
 }  // namespace talvor

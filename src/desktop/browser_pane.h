@@ -10,6 +10,7 @@
 #include "desktop/theme.h"
 #include "desktop/web_browser.h"
 
+class QAction;
 class QBoxLayout;
 class QLineEdit;
 class QProgressBar;
@@ -50,12 +51,14 @@ class BrowserPane : public QWidget {
   QPushButton* AddLink(const QString& icon, const QString& text, const QString& name,
                        std::function<void()> Actions::*action);
   void Act(std::function<void()> Actions::*action);
+  void ShowBar();
   void ShowStrip(int top);
   void ShowGauge(double width);
   void ShowSites(bool shown);
 
   const Theme& theme_;
   QLineEdit* address_ = nullptr;
+  QAction* globe_ = nullptr;
   QToolButton* back_ = nullptr;
   QToolButton* forward_ = nullptr;
   QToolButton* go_ = nullptr;

@@ -116,6 +116,10 @@ CandidatureDetailPane::CandidatureDetailPane(const Theme& theme, QWidget* parent
   ChainTabs();
 }
 
+int CandidatureDetailPane::RoomyWidth() const {
+  return scroll_->widget()->minimumSizeHint().width() + scroll_->verticalScrollBar()->sizeHint().width();
+}
+
 QWidget* CandidatureDetailPane::MakeActionBar() {
   auto* bar = new QWidget(this);
   bar->setFixedHeight(43);

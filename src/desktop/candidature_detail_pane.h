@@ -32,6 +32,9 @@ class CandidatureDetailPane : public QWidget {
   // Follows the text of the status with its dot.
   void ShowStatusDot(TextView status);
 
+  // The width at which no field of the single column is cut.
+  [[nodiscard]] int RoomyWidth() const;
+
  protected:
   void resizeEvent(QResizeEvent* event) override;
 

@@ -14,6 +14,7 @@
 #include "cv/cv_file.h"
 #include "desktop/about_box.h"
 #include "desktop/application.h"
+#include "desktop/backup_window.h"
 #include "desktop/desktop.h"
 #include "desktop/qt_dialogs.h"
 #include "desktop/text_edge.h"
@@ -294,8 +295,68 @@ void PhotographSending(Desktop& desktop, Photographer photographer) {
   shell.Unload(EditorForm);
 }
 
+// The page of an advertisement, as a site would show it.
+constexpr TextView SamplePage =
+    u"data:text/html;charset=utf-8,<body style='font:14px sans-serif;margin:24px'><h1>Chargée de "
+    u"communication interne</h1><p>Société : Valmont Énergie</p><p>Référence : CI-2026-114</p><p>Contrat : "
+    u"CDI</p><p>Lieu : Lyon</p><p>Salaire : 32000 euros</p><p>Profil : expérience de trois ans</p>"
+    u"<p>Postuler : CV et lettre</p></body>";
+
+void PhotographBrowser(Desktop& desktop, Photographer photographer) {
+  FormCandWindow& window = *desktop.CandidatureWindow();
+  FormCandWeb& web = desktop.Web();
+  constexpr int UntilThePageIsRated = 2500;
+  window.Do([&] { desktop.Candidatures().Action(4); });
+  desktop.Windows().Wait(UntilThePageIsRated);
+  photographer.Take(u"navigateur-depart");
+  window.Do([&] {
+    desktop.Candidatures().AdresseWeb = SamplePage;
+    web.ClicGo();
+  });
+  desktop.Windows().Wait(UntilThePageIsRated);
+  window.Do([&] { web.Label3Visible = true; });
+  photographer.Take(u"navigateur");
+  window.Do([&] { web.ClicImage6(); });
+  photographer.Take(u"navigateur-sites", window.findChild<QWidget*>(QStringLiteral("List1")));
+  window.Do([&] { web.QuitterList1(); });
+  desktop.Main().resize(1024, 768);
+  photographer.Take(u"navigateur-1024");
+  desktop.Main().resize(1280, 800);
+  window.Do([&] { desktop.Pages().Navigate(u"file:///"); });
+  photographer.Take(u"navigateur-avis");
+}
+
+// What stands over the main window: the backup, the advice on printing, the menus of the slots.
+void PhotographSmallForms(Desktop& desktop, const Theme& theme, Photographer photographer) {
+  QtShell& shell = desktop.Windows();
+  shell.Show(u"FormLoadSave");
+  photographer.Take(u"sauver", shell.WindowOf(u"FormLoadSave"));
+  desktop.Backup().busy = true;
+  desktop.Backup().progress = {412, 1006, 96'000'000, 214'000'000};
+  static_cast<BackupWindow*>(shell.WindowOf(u"FormLoadSave"))->Refresh();
+  photographer.Take(u"sauver-copie", shell.WindowOf(u"FormLoadSave"));
+  desktop.Backup().busy = false;
+  shell.Unload(u"FormLoadSave");
+  shell.Show(MiseEnPage::Form);
+  photographer.Take(u"mise-en-page", shell.WindowOf(MiseEnPage::Form));
+  shell.Unload(MiseEnPage::Form);
+  HeaderBar& header = desktop.Main().Header();
+  for (const auto& [slot, menu, name] :
+       {std::tuple{0, u"MenuCV", u"menu-cv"}, std::tuple{8, u"MenuLettre", u"menu-lettre"},
+        std::tuple{10, u"MenuCandidature", u"menu-candidature"}}) {
+    header.OnSlotClick(static_cast<std::size_t>(slot));
+    QMenu* shown = desktop.Library().Menus().Menu(menu);
+    photographer.Take(name, shown);
+    shown->close();
+  }
+  AboutBox about(theme, nullptr);
+  photographer.Take(u"a-propos", &about);
+}
+
 void PhotographForms(Desktop& desktop, const Theme& theme, Photographer photographer) {
   QtShell& shell = desktop.Windows();
+  constexpr int UntilTheRowsStand = 250;
+  shell.Wait(UntilTheRowsStand);
   photographer.Take(u"accueil");
   shell.Show(u"FormCand");
   FormCandWindow& window = *desktop.CandidatureWindow();
@@ -311,14 +372,14 @@ void PhotographForms(Desktop& desktop, const Theme& theme, Photographer photogra
   desktop.Main().resize(1024, 768);
   photographer.Take(u"candidatures-1024");
   desktop.Main().resize(1280, 800);
+  PhotographBrowser(desktop, photographer);
   PhotographLetters(desktop, photographer);
   PhotographSending(desktop, photographer);
   shell.Show(u"FormStat");
   photographer.Take(u"statistiques", shell.WindowOf(u"FormStat"));
   shell.Unload(u"FormStat");
   PhotographCv(desktop, photographer);
-  AboutBox about(theme, nullptr);
-  photographer.Take(u"a-propos", &about);
+  PhotographSmallForms(desktop, theme, photographer);
 }
 
 int Run(const QString& folder) {

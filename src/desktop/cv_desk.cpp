@@ -7,6 +7,7 @@
 #include "desktop/guide_panel.h"
 #include "desktop/text_edge.h"
 #include "workspace/document_keeping.h"
+#include "workspace/systeme.h"
 #include "workspace/workspace_paths.h"
 
 namespace talvor {
@@ -22,7 +23,10 @@ std::shared_ptr<QPrinter> DefaultPrinter() {
 
 }  // namespace
 
-CvDesk::CvDesk(Program program) : makePrinter(&DefaultPrinter), program_(program), menus_(program.theme) {
+CvDesk::CvDesk(Program program)
+    : makePrinter(&DefaultPrinter),
+      program_(program),
+      menus_(program.theme, {u"MenuImprimer", u"MenuPhoto", u"MenuLangues", u"MenuConvertirWord"}) {
   menus_.OnChosen = [this](TextView item) { Chosen(item); };
   MakeForm();
 }
@@ -83,14 +87,6 @@ void CvDesk::OpenFile(TextView name) {
   window_->Do([&] { form_->ChargerFichierCV(FileIn(workspace_paths::CvFolder(), name)); });
 }
 
-void CvDesk::OpenSlot(std::size_t slot) {
-  const Text name = program_.principale.ImageMenu[slot].toolTip;
-  if (name.empty())
-    OpenNew();
-  else
-    OpenFile(name);
-}
-
 void CvDesk::OpenNew() {
   program_.shell.Unload(EditorForm);
   program_.shell.Show(EditorForm);
@@ -126,13 +122,15 @@ void CvDesk::Chosen(TextView item) {
   if (item == u"ConsulterWord") return OpenLastWordVersion();
 }
 
+// In "Documents", whatever the layout of the folders is.
 void CvDesk::OpenLastWordVersion() {
-  const Text file = program_.environment.Variable(u"userprofile") + u"/Documents/" + form_->NomCV + u".doc";
-  if (!documents_.Open(file)) program_.dialogs.Tell(u"Aucun programme n'ouvre le fichier " + file);
+  OuvrirDocument(program_.environment.Variable(u"userprofile") + u"/Documents/" + form_->NomCV + u".doc",
+                 documents_, program_.dialogs);
 }
 
 // The page as it stands on the disk, as it will be printed.
 void CvDesk::Preview() {
+  if (!window_) return;
   const Text folder = program_.environment.Variable(u"userprofile") + u"/Documents/";
   printPreview_ = new PrintPreviewWindow(program_.theme,
                                          {.file = QUrl::fromLocalFile(ToQt(preview_.LocationURL())),
@@ -144,6 +142,7 @@ void CvDesk::Preview() {
 }
 
 void CvDesk::Print() {
+  if (!window_) return;
   const std::shared_ptr<QPrinter> printer = makePrinter();
   if (!printer) return program_.dialogs.Tell(u"Aucune imprimante n’est installée.");
   printer->setPageLayout(CvPageLayout());

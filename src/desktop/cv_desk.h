@@ -8,9 +8,9 @@
 #include <optional>
 
 #include "cv/editor.h"
-#include "desktop/cv_menus.h"
 #include "desktop/cv_page_view.h"
 #include "desktop/cv_window.h"
+#include "desktop/menus.h"
 #include "desktop/print_preview.h"
 #include "desktop/qt_clipboard.h"
 #include "desktop/qt_dialogs.h"
@@ -43,10 +43,11 @@ class CvDesk {
   void Register();
   // Opens the CV of that file name.
   void OpenFile(TextView name);
-  // A double click on the slot: its CV, or a new one.
-  void OpenSlot(std::size_t slot);
   // The editor is closed and opened empty.
   void OpenNew();
+  // The page of the editor, in a print preview or straight to the printer; told when it cannot be.
+  void Preview();
+  void Print();
 
   [[nodiscard]] FormRédigerCV& Form() { return *form_; }
   // The window, or null.
@@ -60,13 +61,11 @@ class CvDesk {
   void Chosen(TextView item);
   void ShowHelp(TextView text);
   void PlaceHelp(QWidget& panel);
-  void Preview();
-  void Print();
   void OpenLastWordVersion();
 
   Program program_;
   CvPreview preview_;
-  CvMenus menus_;
+  QtMenus menus_;
   QtClipboard clipboard_;
   QtDocuments documents_;
   // Begun anew at each load of the form, in its place.

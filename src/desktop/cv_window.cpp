@@ -14,7 +14,7 @@ const QList<int> WideSizes{684, 590};
 
 }  // namespace
 
-CvWindow::CvWindow(FormRédigerCV& form, CvMenus& menus, const Theme& theme, QWidget* parent)
+CvWindow::CvWindow(FormRédigerCV& form, QtMenus& menus, const Theme& theme, QWidget* parent)
     : QWidget(parent), form_(form), menus_(menus), shown_(form) {
   setObjectName(ToQt(EditorForm));
   auto* row = new QHBoxLayout(this);

@@ -6,10 +6,10 @@
 #include <functional>
 
 #include "cv/editor.h"
-#include "desktop/cv_menus.h"
 #include "desktop/cv_page_pane.h"
 #include "desktop/cv_zones_pane.h"
 #include "desktop/field_binder.h"
+#include "desktop/menus.h"
 
 class QSplitter;
 
@@ -18,7 +18,7 @@ namespace talvor {
 class CvWindow : public QWidget {
  public:
   // The view model and the menus must outlive the window.
-  CvWindow(FormRédigerCV& form, CvMenus& menus, const Theme& theme, QWidget* parent);
+  CvWindow(FormRédigerCV& form, QtMenus& menus, const Theme& theme, QWidget* parent);
 
   // Called after each action, for what other windows show.
   std::function<void()> OnActed;
@@ -45,7 +45,7 @@ class CvWindow : public QWidget {
   void MoveFocus(QWidget* now);
 
   FormRédigerCV& form_;
-  CvMenus& menus_;
+  QtMenus& menus_;
   // What the window shows of the document: typing goes from here to the form as a change, so that the
   // rules of the form see it.
   CvDocument shown_;

@@ -4,10 +4,15 @@
 #include <QScreen>
 
 #include "app/start_up.h"
+#include "base/line_file.h"
 #include "desktop/about_box.h"
+#include "desktop/advice_box.h"
+#include "desktop/assistant_figure.h"
+#include "desktop/backup_window.h"
 #include "desktop/guide_panel.h"
 #include "desktop/stat_window.h"
 #include "workspace/document_keeping.h"
+#include "workspace/systeme.h"
 
 namespace talvor {
 
@@ -24,19 +29,25 @@ struct Desktop::CandidatureModels {
   FormCandWeb web;
 };
 
-Desktop::Desktop(const Theme& theme, const Environment& environment, const Clock& clock, Dialogs& dialogs)
+Desktop::Desktop(const Theme& theme, const Environment& environment, const Clock& clock, Dialogs& dialogs,
+                 Pickers* pickers)
     : theme_(theme),
       environment_(environment),
       clock_(clock),
       dialogs_(dialogs),
       depart_(dialogs, shell_),
+      pickers_(pickers == nullptr ? ownPickers_ : *pickers),
       cv_({principale_, shell_, theme, environment, clock, dialogs, pickers_}),
+      library_({principale_, shell_, theme, environment, dialogs, pickers_, documents_}),
+      backup_({principale_, shell_, dialogs, pickers_, clock}),
       main_(std::make_unique<MainWindow>(principale_, shell_, theme)) {
   MakeFormCand();
   RegisterForms();
   main_->OnClosed = [this] {
     if (letterWindow_) formLettre_.Timer1();
-    // Waits of this form end with it; the event loop alone would leave them turning.
+    // Waits of these forms end with them; the event loop alone would leave them turning.
+    backup_.Annuler();
+    shell_.Unload(u"FormLoadSave");
     shell_.Unload(u"FormCand");
     QCoreApplication::quit();
   };
@@ -78,21 +89,121 @@ void Desktop::RegisterForms() {
   RegisterSending();
   RegisterGuide();
   RegisterSplash();
+  RegisterLibrary();
+  RegisterCandidatureMenus();
+  RegisterBackup();
+  RegisterSmallForms();
+}
+
+void Desktop::RegisterSmallForms() {
   shell_.Register(u"APropos", {.place = QtShell::Place::Over, .make = [this](QWidget* parent) -> QWidget* {
                                  auto* about = new AboutBox(theme_, parent);
                                  about->setAttribute(Qt::WA_DeleteOnClose);
                                  return about;
                                }});
+  shell_.Register(MiseEnPage::Form,
+                  {.place = QtShell::Place::Over, .make = [this](QWidget* parent) -> QWidget* {
+                     return new AdviceBox(miseEnPage_, theme_, parent);
+                   }});
+  miseEnPage_.previsualiser = [this] { cv_.Preview(); };
+  shell_.Register(u"Assistant", {.place = QtShell::Place::Over,
+                                 .onLoad = QtShell::OnLoad::Shown,
+                                 .make = [this](QWidget* parent) -> QWidget* {
+                                   return new AssistantFigure(assistant_, theme_,
+                                                              homeWindow_ ? homeWindow_->Road() : parent);
+                                 }});
+}
+
+// What was typed since the last tick of the timers reaches the disk.
+void Desktop::KeepTyping() {
+  if (letterWindow_) letterWindow_->Tick1000();
+}
+
+void Desktop::RegisterLibrary() {
+  library_.Connect(main_->Header());
+  library_.BeforeActing = [this] { KeepTyping(); };
+  library_.OnActed = [this] {
+    RefreshMain();
+    if (homeWindow_) homeWindow_->Refresh();
+  };
+  FileLibrary::Ways& ways = library_.Library().ways;
+  ways.ouvrirCV = [this](TextView name) { cv_.OpenFile(name); };
+  ways.ouvrirLettre = [this](TextView name) { OpenLetter(name); };
+  ways.nouvelleLettre = [this] { NewLetter(); };
+  ways.imprimerCV = [this] { cv_.Print(); };
+  assistantTexte_.commands.rattacherCv = [this] { library_.Library().RattacherCV(); };
+  main_->Header().OpenFile = [this](TextView page) {
+    return (page == LetterForm ? formLettre_.NomLettre : cv_.Form().NomCV) + u".dat";
+  };
+}
+
+void Desktop::RegisterCandidatureMenus() {
+  CandidatureMenus::Ways& ways = library_.Candidatures().ways;
+  const auto inWindow = [this](auto action) {
+    return [this, action] {
+      if (formCandWindow_) formCandWindow_->Do([&] { action(*candidatures_); });
+    };
+  };
+  ways.hauteurDescription = [this] {
+    const auto* description = formCandWindow_->findChild<QWidget*>(QStringLiteral("Description"));
+    return description == nullptr ? 0 : description->height() * TwipsPerPixel;
+  };
+  ways.montrerCadreWeb = inWindow([](CandidatureModels& cand) { cand.form.CadreWebVisible = true; });
+  ways.naviguerAccueil = inWindow([](CandidatureModels& cand) { cand.web.ClicImage4(); });
+  ways.imprimerListe = [this] { reports_.ImprimerListe(ReportMode::Liste); };
+  ways.justificatif = [this] { reports_.ImprimerListe(ReportMode::Justificatif); };
+  ways.toutSupprimer = [this] {
+    // The form need not be open.
+    formCand_->MenuSupprimer();
+    if (formCandWindow_) formCandWindow_->Refresh();
+  };
+  ways.consulterInternet = inWindow([](CandidatureModels& cand) { cand.web.ClicWww(); });
+  ways.consulterOrigine = inWindow([](CandidatureModels& cand) { cand.web.ConsulterOrigine(); });
+  ways.postuler = [this] { sending_->OpenFromMenu(); };
+  ways.supprimerCand = inWindow([](CandidatureModels& cand) { cand.form.MenuSupprimerCand(); });
+}
+
+void Desktop::RegisterBackup() {
+  shell_.Register(u"FormLoadSave",
+                  {.place = QtShell::Place::Over, .make = [this](QWidget* parent) -> QWidget* {
+                     auto* window = new BackupWindow(backup_, theme_, parent);
+                     backup_.OnProgress = [shown = QPointer<BackupWindow>(window)] {
+                       if (shown) shown->Refresh();
+                     };
+                     window->OnActed = [this] {
+                       if (formCandWindow_) formCandWindow_->Do([&] { formCand_->InitListe(); });
+                       RefreshMain();
+                     };
+                     return window;
+                   }});
+  backup_.fermerDocuments = [this] { CloseDocuments(); };
+}
+
+// The data is about to change under the forms: what was typed is saved where it belongs, and no form
+// goes on with a document that is no longer there.
+void Desktop::CloseDocuments() {
+  if (cv_.Window() != nullptr && !cv_.Form().Nom.empty()) cv_.Form().SauvegarderCV();
+  shell_.Unload(EditorForm);
+  shell_.Unload(LetterForm);
+  if (!formCandWindow_) return;
+  formCandWindow_->Tick3000();
+  // A candidature that has no row yet waits for one in the new data; the list closes its handle.
+  formCandWindow_->Do([&] {
+    if (!formCand_->Num.empty()) formCand_->ViderDetail();
+    formCand_->InitListe();
+  });
 }
 
 void Desktop::RegisterHome() {
-  shell_.Register(u"AssistantTexte",
-                  {.onLoad = QtShell::OnLoad::Shown, .make = [this](QWidget* parent) -> QWidget* {
-                     assistantTexte_.Charger();
-                     homeWindow_ = new HomeWindow(assistantTexte_, theme_, parent);
-                     homeWindow_->OnActed = [this] { RefreshMain(); };
-                     return homeWindow_;
-                   }});
+  shell_.Register(u"AssistantTexte", {.onLoad = QtShell::OnLoad::Shown,
+                                      .make = [this](QWidget* parent) -> QWidget* {
+                                        assistantTexte_.Charger();
+                                        homeWindow_ = new HomeWindow(assistantTexte_, theme_, parent);
+                                        homeWindow_->OnActed = [this] { RefreshMain(); };
+                                        return homeWindow_;
+                                      },
+                                      // The figure stands in this window.
+                                      .unloaded = [this] { shell_.Unload(u"Assistant"); }});
   assistantTexte_.commands.rechercherOffres = [this] {
     if (formCandWindow_) formCandWindow_->Do([&] { formCand_->CadreWebVisible = true; });
   };
@@ -109,7 +220,9 @@ void Desktop::RegisterCandidatures() {
         new FormCandWindow(*formCand_, candidatures_->capture, candidatures_->web, browser_, theme_, parent);
     formCandWindow_->models = candidatures_;
     formCandWindow_->OnActed = [this] { RefreshMain(); };
-    formCandWindow_->OnMenuPostuler = [this] { sending_->OpenFromMenu(); };
+    formCandWindow_->OnItemMenu = [this](QPoint place) {
+      library_.OpenItemMenu(place, formCand_->MenuPostulerActif);
+    };
     return formCandWindow_;
   };
   form.loaded = [this] {
@@ -143,20 +256,10 @@ void Desktop::RegisterLetters() {
   shell_.Register(LetterForm, form);
 
   formLettre_.OuvrirDocument = [this](const std::filesystem::path& document) {
-    const Text name = FromUtf8(document.filename().string()).value_or(Text{});
-    const auto target = FromUtf8(document.string());
-    if (!target || !documents_.Open(*target))
-      dialogs_.Tell(u"Aucun programme n'a pu ouvrir le fichier «\u00A0" + name + u"\u00A0».");
+    OuvrirDocument(TextOf(document).value_or(Text{}), documents_, dialogs_);
   };
   assistantTexte_.commands.nouvelleLettre = [this] { NewLetter(); };
   assistantTexte_.commands.ouvrirLettre = [this](TextView file) { OpenLetter(file); };
-  main_->Header().OnSlotOpen = [this, others = main_->Header().OnSlotOpen](std::size_t slot) {
-    if (slot < Principale::FirstLetterSlot || slot >= Principale::CandidatureSlot) return others(slot);
-    const MenuSlot& chosen = principale_.ImageMenu[slot];
-    if (!chosen.visible) return;
-    if (chosen.toolTip.empty()) return NewLetter();
-    OpenLetter(chosen.toolTip);
-  };
 }
 
 void Desktop::NewLetter() {
@@ -185,18 +288,10 @@ void Desktop::RegisterReports() {
 }
 
 void Desktop::RegisterCv() {
-  pickers_.SetFrame(main_.get());
+  ownPickers_.SetFrame(main_.get());
   cv_.Register();
   cv_.OnActed = [this] { RefreshMain(); };
   assistantTexte_.commands.ouvrirCv = [this](TextView file) { cv_.OpenFile(file); };
-  // The other slots stay with the main window.
-  HeaderBar& header = main_->Header();
-  header.OnSlotOpen = [this, others = header.OnSlotOpen](std::size_t slot) {
-    if (slot < Principale::CvSlots)
-      cv_.OpenSlot(slot);
-    else
-      others(slot);
-  };
 }
 
 void Desktop::RegisterSending() {
@@ -278,6 +373,7 @@ bool Desktop::StartAtOnce() {
   PreparerDossier(environment_);
   if (!LoadPrincipale()) return false;
   shell_.Load(u"AssistantTexte");
+  shell_.Load(u"Assistant");
   return true;
 }
 
@@ -285,6 +381,7 @@ void Desktop::Stop() {
   if (formCandWindow_) formCandWindow_->StopTimers();
   if (letterWindow_) letterWindow_->StopTimer();
   sending_->StopTimer();
+  formLettre_.Timer1();
   main_->setEnabled(false);
 }
 

@@ -6,10 +6,12 @@
 #include <optional>
 
 #include "ads/capture.h"
+#include "app/form_load_save.h"
 #include "desktop/cv_desk.h"
 #include "desktop/form_cand_window.h"
 #include "desktop/home_window.h"
 #include "desktop/letter_window.h"
+#include "desktop/library_desk.h"
 #include "desktop/main_window.h"
 #include "desktop/print_preview.h"
 #include "desktop/qt_clipboard.h"
@@ -21,15 +23,19 @@
 #include "platform/environment.h"
 #include "reports/printed_reports.h"
 #include "reports/statistics.h"
+#include "shell/assistant.h"
 #include "shell/guide.h"
 #include "shell/home_panel.h"
+#include "shell/mise_en_page.h"
 
 namespace talvor {
 
 class Desktop {
  public:
-  // What the program runs on must outlive it.
-  Desktop(const Theme& theme, const Environment& environment, const Clock& clock, Dialogs& dialogs);
+  // What the program runs on must outlive it. Files are picked with the dialogs of Qt unless others are
+  // given.
+  Desktop(const Theme& theme, const Environment& environment, const Clock& clock, Dialogs& dialogs,
+          Pickers* pickers = nullptr);
   ~Desktop();
 
   // The start of the program, from the splash to the home panel. False when it is to end at once, the
@@ -50,6 +56,8 @@ class Desktop {
   [[nodiscard]] WebBrowser& Pages() { return browser_; }
   [[nodiscard]] CvDesk& Cv() { return cv_; }
   [[nodiscard]] SendingDesk& Sending() { return *sending_; }
+  [[nodiscard]] LibraryDesk& Library() { return library_; }
+  [[nodiscard]] FormLoadSave& Backup() { return backup_; }
   // The window of the candidatures, or null.
   [[nodiscard]] FormCandWindow* CandidatureWindow() const { return formCandWindow_; }
   // The window of the letters, or null.
@@ -61,6 +69,12 @@ class Desktop {
   void RegisterHome();
   void RegisterCandidatures();
   void RegisterLetters();
+  void RegisterLibrary();
+  void RegisterCandidatureMenus();
+  void RegisterBackup();
+  void RegisterSmallForms();
+  void KeepTyping();
+  void CloseDocuments();
   void NewLetter();
   void OpenLetter(TextView file);
   void RegisterReports();
@@ -92,9 +106,14 @@ class Desktop {
   struct CandidatureModels;
   std::shared_ptr<CandidatureModels> candidatures_;
   FormCand* formCand_ = nullptr;
-  QtPickers pickers_;
+  QtPickers ownPickers_;
+  Pickers& pickers_;
   CvDesk cv_;
   std::optional<SendingDesk> sending_;
+  LibraryDesk library_;
+  FormLoadSave backup_;
+  Assistant assistant_{assistantTexte_, shell_};
+  MiseEnPage miseEnPage_{shell_, dialogs_};
 
   std::unique_ptr<MainWindow> main_;
   QPointer<FormCandWindow> formCandWindow_;

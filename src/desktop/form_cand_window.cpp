@@ -3,15 +3,16 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLineEdit>
-#include <QMenu>
 #include <QPointer>
 #include <QSplitter>
 #include <QStyle>
+#include <algorithm>
 
 namespace talvor {
 namespace {
 
-const QList<int> WideSizes{312, 474, 494};
+constexpr int ListWidth = 312;
+constexpr int DetailWidth = 474;
 
 }  // namespace
 
@@ -29,7 +30,6 @@ FormCandWindow::FormCandWindow(FormCand& form, FormCandCapture& capture, FormCan
   web_ = new BrowserPane(theme, splitter_);
   web_->hide();
   for (int i = 0; i < splitter_->count(); ++i) splitter_->setStretchFactor(i, i);
-  splitter_->setSizes(WideSizes);
   row->addWidget(splitter_);
 
   binder_.BindByName(*this, DetailFields, form_);
@@ -63,7 +63,7 @@ void FormCandWindow::ConnectList() {
   tree.OnDelete = [this] { Do([&] { form_.MenuSupprimerCand(); }); };
   form_.OuvrirMenuItemCand = [this] {
     Refresh();
-    OpenItemMenu();
+    if (OnItemMenu) OnItemMenu(list_->Tree().PopupPlace());
   };
 }
 
@@ -152,17 +152,19 @@ void FormCandWindow::showEvent(QShowEvent* event) {
   if (auto* title = findChild<QWidget*>(QStringLiteral("Intitule"))) title->setFocus(Qt::OtherFocusReason);
 }
 
-// In a narrow window the fields come first.
+// The fields come first: they get what their font asks for, and in a narrow window whatever the list and
+// the page can spare.
 void FormCandWindow::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
   constexpr int NarrowWindow = 1200;
   const bool narrow = width() < NarrowWindow;
-  if (narrow == narrow_) return;
+  if (narrow_ == narrow) return;
   narrow_ = narrow;
-  if (!narrow) return splitter_->setSizes(WideSizes);
-  const int list = list_->minimumSizeHint().width();
-  const int web = web_->minimumWidth();
-  splitter_->setSizes({list, width() - list - web - 2 * splitter_->handleWidth(), web});
+  const int room = width() - 2 * splitter_->handleWidth();
+  const int list = narrow ? list_->minimumSizeHint().width() : ListWidth;
+  const int detail =
+      narrow ? room - list - web_->minimumWidth() : std::max(DetailWidth, detail_->RoomyWidth());
+  splitter_->setSizes({list, detail, room - list - detail});
 }
 
 void FormCandWindow::StopTimers() {
@@ -200,26 +202,6 @@ void FormCandWindow::ShowRefusal() {
     line->style()->unpolish(line);
     line->style()->polish(line);
   }
-}
-
-void FormCandWindow::OpenItemMenu() {
-  QMenu menu(this);
-  const auto add = [&](const QString& icon, const QString& text) {
-    return menu.addAction(theme_.Icon(icon, QStringLiteral("text2")), text);
-  };
-  add(QStringLiteral("globe"), tr("Consulter l'offre sur &Internet"))->setEnabled(false);
-  add(QStringLiteral("link"), tr("Consulter le site d'&origine"))->setEnabled(false);
-  menu.addSeparator();
-  QAction* apply = add(QStringLiteral("send"), tr("&Postuler"));
-  apply->setEnabled(form_.MenuPostulerActif);
-  menu.addSeparator();
-  add(QStringLiteral("print"), tr("I&mprimer"));
-  QAction* remove = add(QStringLiteral("trash"), tr("&Supprimer"));
-  remove->setObjectName(QStringLiteral("MenuSupprimerCand"));
-
-  const QAction* chosen = menu.exec(list_->Tree().PopupPlace());
-  if (chosen == apply && OnMenuPostuler) OnMenuPostuler();
-  if (chosen == remove) form_.MenuSupprimerCand();
 }
 
 }  // namespace talvor

@@ -5,6 +5,7 @@
 #include <QWidget>
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include "ads/capture.h"
 #include "desktop/browser_pane.h"
@@ -27,8 +28,9 @@ class FormCandWindow : public QWidget {
 
   // Called after each action, for what other windows show.
   std::function<void()> OnActed;
-  // "Postuler" of the popup `MenuItemCand`.
-  std::function<void()> OnMenuPostuler;
+
+  // The popup of a row, at a place of the screen.
+  std::function<void(QPoint place)> OnItemMenu;
 
   // Runs an action of the view model and shows what has become of it. The window may be gone when the
   // action returns.
@@ -54,7 +56,6 @@ class FormCandWindow : public QWidget {
   void ConnectDetail();
   void ConnectWeb();
   void ShowRefusal();
-  void OpenItemMenu();
 
   FormCand& form_;
   FormCandCapture& capture_;
@@ -69,7 +70,7 @@ class FormCandWindow : public QWidget {
   QTimer timer1_;
   QTimer timer2_;
   unsigned shownVersion_ = 0;
-  bool narrow_ = false;
+  std::optional<bool> narrow_;  // until the first layout
 };
 
 }  // namespace talvor

@@ -1,11 +1,13 @@
 #include "desktop/header_bar.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
 #include <QSvgRenderer>
 #include <QToolButton>
+#include <algorithm>
 
 #include "desktop/text_edge.h"
 
@@ -71,6 +73,13 @@ HeaderBar::HeaderBar(Principale& principale, const Theme& theme, QWidget* parent
     : QFrame(parent), principale_(principale), theme_(theme) {
   setObjectName(QStringLiteral("Entete"));
   setFixedHeight(68);
+  // A menu that opened at once would swallow the second click.
+  constexpr int LongestWait = 250;
+  doubleClick_.setSingleShot(true);
+  doubleClick_.setInterval(std::min(LongestWait, QApplication::doubleClickInterval()));
+  connect(&doubleClick_, &QTimer::timeout, this, [this] {
+    if (OnSlotClick) OnSlotClick(clicked_);
+  });
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(12, 0, 12, 0);
   row->setSpacing(8);
@@ -156,16 +165,28 @@ void HeaderBar::MakeSlot(std::size_t index, QWidget* tray) {
   slot->setSizePolicy(policy);
   // A tray is one stop of the Tab key; the arrows move inside it.
   slot->setFocusPolicy(index == firstOfTray_[index] ? Qt::StrongFocus : Qt::ClickFocus);
-  slot->OnHover = [this, index](bool over) { HoverSlot(index, over); };
-  slot->OnArrow = [this, index](int step) { MoveFocus(index, step); };
-  slot->OnOpen = [this, index] {
-    if (OnSlotOpen) OnSlotOpen(index);
-  };
-  connect(slot, &QAbstractButton::clicked, this, [this, index] {
-    if (OnSlotClick) OnSlotClick(index);
-  });
+  ConnectSlot(index, *slot);
   tray->layout()->addWidget(slot);
   slots_[index] = slot;
+}
+
+void HeaderBar::ConnectSlot(std::size_t index, IconTile& slot) {
+  const auto run = [this, index](std::function<void(std::size_t)> HeaderBar::*action) {
+    doubleClick_.stop();
+    if (this->*action) (this->*action)(index);
+  };
+  slot.OnHover = [this, index](bool over) { HoverSlot(index, over); };
+  slot.OnArrow = [this, index](int step) { MoveFocus(index, step); };
+  slot.OnOpen = [run] { run(&HeaderBar::OnSlotOpen); };
+  slot.OnMenu = [run] { run(&HeaderBar::OnSlotClick); };
+  slot.OnKey = [run](int key) {
+    run(key == Qt::Key_F2 ? &HeaderBar::OnSlotRename : &HeaderBar::OnSlotDelete);
+  };
+  connect(&slot, &QAbstractButton::clicked, this, [this, index, run, &slot] {
+    if (!slot.ByPointer()) return run(&HeaderBar::OnSlotClick);
+    clicked_ = index;
+    doubleClick_.start();
+  });
 }
 
 void HeaderBar::MoveFocus(std::size_t index, int step) {
@@ -187,6 +208,15 @@ void HeaderBar::HoverSlot(std::size_t index, bool over) {
 
 void HeaderBar::ShowInformation(TextView text) { information_->setText(ToQt(text)); }
 
+// A file that is open in the form at the front.
+bool HeaderBar::IsCurrent(std::size_t index, TextView page) const {
+  if (index == Principale::CandidatureSlot) return page == u"FormCand";
+  const bool letter = index >= Principale::FirstLetterSlot;
+  if (!OpenFile || page != (letter ? u"FormLettre" : u"FormRédigerCV")) return false;
+  const Text& name = principale_.ImageMenu[index].toolTip;
+  return !name.empty() && name == OpenFile(page);
+}
+
 void HeaderBar::Refresh(TextView page) {
   page_ = page;
   for (std::size_t i = 0; i < slots_.size(); ++i) {
@@ -196,7 +226,7 @@ void HeaderBar::Refresh(TextView page) {
     slots_[i]->SetLook({.icon = IconOf(slot),
                         .caption = ToQt(SlotCaption(principale_, i)),
                         .badge = ToQt(KindInName(name)),
-                        .current = candidatures && page == u"FormCand",
+                        .current = IsCurrent(i, page),
                         .free = slot.picture == SlotPicture::ImageNew && !candidatures});
     slots_[i]->setToolTip(ToolTipText(name));
     slots_[i]->setAccessibleName(ToQt(name.empty() ? SlotInformation(principale_, i) : name));

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QFrame>
+#include <QTimer>
 #include <array>
 #include <functional>
 
@@ -19,10 +20,14 @@ class HeaderBar : public QFrame {
   HeaderBar(Principale& principale, const Theme& theme, QWidget* parent);
 
   std::function<void()> OnLogo, OnMenu, OnPrint, OnSave;
-  std::function<void(std::size_t slot)> OnSlotClick, OnSlotOpen;
+  // A click, which waits for the second one of a double click; a double click; F2; Del.
+  std::function<void(std::size_t slot)> OnSlotClick, OnSlotOpen, OnSlotRename, OnSlotDelete;
+  // The name of the file that the form at the front shows, empty without one.
+  std::function<Text(TextView page)> OpenFile;
 
   // Shows the slots as they stand. `page` is the form at the front.
   void Refresh(TextView page);
+  void ClearInformation() { ShowInformation({}); }
   [[nodiscard]] IconTile& Slot(std::size_t index) { return *slots_[index]; }
 
  protected:
@@ -34,6 +39,8 @@ class HeaderBar : public QFrame {
   IconTile* MakeButton(const QString& icon, const QString& caption, const QString& name,
                        std::function<void()> HeaderBar::*click);
   void MakeSlot(std::size_t index, QWidget* tray);
+  void ConnectSlot(std::size_t index, IconTile& slot);
+  [[nodiscard]] bool IsCurrent(std::size_t index, TextView page) const;
   void MakeLogo();
   void HoverSlot(std::size_t index, bool over);
   void MoveFocus(std::size_t index, int step);
@@ -47,6 +54,8 @@ class HeaderBar : public QFrame {
   QToolButton* logo_ = nullptr;
   QLabel* information_ = nullptr;
   Text page_;
+  QTimer doubleClick_;  // runs after a click that may become a double one
+  std::size_t clicked_ = 0;
 };
 
 }  // namespace talvor

@@ -1,11 +1,13 @@
 #include "desktop/home_window.h"
 
 #include <QEvent>
+#include <QGraphicsOpacityEffect>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
 #include <QPointer>
+#include <QStyle>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -146,14 +148,7 @@ HomeWindow::HomeWindow(AssistantTexte& panel, const Theme& theme, QWidget* paren
   question->setProperty("role", QStringLiteral("hero"));
   left->addWidget(question);
   left->addSpacing(10);
-  for (HomeRowButton*& row : rows_) {
-    row = new HomeRowButton(theme, this);
-    row->setFixedHeight(RowSize.height() + 4);
-    row->setMinimumWidth(440);
-    row->setMaximumWidth(RowSize.width() + 4);
-    connect(row, &QAbstractButton::clicked, this, [this, row] { Click(*row); });
-    left->addWidget(row);
-  }
+  left->addWidget(MakeRows());
   left->addStretch(1);
   columns->addLayout(left, 8);
 
@@ -168,7 +163,45 @@ HomeWindow::HomeWindow(AssistantTexte& panel, const Theme& theme, QWidget* paren
   right->addStretch(1);
   columns->addWidget(side_);
   columns->addStretch(1);
+  constexpr int TickMilliseconds = 16;
+  timer1_.setInterval(TickMilliseconds);
+  connect(&timer1_, &QTimer::timeout, this, [this] { Slide(); });
   Refresh();
+}
+
+QWidget* HomeWindow::MakeRows() {
+  auto* box = new QWidget(this);
+  fade_ = new QGraphicsOpacityEffect(box);
+  box->setGraphicsEffect(fade_);
+  rowsColumn_ = new QVBoxLayout(box);
+  rowsColumn_->setContentsMargins(0, 0, 0, 0);
+  rowsColumn_->setSpacing(8);
+  for (HomeRowButton*& row : rows_) {
+    row = new HomeRowButton(theme_, box);
+    row->setFixedHeight(RowSize.height() + 4);
+    row->setMinimumWidth(440);
+    row->setMaximumWidth(RowSize.width() + 4);
+    connect(row, &QAbstractButton::clicked, this, [this, row] { Click(*row); });
+    rowsColumn_->addWidget(row);
+  }
+  return box;
+}
+
+// A system without animations has the rows in their place at once.
+void HomeWindow::BeginSlide() {
+  if (style()->styleHint(QStyle::SH_Widget_Animate, nullptr, this) == 0)
+    while (panel_.Timer1()) continue;
+  timer1_.start();
+  Slide();
+}
+
+void HomeWindow::Slide() {
+  const int ecart = panel_.Ecart;
+  rowsColumn_->setContentsMargins(ecart, 0, 0, 0);
+  fade_->setOpacity(1 - static_cast<double>(ecart) / (AssistantTexte::FarthestEcart + 1));
+  fade_->setEnabled(ecart > 0);
+  if (ecart == 0) return timer1_.stop();
+  static_cast<void>(panel_.Timer1());
 }
 
 QWidget* HomeWindow::MakeCounts() {
@@ -195,8 +228,12 @@ QWidget* HomeWindow::MakeCounts() {
 void HomeWindow::Click(const HomeRowButton& button) {
   const QPointer<HomeWindow> self(this);
   const Text title = button.Row().title;
+  const auto acted = OnActed;
   panel_.Clic(title);
-  if (!self) return;
+  if (!self) {
+    if (acted) acted();
+    return;
+  }
   Refresh();
   if (OnActed) OnActed();
 }
@@ -211,6 +248,7 @@ void HomeWindow::Refresh() {
                      look == nullptr ? -1 : ToQt(row.title).indexOf(QString::fromUtf16(look->mnemonic)));
     rows_[i]->setVisible(!row.title.empty());
   }
+  if (panel_.Ecart > 0 && !timer1_.isActive()) BeginSlide();
   const QStringList lines = ShownText(panel_.Compteurs).split(QLatin1Char('\n'));
   for (std::size_t i = 0; i < counts_.size(); ++i) {
     const QString line = lines.value(static_cast<qsizetype>(i));

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QTimer>
 #include <QWidget>
 #include <array>
 #include <functional>
@@ -9,8 +10,9 @@
 #include "desktop/theme.h"
 #include "shell/home_panel.h"
 
-class QGridLayout;
+class QGraphicsOpacityEffect;
 class QLabel;
+class QVBoxLayout;
 
 namespace talvor {
 
@@ -42,17 +44,25 @@ class HomeWindow : public QWidget {
 
   std::function<void()> OnActed;
   void Refresh();
+  // Where the figure of `Assistant` stands.
+  [[nodiscard]] QWidget* Road() const { return road_; }
 
  protected:
   void showEvent(QShowEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:
+  QWidget* MakeRows();
   QWidget* MakeCounts();
+  void BeginSlide();
+  void Slide();
   void Click(const HomeRowButton& button);
 
   AssistantTexte& panel_;
   const Theme& theme_;
+  QTimer timer1_;  // the slide of the rows
+  QGraphicsOpacityEffect* fade_ = nullptr;
+  QVBoxLayout* rowsColumn_ = nullptr;
   QWidget* side_;
   QWidget* road_;
   std::array<HomeRowButton*, 4> rows_{};

@@ -1,5 +1,6 @@
 #include "desktop/icon_tile.h"
 
+#include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStringList>
@@ -153,16 +154,29 @@ void IconTile::focusOutEvent(QFocusEvent* event) {
   QAbstractButton::focusOutEvent(event);
 }
 
+void IconTile::mousePressEvent(QMouseEvent* event) {
+  byPointer_ = true;
+  QAbstractButton::mousePressEvent(event);
+}
+
+void IconTile::contextMenuEvent(QContextMenuEvent* event) {
+  if (!OnMenu) return QAbstractButton::contextMenuEvent(event);
+  event->accept();
+  OnMenu();
+}
+
 void IconTile::mouseDoubleClickEvent(QMouseEvent* event) {
   if (OnOpen && event->button() == Qt::LeftButton) OnOpen();
 }
 
 void IconTile::keyPressEvent(QKeyEvent* event) {
+  byPointer_ = false;
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   if (enter && event->modifiers().testFlag(Qt::ControlModifier) && OnOpen) return OnOpen();
   if (enter) return click();
   if (OnArrow && (event->key() == Qt::Key_Left || event->key() == Qt::Key_Right))
     return OnArrow(event->key() == Qt::Key_Left ? -1 : 1);
+  if (OnKey && (event->key() == Qt::Key_F2 || event->key() == Qt::Key_Delete)) return OnKey(event->key());
   QAbstractButton::keyPressEvent(event);
 }
 

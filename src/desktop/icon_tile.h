@@ -29,6 +29,10 @@ class IconTile : public QAbstractButton {
   std::function<void(bool over)> OnHover;  // pointer or focus comes and goes
   std::function<void()> OnOpen;            // double click, Ctrl+Enter
   std::function<void(int step)> OnArrow;   // -1 or 1
+  std::function<void()> OnMenu;            // right click, menu key
+  std::function<void(int key)> OnKey;      // F2, Del
+  // The click under way is the pointer's: a second one may follow and make it a double click.
+  [[nodiscard]] bool ByPointer() const { return byPointer_; }
 
   [[nodiscard]] QSize sizeHint() const override { return size_; }
 
@@ -38,7 +42,9 @@ class IconTile : public QAbstractButton {
   void leaveEvent(QEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
@@ -53,6 +59,7 @@ class IconTile : public QAbstractButton {
   Look look_;
   bool compact_ = false;
   bool over_ = false;
+  bool byPointer_ = false;
 };
 
 // A name on at most two lines of that width, cut at blanks, each elided when it is too long.

@@ -38,12 +38,6 @@ MainWindow::MainWindow(Principale& principale, QtShell& shell, const Theme& them
   header_->OnLogo = [this] { menu_.ClicLogo(); };
   header_->OnMenu = [this] { menu_.ClicMenu(); };
   header_->OnSave = [this] { menu_.ClicSauver(); };
-  header_->OnSlotClick = [&principale](std::size_t slot) {
-    principale.IndexMenu = static_cast<std::int16_t>(slot);
-  };
-  header_->OnSlotOpen = [this](std::size_t slot) {
-    if (slot == Principale::CandidatureSlot) menu_.DoubleClicCandidatures();
-  };
   AddShortcuts();
 }
 

@@ -90,13 +90,19 @@ QString Elements(std::size_t count) {
 
 QString SetValues(const std::vector<ElementValue>& values) {
   QJsonArray orders;
-  for (const ElementValue& order : values)
-    orders.append(QJsonArray{static_cast<double>(order.index), PageText(order.value)});
+  for (const ElementValue& order : values) {
+    QJsonArray pair;
+    pair.append(static_cast<double>(order.index));
+    pair.append(PageText(order.value));
+    orders.append(pair);
+  }
+  QJsonArray arguments;
+  arguments.append(orders);
   return Script(QStringLiteral(R"(
     const known = globalThis.talvorElements || [];
     for (const [index, value] of given[0]) if (known[index]) put(known[index], value);
   )"),
-                {orders});
+                arguments);
 }
 
 QString SetNamedValue(TextView name, TextView value) {

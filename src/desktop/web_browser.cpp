@@ -67,6 +67,7 @@ void WebBrowser::Follow(WebPage& page) {
 void WebBrowser::LoadingChanged(const QWebEngineLoadingInfo& info) {
   using Info = QWebEngineLoadingInfo;
   state_.loading = info.status() == Info::LoadStartedStatus;
+  deaf_ = false;
   if (state_.loading) {
     state_.progress = 0;
     state_.notice.clear();
@@ -87,6 +88,7 @@ void WebBrowser::LoadingChanged(const QWebEngineLoadingInfo& info) {
 }
 
 void WebBrowser::Terminated() {
+  if (next_ && view_) return std::exchange(next_, nullptr)(*view_);
   const bool endless = std::exchange(endless_, false);
   ShowNotice(endless ? tr("Cette page ouvrait des messages sans fin\u00A0: elle a été arrêtée.")
                      : tr("La page s’est arrêtée brutalement. La candidature en cours n’est pas touchée."));
@@ -115,9 +117,20 @@ void WebBrowser::Navigate(TextView address) {
   if (!WebPage::Shows(url)) return ShowNotice(tr("Le navigateur n’ouvre que des pages du Web."));
   // A place in the page on show is reached without a load.
   if (!url.hasFragment() || !url.matches(view_->url(), QUrl::RemoveFragment)) state_.loading = true;
+  Leave([url](QWebEngineView& view) { view.load(url); });
+}
+
+void WebBrowser::Leave(const std::function<void(QWebEngineView&)>& go) {
+  constexpr int PatienceMilliseconds = 1500;
+  const bool runs = state_.notice.isEmpty();
   state_.notice.clear();
   Changed();
-  view_->load(url);
+  const bool answers = !runs || (!deaf_ && Run(QStringLiteral("1"), PatienceMilliseconds));
+  if (!view_) return;
+  next_ = answers ? nullptr : go;
+  if (!answers && static_cast<WebPage*>(view_->page())->EndProcess()) return;
+  next_ = nullptr;
+  go(*view_);
 }
 
 Text WebBrowser::LocationURL() const {
@@ -126,11 +139,11 @@ Text WebBrowser::LocationURL() const {
 }
 
 void WebBrowser::GoBack() {
-  if (view_) view_->back();
+  if (view_ && view_->history()->canGoBack()) Leave([](QWebEngineView& view) { view.back(); });
 }
 
 void WebBrowser::GoForward() {
-  if (view_) view_->forward();
+  if (view_ && view_->history()->canGoForward()) Leave([](QWebEngineView& view) { view.forward(); });
 }
 
 void WebBrowser::Stop() {
@@ -148,25 +161,31 @@ void WebBrowser::Reload() {
 }
 
 QVariant WebBrowser::Ask(const QString& script) {
-  if (!view_ || !state_.notice.isEmpty()) return {};
+  if (!view_ || deaf_ || !state_.notice.isEmpty()) return {};
+  const auto answer = Run(script, AnswerMilliseconds);
+  if (!answer) deaf_ = view_;
+  return answer.value_or(QVariant());
+}
+
+std::optional<QVariant> WebBrowser::Run(const QString& script, int milliseconds) {
   struct Answer {
-    QVariant value;
-    bool come = false;
+    std::optional<QVariant> value;
     QPointer<QEventLoop> loop;
   };
   const auto answer = std::make_shared<Answer>();  // the page may answer when nobody waits any more
+  const QPointer<WebBrowser> self(this);
   QEventLoop loop;
   answer->loop = &loop;
   QWebEnginePage* page = view_->page();
   connect(page, &QObject::destroyed, &loop, &QEventLoop::quit);
   connect(page, &QWebEnginePage::renderProcessTerminated, &loop, &QEventLoop::quit);
-  QTimer::singleShot(AnswerMilliseconds, &loop, &QEventLoop::quit);
-  page->runJavaScript(script, QWebEngineScript::ApplicationWorld, [answer](const QVariant& value) {
+  QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+  page->runJavaScript(script, QWebEngineScript::ApplicationWorld, [answer, self](const QVariant& value) {
     answer->value = value;
-    answer->come = true;
-    if (answer->loop) answer->loop->quit();
+    if (answer->loop) return answer->loop->quit();
+    if (self) self->deaf_ = false;
   });
-  if (!answer->come) loop.exec();
+  if (!answer->value) loop.exec();
   return answer->value;
 }
 

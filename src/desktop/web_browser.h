@@ -6,6 +6,7 @@
 #include <QWebEngineView>
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include "desktop/web_page.h"
 #include "desktop/web_profile.h"
@@ -66,13 +67,19 @@ class WebBrowser : public QObject, public DocumentBrowser {
   void ShowNotice(const QString& notice);
   void Changed();
   QVariant Ask(const QString& script);
+  // Runs a script on the page and waits for its answer; nothing when none has come in time.
+  std::optional<QVariant> Run(const QString& script, int milliseconds);
+  // Goes elsewhere, past a page whose scripts never come to rest.
+  void Leave(const std::function<void(QWebEngineView&)>& go);
 
   Dialogs& dialogs_;
   std::unique_ptr<WebProfile> profile_;
   QPointer<QWebEngineView> view_;
   WebState state_;
-  bool endless_ = false;      // the page has been ended for its boxes
-  Text location_{BlankPage};  // as last asked for, until the view answers
+  bool deaf_ = false;                          // a question has been left without an answer
+  std::function<void(QWebEngineView&)> next_;  // once the process of the page before has ended
+  bool endless_ = false;                       // the page has been ended for its boxes
+  Text location_{BlankPage};                   // as last asked for, until the view answers
 };
 
 }  // namespace talvor

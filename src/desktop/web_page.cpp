@@ -93,13 +93,17 @@ bool WebPage::acceptNavigationRequest(const QUrl& address, NavigationType type, 
   return Shows(address) || (mail && type == NavigationTypeLinkClicked);
 }
 
+bool WebPage::EndProcess() {
+  const qint64 process = renderProcessPid();
+  return process > 0 && ::kill(static_cast<pid_t>(process), SIGKILL) == 0;
+}
+
 bool WebPage::GrantBox() {
   if (boxes_.Grant()) return true;
   if (boxes_.Endless()) {
     boxes_.Forget();
-    // Only its process can be ended: its script never comes to rest.
     if (OnEndless) OnEndless();
-    if (const qint64 process = renderProcessPid(); process > 0) ::kill(static_cast<pid_t>(process), SIGKILL);
+    EndProcess();
   }
   return false;
 }

@@ -16,6 +16,9 @@ class WebPage : public QWebEnginePage {
   // The page opens boxes without end and has been ended.
   std::function<void()> OnEndless;
 
+  // Ends the process that runs the page, whatever its scripts are at. False when there is none.
+  bool EndProcess();
+
   // True for an address that the pane shows: of the web, the start page, the blank page. Never a file.
   [[nodiscard]] static bool Shows(const QUrl& address);
 

@@ -48,12 +48,25 @@ int AssistantTexte::CountCvs() const {
   return static_cast<int>(slot) - 1;
 }
 
+void AssistantTexte::Show(Level shown, std::vector<HomeRow> rows) {
+  level = shown;
+  Label1 = std::move(rows);
+  Ecart = FarthestEcart;
+}
+
+bool AssistantTexte::Timer1() {
+  // A part of what is left at each tick, and a jump at the end.
+  constexpr int Jump = 2;
+  Ecart = Ecart <= Jump ? 0 : Ecart * 5 / 8;
+  return Ecart > 0;
+}
+
 void AssistantTexte::Charger() {
-  level = Level::Home;
-  Label1 = {{u"Rédiger un Curriculum Vitae", u"Rédiger, modifier ou rattacher un CV"},
-            {u"Rédiger un modèle de lettre", u"Rédiger ou modifier un modèle générique"},
-            {u"Gérer les candidatures", u"Postuler aux offres et suivre les réponses"},
-            {u"Statistiques, calendrier et alertes", u"Dates d'entretiens, statistiques sur les réponses"}};
+  Show(Level::Home,
+       {{u"Rédiger un Curriculum Vitae", u"Rédiger, modifier ou rattacher un CV"},
+        {u"Rédiger un modèle de lettre", u"Rédiger ou modifier un modèle générique"},
+        {u"Gérer les candidatures", u"Postuler aux offres et suivre les réponses"},
+        {u"Statistiques, calendrier et alertes", u"Dates d'entretiens, statistiques sur les réponses"}});
   Compteurs = u"Nombre de CV : " + NumberText(CountCvs()) + Text{LineEnd} + u"Nombre de lettres : " +
               NumberText(static_cast<long long>(principale_.File1.Count())) + Text{LineEnd} +
               u"Nombre de candidatures : " + principale_.NbCand;
@@ -71,28 +84,25 @@ HomeRow AssistantTexte::LetterRow(std::size_t slot) const {
 }
 
 void AssistantTexte::ChoixCV() {
-  level = Level::CV;
   const Text first = NameInSlot(0);
-  Label1 = {{u"Réaliser un nouveau CV", u"Rédiger un CV à l'aide de l'assistant Talvor"},
-            {u"Rattacher un CV existant", u"Qui a été réalisé par ailleurs"},
-            {first, first.empty() ? u"" : u"Consulter / Modifier"},
-            {Text{BackTitle}, Text{BackCommand}}};
+  Show(Level::CV, {{u"Réaliser un nouveau CV", u"Rédiger un CV à l'aide de l'assistant Talvor"},
+                   {u"Rattacher un CV existant", u"Qui a été réalisé par ailleurs"},
+                   {first, first.empty() ? u"" : u"Consulter / Modifier"},
+                   {Text{BackTitle}, Text{BackCommand}}});
 }
 
 void AssistantTexte::ChoixLettre() {
-  level = Level::Letters;
-  Label1 = {{u"Réaliser un nouveau modèle de lettre", u"A l'aide de suggestions de textes"},
-            LetterRow(Principale::FirstLetterSlot),
-            LetterRow(Principale::FirstLetterSlot + 1),
-            {Text{BackTitle}, Text{BackCommand}}};
+  Show(Level::Letters, {{u"Réaliser un nouveau modèle de lettre", u"A l'aide de suggestions de textes"},
+                        LetterRow(Principale::FirstLetterSlot),
+                        LetterRow(Principale::FirstLetterSlot + 1),
+                        {Text{BackTitle}, Text{BackCommand}}});
 }
 
 void AssistantTexte::ChoixCand() {
-  level = Level::Candidatures;
-  Label1 = {{u"Gestion manuelle des candidatures", u"Et des contacts sociétés"},
-            {u"Recherche des offres sur Internet", u"Sur les sites spécialisés"},
-            {u"Justificatif de recherche d'emploi", u"A l'attention des services sociaux"},
-            {Text{BackTitle}, Text{BackCommand}}};
+  Show(Level::Candidatures, {{u"Gestion manuelle des candidatures", u"Et des contacts sociétés"},
+                             {u"Recherche des offres sur Internet", u"Sur les sites spécialisés"},
+                             {u"Justificatif de recherche d'emploi", u"A l'attention des services sociaux"},
+                             {Text{BackTitle}, Text{BackCommand}}});
 }
 
 void AssistantTexte::Clic(TextView title) {

@@ -39,12 +39,17 @@ class AssistantTexte {
   std::vector<HomeRow> Label1;
   Text Compteurs;  // three lines, the counts of CVs, letters and candidatures
   Level level = Level::Home;
+  // How far the rows stand from their place, in pixels; a change of level moves them away.
+  static constexpr int FarthestEcart = 24;
+  int Ecart = 0;
 
   // The panel is loaded: the home level and the counts.
   void Charger();
   void ChoixCV();
   void ChoixLettre();
   void ChoixCand();
+  // Moves the rows towards their place; false once they are there.
+  [[nodiscard]] bool Timer1();
   // The click on a row, by its title.
   void Clic(TextView title);
 
@@ -54,6 +59,7 @@ class AssistantTexte {
   [[nodiscard]] Text NameInSlot(std::size_t slot) const;
   void ClicFile(TextView title);
   void RattacherCV();
+  void Show(Level shown, std::vector<HomeRow> rows);
   void GererCandidatures();
   void RechercherOffres();
 

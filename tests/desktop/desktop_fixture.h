@@ -14,6 +14,7 @@
 #include "desktop/desktop.h"
 #include "desktop/text_edge.h"
 #include "tests/fakes/fakes.h"
+#include "tests/fakes/file_fakes.h"
 #include "tests/fakes/scratch_folder.h"
 
 namespace talvor {
@@ -49,7 +50,7 @@ class DesktopTest : public testing::Test {
   // The program is closed and started again.
   void Restart() {
     desktop.reset();
-    desktop = std::make_unique<Desktop>(theme, environment, clock, dialogs);
+    desktop = std::make_unique<Desktop>(theme, environment, clock, dialogs, &pickers);
     App().OnFailure = [this](const std::string& report) { failures.push_back(report); };
     ASSERT_TRUE(desktop->StartAtOnce());
     desktop->Windows().Show(u"FormCand");
@@ -106,6 +107,7 @@ class DesktopTest : public testing::Test {
   FakeEnvironment environment;
   FakeClock clock{{2026, 3, 1}};
   FakeDialogs dialogs;
+  FakePickers pickers;
   Theme theme;
   std::vector<std::string> failures;
   std::unique_ptr<Desktop> desktop;

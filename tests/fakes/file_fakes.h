@@ -2,7 +2,6 @@
 #pragma once
 
 #include <map>
-#include <vector>
 
 #include "platform/menus.h"
 #include "platform/pickers.h"

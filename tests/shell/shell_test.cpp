@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "shell/assistant.h"
 #include "shell/button_glyph.h"
 #include "shell/depart.h"
 #include "shell/guide.h"
@@ -187,6 +188,31 @@ TEST_F(HomePanelTest, TitlesAreCommands) {
   principale.ImageMenu[0].toolTip = u"Julie.doc";
   panel.ChoixCV();
   EXPECT_EQ(panel.Label1[2], HomeRow{}) << "only a file of the editor is offered";
+}
+
+TEST_F(HomePanelTest, AChangeOfLevelMovesTheRowsAwayAndTheyComeBackInAShortTime) {
+  panel.ChoixCV();
+  int before = panel.Ecart;
+  EXPECT_EQ(before, AssistantTexte::FarthestEcart);
+  int ticks = 1;
+  while (panel.Timer1()) {
+    EXPECT_LT(panel.Ecart, before);
+    before = panel.Ecart;
+    ++ticks;
+  }
+  EXPECT_EQ(panel.Ecart, 0);
+  EXPECT_LE(ticks, 12);
+}
+
+TEST_F(HomePanelTest, TheAssistantSharesTheCommandsAndGivesWayToTheEditor) {
+  Assistant assistant(panel, shell);
+  assistant.Clic(u"Gérer les candidatures");
+  EXPECT_EQ(panel.level, AssistantTexte::Level::Candidatures);
+  assistant.Timer1();
+  EXPECT_TRUE(shell.calls.empty());
+  shell.visible.insert(u"FormRédigerCV");
+  assistant.Timer1();
+  EXPECT_EQ(shell.calls, std::vector<Text>{u"Unload Assistant"});
 }
 
 TEST_F(HomePanelTest, AttachingTheFirstCvIsAdvisedAgainst) {

@@ -1,19 +1,21 @@
-// The menus of the editor of CVs, by the names of their items.
+// Menus of the program as popups, by the names of their items: the real part of `Menus`.
 #pragma once
 
 #include <QMenu>
 #include <QPointer>
 #include <functional>
+#include <initializer_list>
 #include <memory>
 
+#include "app/menu_trees.h"
 #include "desktop/theme.h"
-#include "platform/menus.h"
 
 namespace talvor {
 
-class CvMenus : public Menus {
+class QtMenus : public Menus {
  public:
-  explicit CvMenus(const Theme& theme);
+  // Makes the menus of those names.
+  QtMenus(const Theme& theme, std::initializer_list<TextView> names);
 
   // Called with the name of the item that the user has chosen.
   std::function<void(TextView item)> OnChosen;
@@ -23,13 +25,14 @@ class CvMenus : public Menus {
 
   // The menu stays open when the call returns.
   void Open(TextView menu) override;
+  void OpenAt(TextView menu, QPoint place);
   void Enable(TextView item, bool enabled) override;
   void Check(TextView item, bool checked) override;
 
  private:
-  void MakeMenus();
-  QMenu* AddMenu(const char16_t* name);
-  QAction* AddItem(QMenu* menu, const char16_t* name, const QString& caption, const QString& icon = {});
+  void MakeMenu(const MenuTree& tree);
+  void AddItem(QMenu& menu, const MenuItem& item);
+  void Pick(const std::function<void(QAction&)>& action, TextView item) const;
 
   const Theme& theme_;
   QObject owner_;  // ends the connections with the menus
