@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "base/failure_cause.h"
 #include "cli/commands.h"
 #include "tracking/store.h"
 
@@ -254,7 +255,7 @@ ExitCode RunCommandLine(std::vector<std::string> arguments, Console& console) {
   } catch (const StoreError& error) {
     console.err << "talvorctl : " << error.what() << '\n';
   } catch (const std::filesystem::filesystem_error& error) {
-    console.err << "talvorctl : « " << error.path1().string() << " » : " << error.code().message() << '\n';
+    console.err << "talvorctl : " << ToUtf8(ReportOf(error)) << '\n';
   } catch (const std::bad_alloc&) {
     console.err << "talvorctl : la mémoire est insuffisante\n";
   }

@@ -266,35 +266,6 @@ void PhotographLetters(Desktop& desktop, Photographer photographer) {
   shell.Unload(LetterForm);
 }
 
-void PhotographSending(Desktop& desktop, Photographer photographer) {
-  QtShell& shell = desktop.Windows();
-  std::ofstream("Lettres/Julie Marchand (ER).dat")
-      << "Nom=Marchand\r\nPr\xE9nom=Julie\r\nEmail=julie.marchand@mail.example\r\nText1=#Titre# "
-         "#NomContact#,<N><N>"
-         "Votre annonce parue sur #Origine# a retenu toute mon attention et je vous propose ma candidature "
-         "au "
-         "poste de #Intitule#.<N>Je vous prie d'agr\xE9"
-         "er, #Titre#, l'expression de mes salutations distingu\xE9"
-         "es.\r\n";
-  Text address;
-  shell.Show(ApplyForm);
-  QWidget* window = shell.WindowOf(ApplyForm);
-  photographer.Take(u"postuler", window);
-  shell.Unload(ApplyForm);
-  std::swap(desktop.Candidatures().Email, address);
-  shell.Show(ApplyForm);
-  window = shell.WindowOf(ApplyForm);
-  window->resize(window->minimumSize());
-  photographer.Take(u"postuler-petit", window);
-  std::swap(desktop.Candidatures().Email, address);
-  shell.Unload(ApplyForm);
-  desktop.Cv().OpenFile(u"Marchand Julie.dat");
-  shell.Show(ConvertForm);
-  photographer.Take(u"convertir", shell.WindowOf(ConvertForm));
-  shell.Unload(ConvertForm);
-  shell.Unload(EditorForm);
-}
-
 // The page of an advertisement, as a site would show it.
 constexpr TextView SamplePage =
     u"data:text/html;charset=utf-8,<body style='font:14px sans-serif;margin:24px'><h1>Chargée de "
@@ -351,6 +322,35 @@ void PhotographSmallForms(Desktop& desktop, const Theme& theme, Photographer pho
   }
   AboutBox about(theme, nullptr);
   photographer.Take(u"a-propos", &about);
+}
+
+void PhotographSending(Desktop& desktop, Photographer photographer) {
+  QtShell& shell = desktop.Windows();
+  std::ofstream("Lettres/Julie Marchand (ER).dat")
+      << "Nom=Marchand\r\nPr\xE9nom=Julie\r\nEmail=julie.marchand@mail.example\r\nText1=#Titre# "
+         "#NomContact#,<N><N>"
+         "Votre annonce parue sur #Origine# a retenu toute mon attention et je vous propose ma candidature "
+         "au "
+         "poste de #Intitule#.<N>Je vous prie d'agr\xE9"
+         "er, #Titre#, l'expression de mes salutations distingu\xE9"
+         "es.\r\n";
+  Text address;
+  shell.Show(ApplyForm);
+  QWidget* window = shell.WindowOf(ApplyForm);
+  photographer.Take(u"postuler", window);
+  shell.Unload(ApplyForm);
+  std::swap(desktop.Candidatures().Email, address);
+  shell.Show(ApplyForm);
+  window = shell.WindowOf(ApplyForm);
+  window->resize(window->minimumSize());
+  photographer.Take(u"postuler-petit", window);
+  std::swap(desktop.Candidatures().Email, address);
+  shell.Unload(ApplyForm);
+  desktop.Cv().OpenFile(u"Marchand Julie.dat");
+  shell.Show(ConvertForm);
+  photographer.Take(u"convertir", shell.WindowOf(ConvertForm));
+  shell.Unload(ConvertForm);
+  shell.Unload(EditorForm);
 }
 
 void PhotographForms(Desktop& desktop, const Theme& theme, Photographer photographer) {

@@ -185,6 +185,8 @@ void Desktop::CloseDocuments() {
   if (cv_.Window() != nullptr && !cv_.Form().Nom.empty()) cv_.Form().SauvegarderCV();
   shell_.Unload(EditorForm);
   shell_.Unload(LetterForm);
+  shell_.Unload(ApplyForm);
+  shell_.Unload(ConvertForm);
   if (!formCandWindow_) return;
   formCandWindow_->Tick3000();
   // A candidature that has no row yet waits for one in the new data; the list closes its handle.
@@ -380,8 +382,8 @@ bool Desktop::StartAtOnce() {
 void Desktop::Stop() {
   if (formCandWindow_) formCandWindow_->StopTimers();
   if (letterWindow_) letterWindow_->StopTimer();
-  sending_->StopTimer();
   formLettre_.Timer1();
+  sending_->StopTimer();
   main_->setEnabled(false);
 }
 

@@ -55,9 +55,9 @@ class Desktop {
   [[nodiscard]] FormCandWeb& Web();
   [[nodiscard]] WebBrowser& Pages() { return browser_; }
   [[nodiscard]] CvDesk& Cv() { return cv_; }
-  [[nodiscard]] SendingDesk& Sending() { return *sending_; }
   [[nodiscard]] LibraryDesk& Library() { return library_; }
   [[nodiscard]] FormLoadSave& Backup() { return backup_; }
+  [[nodiscard]] SendingDesk& Sending() { return *sending_; }
   // The window of the candidatures, or null.
   [[nodiscard]] FormCandWindow* CandidatureWindow() const { return formCandWindow_; }
   // The window of the letters, or null.
@@ -109,11 +109,11 @@ class Desktop {
   QtPickers ownPickers_;
   Pickers& pickers_;
   CvDesk cv_;
-  std::optional<SendingDesk> sending_;
   LibraryDesk library_;
   FormLoadSave backup_;
   Assistant assistant_{assistantTexte_, shell_};
   MiseEnPage miseEnPage_{shell_, dialogs_};
+  std::optional<SendingDesk> sending_;
 
   std::unique_ptr<MainWindow> main_;
   QPointer<FormCandWindow> formCandWindow_;
