@@ -103,6 +103,8 @@ bool FormLoadSave::Try(TextView problem, Action&& action) {
     failure = Text{problem} + MessageOf(thrown);
   } catch (const StoreError& thrown) {
     failure = Text{problem} + MessageOf(thrown);
+  } catch (const fs::filesystem_error& thrown) {
+    failure = Text{problem} + ReportOf(thrown);
   }
   busy = false;
   if (OnProgress) OnProgress();
@@ -137,8 +139,8 @@ bool FormLoadSave::Sauver() {
 }
 
 bool FormLoadSave::SauverDans(const fs::path& answer) {
-  const fs::path source = fs::current_path();
   const bool done = Try(SaveProblem, [&] {
+    const fs::path source = fs::current_path();
     CheckFolders(source, LandingOf(source, answer.parent_path()));
     const bool removed = RemoveOldDatabase(answer);
     WorkspaceSteps steps(*steps_, around_.clock);
@@ -180,8 +182,9 @@ bool FormLoadSave::Charger() {
 }
 
 bool FormLoadSave::Restaurer(const fs::path& source, const fs::path& destination) {
-  const fs::path workspace = fs::current_path();
+  bool elsewhere = false;
   const bool done = Try(LoadProblem, [&] {
+    elsewhere = fs::weakly_canonical(destination) != fs::current_path();
     CheckFolders(source, destination);
     CheckDatabase(source);
     CopyOptions options = Options();
@@ -194,7 +197,7 @@ bool FormLoadSave::Restaurer(const fs::path& source, const fs::path& destination
     around_.principale.InitMenu();
   });
   if (!done) return false;
-  if (fs::weakly_canonical(destination) != workspace)
+  if (elsewhere)
     around_.dialogs.Tell(u"Les données ont été copiées dans «\u00A0" + TextOf(destination).value_or(Text{}) +
                          u"\u00A0», qui n’est pas le dossier de travail.");
   Done(Loaded);

@@ -41,4 +41,11 @@ Text CauseOf(const std::error_code& failure) {
   return u"erreur n° " + NumberText(failure.value());
 }
 
+Text ReportOf(const std::filesystem::filesystem_error& failure) {
+  // Only the working folder has no path of its own any more: its support may have gone.
+  const Text path = FromUtf8(failure.path1().native()).value_or(Text{});
+  const Text what = path.empty() ? Text{u"Le dossier de travail"} : u"«\u00A0" + path + u"\u00A0»";
+  return what + u"\u00A0: " + CauseOf(failure.code()) + u".";
+}
+
 }  // namespace talvor

@@ -255,9 +255,7 @@ ExitCode RunCommandLine(std::vector<std::string> arguments, Console& console) {
   } catch (const StoreError& error) {
     console.err << "talvorctl : " << error.what() << '\n';
   } catch (const std::filesystem::filesystem_error& error) {
-    console.err << "talvorctl : ";
-    if (!error.path1().empty()) console.err << "« " << error.path1().string() << " » : ";
-    console.err << ToUtf8(CauseOf(error.code())) << '\n';
+    console.err << "talvorctl : " << ToUtf8(ReportOf(error)) << '\n';
   } catch (const std::bad_alloc&) {
     console.err << "talvorctl : la mémoire est insuffisante\n";
   }

@@ -4,6 +4,7 @@
 #include <QLocale>
 #include <exception>
 
+#include "base/failure_cause.h"
 #include "desktop/start_page.h"
 
 namespace talvor {
@@ -30,6 +31,9 @@ Application::Application(int& argc, char** argv) : QApplication(WithSchemes(argc
 bool Application::notify(QObject* receiver, QEvent* event) {
   try {
     return QApplication::notify(receiver, event);
+  } catch (const std::filesystem::filesystem_error& failure) {
+    if (!OnFailure) throw;
+    OnFailure(ToUtf8(ReportOf(failure)));
   } catch (const std::exception& failure) {
     if (!OnFailure) throw;
     OnFailure(failure.what());

@@ -6,7 +6,7 @@ namespace talvor {
 namespace {
 
 constexpr int Side = 44;
-constexpr QPoint Place{178, 222};  // on the road, between the letter and the candidature
+constexpr QPoint Place{94, 226};  // at the beginning of the road
 
 }  // namespace
 

@@ -1,7 +1,6 @@
 #include "desktop/backup_window.h"
 
 #include <QCloseEvent>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLocale>
 #include <QPainter>
@@ -36,17 +35,14 @@ constexpr std::array<LinkLook, 3> Looks{{
 
 BackupLink::BackupLink(const Theme& theme, const FormLoadSave::Link& link, const QString& icon,
                        qsizetype mnemonic, QWidget* parent)
-    : QAbstractButton(parent), theme_(theme), icon_(icon), explanation_(ToQt(link.explanation)) {
+    : CardButton(theme, parent), icon_(icon), explanation_(ToQt(link.explanation)) {
   setObjectName(ToQt(link.name));
   setText(ToQt(link.text).insert(mnemonic, QLatin1Char('&')));
   setAccessibleName(ToQt(link.text));
   setAccessibleDescription(explanation_);
-  setFocusPolicy(Qt::StrongFocus);
-  setCursor(Qt::PointingHandCursor);
   QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Fixed);
   policy.setHeightForWidth(true);
   setSizePolicy(policy);
-  connect(&theme, &Theme::Changed, this, qOverload<>(&QWidget::update));
 }
 
 QFont BackupLink::Title() const {
@@ -73,55 +69,23 @@ QSize BackupLink::sizeHint() const {
 
 void BackupLink::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
-  const bool lit = isEnabled() && (underMouse() || hasFocus() || isDown());
-  const QString ink = !isEnabled() ? QStringLiteral("edge")
-                      : lit        ? QStringLiteral("onprimary")
-                                   : QStringLiteral("primary");
-  painter.setBrush(theme_.Color(lit ? QStringLiteral("psoft") : QStringLiteral("surface")));
-  painter.setPen(QPen(theme_.Color(lit ? QStringLiteral("primary") : QStringLiteral("line2")), 1));
-  painter.drawRoundedRect(QRectF(rect()).adjusted(2.5, 2.5, -2.5, -2.5), 8, 8);
-  if (hasFocus()) {
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(theme_.Color(QStringLiteral("focus")), 2));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 10, 10);
-  }
-
+  PaintCard(painter, QStringLiteral("line2"));
   constexpr int Picture = 22;
-  const QRect tile(15, (height() - Tile) / 2, Tile, Tile);
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(theme_.Color(lit ? QStringLiteral("primary") : QStringLiteral("psoft")));
-  painter.drawRoundedRect(tile, 9, 9);
-  painter.drawPixmap(tile.center() - QPoint(Picture / 2 - 1, Picture / 2 - 1),
-                     theme_.Pixmap(icon_, ink, Picture, devicePixelRatioF()));
+  PaintTile(painter, {15, (height() - Tile) / 2, Tile, Tile}, icon_, Picture);
 
   const int texts = TitleHeight + TextRoom(width()).height();
   const int top = (height() - texts) / 2;
   const int room = width() - TextLeft - TextRight;
   painter.setFont(Title());
-  painter.setPen(theme_.Color(isEnabled() ? QStringLiteral("primary") : QStringLiteral("edge")));
+  painter.setPen(Ink(QStringLiteral("primary")));
   painter.drawText(QRect(TextLeft, top, room, TitleHeight), Qt::AlignVCenter | Qt::TextShowMnemonic, text());
   painter.setFont(font());
-  painter.setPen(theme_.Color(isEnabled() ? QStringLiteral("text2") : QStringLiteral("edge")));
+  painter.setPen(Ink(QStringLiteral("text2")));
   painter.drawText(QRect(TextLeft, top + TitleHeight, room, texts - TitleHeight + 2), Qt::TextWordWrap,
                    explanation_);
   painter.drawPixmap(width() - 34, height() / 2 - 9,
-                     theme_.Pixmap(QStringLiteral("chev-r"), QStringLiteral("text2"), 18));
-}
-
-void BackupLink::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return click();
-  QAbstractButton::keyPressEvent(event);
-}
-
-void BackupLink::enterEvent(QEnterEvent* event) {
-  update();
-  QAbstractButton::enterEvent(event);
-}
-
-void BackupLink::leaveEvent(QEvent* event) {
-  update();
-  QAbstractButton::leaveEvent(event);
+                     Look().Pixmap(QStringLiteral("chev-r"),
+                                   isEnabled() ? QStringLiteral("text2") : QStringLiteral("edge"), 18));
 }
 
 BackupWindow::BackupWindow(FormLoadSave& form, const Theme& theme, QWidget* parent)
@@ -198,7 +162,7 @@ void BackupWindow::Refresh() {
                  french.formattedDataSize(static_cast<qint64>(now.byteCount), 0, QLocale::DataSizeSIFormat)));
     const double part =
         now.byteCount == 0 ? 1 : static_cast<double>(now.bytes) / static_cast<double>(now.byteCount);
-    bar_->setValue(static_cast<int>(part * bar_->maximum()));
+    bar_->setValue(static_cast<int>(std::min(part, 1.0) * bar_->maximum()));
   }
   if (copying_->isHidden() == shown) {
     copying_->setVisible(shown);

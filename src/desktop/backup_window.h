@@ -1,7 +1,6 @@
 // The window of `FormLoadSave`: three links, and the progress of a copy.
 #pragma once
 
-#include <QAbstractButton>
 #include <QDialog>
 #include <QPointer>
 #include <array>
@@ -9,7 +8,7 @@
 
 #include "app/form_load_save.h"
 #include "desktop/bouton_tlv.h"
-#include "desktop/theme.h"
+#include "desktop/card_button.h"
 
 class QLabel;
 class QProgressBar;
@@ -17,7 +16,7 @@ class QProgressBar;
 namespace talvor {
 
 // A link on a card: picture, text, explanation.
-class BackupLink : public QAbstractButton {
+class BackupLink : public CardButton {
  public:
   BackupLink(const Theme& theme, const FormLoadSave::Link& link, const QString& icon, qsizetype mnemonic,
              QWidget* parent);
@@ -27,15 +26,11 @@ class BackupLink : public QAbstractButton {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
-  void enterEvent(QEnterEvent* event) override;
-  void leaveEvent(QEvent* event) override;
 
  private:
   [[nodiscard]] QRect TextRoom(int width) const;
   [[nodiscard]] QFont Title() const;
 
-  const Theme& theme_;
   QString icon_;
   QString explanation_;
 };

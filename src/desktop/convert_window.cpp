@@ -1,6 +1,5 @@
 #include "desktop/convert_window.h"
 
-#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -130,9 +129,7 @@ QWidget* ConvertWindow::MakeFoot() {
 
 void ConvertWindow::Convert(const std::function<void()>& conversion) {
   setEnabled(false);
-  QGuiApplication::setOverrideCursor(Qt::WaitCursor);
   conversion();
-  QGuiApplication::restoreOverrideCursor();
 }
 
 }  // namespace talvor

@@ -15,7 +15,7 @@ namespace talvor {
 namespace {
 
 constexpr QSize SlotSize{66, 56};
-constexpr QSize CandidatureSlotSize{80, 56};
+constexpr QSize CandidatureSlotSize{94, 56};
 constexpr QSize ButtonSize{58, 56};
 constexpr int NarrowWindow = 1200;     // the name and `Information` go
 constexpr int NarrowestWindow = 1100;  // slots show their picture alone
@@ -135,7 +135,12 @@ void HeaderBar::MakeLogo() {
 
 IconTile* HeaderBar::MakeButton(const QString& icon, const QString& caption, const QString& name,
                                 std::function<void()> HeaderBar::*click) {
-  auto* button = new IconTile(theme_, ButtonSize, this);
+  // A wide font widens the button rather than cut its caption.
+  QFont face = font();
+  face.setPixelSize(IconTile::CaptionFont);
+  constexpr int Margin = 10;
+  const int needed = QFontMetrics(face).size(Qt::TextShowMnemonic, caption).width() + Margin;
+  auto* button = new IconTile(theme_, {std::max(ButtonSize.width(), needed), ButtonSize.height()}, this);
   button->setObjectName(name);
   button->setText(caption);
   button->SetLook({.icon = icon});

@@ -1,9 +1,7 @@
 #include "desktop/home_window.h"
 
-#include <QEvent>
 #include <QGraphicsOpacityEffect>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
 #include <QPointer>
@@ -57,11 +55,7 @@ QFont Sized(QFont font, int pixels, QFont::Weight weight) {
 
 }  // namespace
 
-HomeRowButton::HomeRowButton(const Theme& theme, QWidget* parent) : QAbstractButton(parent), theme_(theme) {
-  setFocusPolicy(Qt::StrongFocus);
-  setCursor(Qt::PointingHandCursor);
-  connect(&theme, &Theme::Changed, this, qOverload<>(&QWidget::update));
-}
+HomeRowButton::HomeRowButton(const Theme& theme, QWidget* parent) : CardButton(theme, parent) {}
 
 QSize HomeRowButton::sizeHint() const { return RowSize; }
 
@@ -78,56 +72,25 @@ void HomeRowButton::SetRow(const QString& icon, const HomeRow& row, qsizetype mn
 
 void HomeRowButton::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
-  const bool lit = underMouse() || hasFocus() || isDown();
-  const QString plane = lit ? QStringLiteral("psoft") : QStringLiteral("surface");
-  painter.setBrush(theme_.Color(plane));
-  painter.setPen(QPen(theme_.Color(lit ? QStringLiteral("primary") : QStringLiteral("line")), 1));
-  painter.drawRoundedRect(QRectF(rect()).adjusted(2.5, 2.5, -2.5, -2.5), 8, 8);
-  if (hasFocus()) {
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(theme_.Color(QStringLiteral("focus")), 2));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 10, 10);
-  }
-
+  PaintCard(painter, QStringLiteral("line"));
   constexpr int Tile = 52;
   constexpr int Picture = 24;
   const QRect tile(21, (height() - Tile) / 2, Tile, Tile);
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(theme_.Color(lit ? QStringLiteral("primary") : QStringLiteral("psoft")));
-  painter.drawRoundedRect(tile, 10, 10);
-  painter.drawPixmap(tile.center() - QPoint(Picture / 2 - 1, Picture / 2 - 1),
-                     theme_.Pixmap(icon_, lit ? QStringLiteral("onprimary") : QStringLiteral("primary"),
-                                   Picture, devicePixelRatioF()));
+  PaintTile(painter, tile, icon_, Picture);
 
   const int left = tile.right() + 19;
   const QRect texts(left, 0, width() - left - 52, height());
   const int middle = height() / 2;
   painter.setFont(Sized(font(), 17, QFont::DemiBold));
-  painter.setPen(theme_.Color(QStringLiteral("text")));
+  painter.setPen(Look().Color(QStringLiteral("text")));
   painter.drawText(QRect(texts.left(), middle - 25, texts.width(), 26),
                    Qt::AlignVCenter | Qt::TextShowMnemonic | Qt::TextSingleLine, text());
   painter.setFont(Sized(font(), 13, QFont::Normal));
-  painter.setPen(theme_.Color(QStringLiteral("text2")));
+  painter.setPen(Look().Color(QStringLiteral("text2")));
   painter.drawText(QRect(texts.left(), middle + 2, texts.width(), 20), Qt::AlignVCenter | Qt::TextSingleLine,
                    painter.fontMetrics().elidedText(ToQt(row_.explanation), Qt::ElideRight, texts.width()));
   painter.drawPixmap(width() - 42, middle - 10,
-                     theme_.Pixmap(QStringLiteral("chev-r"), QStringLiteral("text2"), 20));
-}
-
-void HomeRowButton::enterEvent(QEnterEvent* event) {
-  update();
-  QAbstractButton::enterEvent(event);
-}
-
-void HomeRowButton::leaveEvent(QEvent* event) {
-  update();
-  QAbstractButton::leaveEvent(event);
-}
-
-void HomeRowButton::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return click();
-  QAbstractButton::keyPressEvent(event);
+                     Look().Pixmap(QStringLiteral("chev-r"), QStringLiteral("text2"), 20));
 }
 
 HomeWindow::HomeWindow(AssistantTexte& panel, const Theme& theme, QWidget* parent)

@@ -1,13 +1,12 @@
 // The window of `AssistantTexte`, with the decorative picture `Assistant` and the counts.
 #pragma once
 
-#include <QAbstractButton>
 #include <QTimer>
 #include <QWidget>
 #include <array>
 #include <functional>
 
-#include "desktop/theme.h"
+#include "desktop/card_button.h"
 #include "shell/home_panel.h"
 
 class QGraphicsOpacityEffect;
@@ -17,7 +16,7 @@ class QVBoxLayout;
 namespace talvor {
 
 // A row of the panel: a tile, a title, an explanation and a chevron.
-class HomeRowButton : public QAbstractButton {
+class HomeRowButton : public CardButton {
  public:
   HomeRowButton(const Theme& theme, QWidget* parent);
 
@@ -28,12 +27,8 @@ class HomeRowButton : public QAbstractButton {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
-  void enterEvent(QEnterEvent* event) override;
-  void leaveEvent(QEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  const Theme& theme_;
   QString icon_;
   HomeRow row_;
 };

@@ -11,7 +11,6 @@ namespace {
 constexpr int PictureSize = 22;
 constexpr int HoverPictureSize = 26;
 constexpr int SlotFont = 11;
-constexpr int ButtonFont = 12;
 
 }  // namespace
 
@@ -82,7 +81,7 @@ void IconTile::PaintPlane(QPainter& painter) const {
 
 void IconTile::PaintCaption(QPainter& painter, const QRect& room) const {
   QFont face = font();
-  face.setPixelSize(text().isEmpty() ? SlotFont : ButtonFont);
+  face.setPixelSize(text().isEmpty() ? SlotFont : CaptionFont);
   if (look_.current) face.setWeight(QFont::DemiBold);
   painter.setFont(face);
   painter.setPen(theme_.Color(Tone()));

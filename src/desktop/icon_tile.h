@@ -19,6 +19,8 @@ class IconTile : public QAbstractButton {
     bool operator==(const Look&) const = default;
   };
 
+  static constexpr int CaptionFont = 12;  // pixels, of a button that is no slot
+
   IconTile(const Theme& theme, QSize size, QWidget* parent);
 
   void SetLook(const Look& look);

@@ -1,7 +1,8 @@
 #include "desktop/qt_documents.h"
 
+#include <QFile>
 #include <QProcess>
-#include <QString>
+#include <QStandardPaths>
 
 #include "desktop/text_edge.h"
 #include "desktop/window_titles.h"
@@ -20,6 +21,22 @@ QString AnswerOf(const QString& program, const QStringList& arguments) {
   return QString::fromUtf8(process.readAllStandardOutput()).section(QLatin1Char('\n'), 0, 0).trimmed();
 }
 
+// The name of a program as its desktop entry tells it, in French where it does; without an entry, that of
+// the entry itself.
+QString NameOfProgram(const QString& entry) {
+  QFile file(QStandardPaths::locate(QStandardPaths::ApplicationsLocation, entry));
+  if (!file.open(QIODevice::ReadOnly)) return entry;
+  QString name = entry;
+  while (!file.atEnd()) {
+    const QString line = QString::fromUtf8(file.readLine()).trimmed();
+    // The entry is the first group; those behind it are its actions.
+    if (line.startsWith(QLatin1Char('[')) && line != QStringLiteral("[Desktop Entry]")) break;
+    if (line.startsWith(QStringLiteral("Name[fr]="))) return line.section(QLatin1Char('='), 1);
+    if (line.startsWith(QStringLiteral("Name="))) name = line.section(QLatin1Char('='), 1);
+  }
+  return name;
+}
+
 }  // namespace
 
 bool QtDocuments::Open(TextView target) {
@@ -32,7 +49,9 @@ Text QtDocuments::ProgramFor(TextView file) const {
   const QString program = QStringLiteral("xdg-mime");
   const QString query = QStringLiteral("query");
   const QString kind = AnswerOf(program, {query, QStringLiteral("filetype"), ToQt(file)});
-  return kind.isEmpty() ? Text{} : FromQt(AnswerOf(program, {query, QStringLiteral("default"), kind}));
+  if (kind.isEmpty()) return {};
+  const QString entry = AnswerOf(program, {query, QStringLiteral("default"), kind});
+  return entry.isEmpty() ? Text{} : FromQt(NameOfProgram(entry));
 }
 
 std::vector<Text> QtDocuments::WindowTitles() const { return ReadWindowTitles(); }

@@ -6,6 +6,16 @@
 #include "desktop/text_edge.h"
 
 namespace talvor {
+namespace {
+
+void ShowWaitCursor(bool shown) {
+  if (shown)
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+  else
+    QGuiApplication::restoreOverrideCursor();
+}
+
+}  // namespace
 
 SendingDesk::SendingDesk(Program program) : program_(std::move(program)), mail_(program_.environment) {
   wordProcessor_.whileWaiting = [] { QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); };
@@ -23,13 +33,7 @@ void SendingDesk::MakeApply() {
                                  .shell = program_.shell,
                                  .mail = mail_,
                                  .chargerFichierCV = [this](TextView name) { program_.cv.OpenFile(name); },
-                                 .waitCursor =
-                                     [](bool shown) {
-                                       if (shown)
-                                         QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-                                       else
-                                         QGuiApplication::restoreOverrideCursor();
-                                     }});
+                                 .waitCursor = ShowWaitCursor});
 }
 
 QWidget* SendingDesk::MakeApplyWindow(QWidget* parent) {
@@ -54,7 +58,8 @@ QWidget* SendingDesk::MakeConvertWindow(QWidget* parent) {
                                               .dialogs = program_.dialogs,
                                               .documents = documents_,
                                               .wordProcessor = wordProcessor_,
-                                              .printer = printer_});
+                                              .printer = printer_,
+                                              .waitCursor = ShowWaitCursor});
   convert_->Charger();
   auto* window = new ConvertWindow(*convert_, program_.theme, parent);
   window->OnClosed = [this] { program_.shell.Unload(ConvertForm); };

@@ -71,6 +71,11 @@ bool CvConversion::CanConvert(const fs::path& target) {
   return false;
 }
 
+Text CvConversion::Export(PageExporter& exporter, const fs::path& target) const {
+  const Hourglass hourglass(around_.waitCursor);
+  return exporter.Export(*ExistingModelFile(u"CVtemp.html"), target);
+}
+
 void CvConversion::ConvertirWord() {
   if (!around_.shell.FormeVisible(EditorForm)) return;
 
@@ -81,7 +86,7 @@ void CvConversion::ConvertirWord() {
   OldVersion old(target);
   if (!old.IsGone()) return around_.dialogs.Tell(InUse);
 
-  const Text fault = around_.wordProcessor.Export(*ExistingModelFile(u"CVtemp.html"), target);
+  const Text fault = Export(around_.wordProcessor, target);
   if (!fault.empty()) {
     old.BringBack();
     return around_.dialogs.Tell(fault);
@@ -96,7 +101,7 @@ void CvConversion::Replace(TextView ending, PageExporter& exporter) {
   if (!around_.shell.FormeVisible(EditorForm)) return;
   const fs::path target = ConvertedCv(around_.environment, around_.editor.NomCV, ending);
   if (!CanConvert(target)) return;
-  const Text fault = exporter.Export(*ExistingModelFile(u"CVtemp.html"), target);
+  const Text fault = Export(exporter, target);
   if (!fault.empty()) return around_.dialogs.Tell(fault);
   OuvrirDocument(TextOf(target).value_or(Text{}), around_.documents, around_.dialogs);
 }

@@ -9,6 +9,7 @@
 #include "platform/environment.h"
 #include "platform/shell.h"
 #include "platform/word_processor.h"
+#include "sending/hourglass.h"
 
 namespace talvor {
 
@@ -31,9 +32,10 @@ class CvConversion {
     Documents& documents;
     WordProcessor& wordProcessor;
     PageExporter& printer;  // writes the page as a PDF, as it looks in the editor
+    WaitCursor waitCursor;
   };
 
-  explicit CvConversion(Surroundings around) : around_(around) {}
+  explicit CvConversion(const Surroundings& around) : around_(around) {}
 
   // Replaces the document «.doc» and opens it. The old one goes first, and where it cannot go nothing
   // is converted; it comes back when the conversion fails.
@@ -44,6 +46,7 @@ class CvConversion {
 
  private:
   [[nodiscard]] bool CanConvert(const std::filesystem::path& target);
+  [[nodiscard]] Text Export(PageExporter& exporter, const std::filesystem::path& target) const;
   void Replace(TextView ending, PageExporter& exporter);
 
   Surroundings around_;

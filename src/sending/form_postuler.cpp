@@ -50,22 +50,6 @@ bool IsFile(TextView path) {
   return !path.empty() && fs::is_regular_file(PathOf(path), unreadable);
 }
 
-// The wait cursor for the life of the object.
-class Hourglass {
- public:
-  explicit Hourglass(const std::function<void(bool)>& cursor) : cursor_(cursor) {
-    if (cursor_) cursor_(true);
-  }
-  ~Hourglass() {
-    if (cursor_) cursor_(false);
-  }
-  Hourglass(const Hourglass&) = delete;
-  Hourglass& operator=(const Hourglass&) = delete;
-
- private:
-  const std::function<void(bool)>& cursor_;
-};
-
 }  // namespace
 
 FormPostuler::FormPostuler(Surroundings around) : around_(std::move(around)) {}

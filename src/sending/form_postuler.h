@@ -13,6 +13,7 @@
 #include "letters/merge.h"
 #include "platform/environment.h"
 #include "platform/mail_client.h"
+#include "sending/hourglass.h"
 
 namespace talvor {
 
@@ -47,8 +48,7 @@ class FormPostuler : public MergedLetter {
     MailClient& mail;
     // Loads the CV of that file name into the editor.
     std::function<void(TextView)> chargerFichierCV;
-    // Shows the wait cursor, or takes it back.
-    std::function<void(bool)> waitCursor;
+    WaitCursor waitCursor;
   };
 
   explicit FormPostuler(Surroundings around);

@@ -244,6 +244,20 @@ TEST_F(FormLoadSaveTest, TheWorkspaceMovesForTheSessionAndItsCopiesFollow) {
   EXPECT_EQ(principale.NbCand, u"2");
 }
 
+TEST_F(FormLoadSaveTest, AKeyThatIsPulledOutIsToldAndTheUsualPlaceIsOneStepAway) {
+  ASSERT_TRUE(Save());
+  pickers.file = Key() / "Talvor" / "Talvor.mdb";
+  ASSERT_TRUE(form->Nouvel());
+  fs::remove_all(Key());
+  EXPECT_FALSE(form->Sauver());
+  EXPECT_TRUE(Told().starts_with(u"Problème lors de la sauvegarde. Le dossier de travail")) << ToUtf8(Told());
+  EXPECT_FALSE(Load(Home() / "Talvor.mdb"));
+  EXPECT_TRUE(Told().starts_with(u"Problème lors du chargement. ")) << ToUtf8(Told());
+  pickers.file = Home() / "Talvor.mdb";
+  EXPECT_TRUE(form->Nouvel()) << ToUtf8(Told());
+  EXPECT_EQ(Rows(), 1);
+}
+
 TEST_F(FormLoadSaveTest, TheUserCanStopACopyAndNoOtherBeginsMeanwhile) {
   int pictures = 0;
   form->OnProgress = [&] {

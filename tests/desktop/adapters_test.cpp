@@ -83,7 +83,8 @@ TEST(DocumentsAdapter, TheProgramOfAKindIsTheOneTheUserHasChosen) {
   const ScratchFolder scratch;
   fs::create_directories("applications");
   std::ofstream("applications/carnet.desktop")
-      << "[Desktop Entry]\nType=Application\nName=Carnet\nExec=carnet %f\nMimeType=text/plain;\n";
+      << "[Desktop Entry]\nType=Application\nName=Notebook\nName[fr]=Carnet\nExec=carnet "
+         "%f\nMimeType=text/plain;\n[Desktop Action Vide]\nName[fr]=Page vide\n";
   std::ofstream("mimeapps.list") << "[Default Applications]\ntext/plain=carnet.desktop\n";
   std::ofstream("note.txt") << "Bonjour\n";
   WriteProgram("carnet", "#!/bin/sh\n");
@@ -91,7 +92,7 @@ TEST(DocumentsAdapter, TheProgramOfAKindIsTheOneTheUserHasChosen) {
   const Variable data("XDG_DATA_HOME", here);
   const Variable config("XDG_CONFIG_HOME", here);
   const Variable path("PATH", here + ":" + qgetenv("PATH"));
-  EXPECT_EQ(QtDocuments().ProgramFor(u"note.txt"), u"carnet.desktop");
+  EXPECT_EQ(QtDocuments().ProgramFor(u"note.txt"), u"Carnet");
   EXPECT_EQ(QtDocuments().ProgramFor(u"absent.txt"), u"");
 }
 

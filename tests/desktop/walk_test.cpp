@@ -174,6 +174,32 @@ TEST_F(WalkTest, TheMenusOfTheSlotsDoTheirWork) {
   EXPECT_TRUE(failures.empty());
 }
 
+TEST_F(WalkTest, ThePopupOfACandidatureLeadsToItsPageItsSiteAndTheApplication) {
+  Choose({u"Gérer les candidatures", u"Gestion manuelle des candidatures"}, false);
+  ClickLeaf(u"s1");
+  desktop->Candidatures().www = u"http://emploi.example/offres/4821";
+  const auto choose = [&](const char16_t* item) {
+    Tree().setFocus();
+    QTest::keyClick(&Tree(), Qt::Key_F10, Qt::ShiftModifier);
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    menu->setActiveAction(menu->findChild<QAction*>(QString::fromUtf16(item)));
+    desktop->Candidatures().www = u"http://emploi.example/offres/4821";
+    QTest::keyClick(menu, Qt::Key_Return);
+  };
+  choose(u"MenuConsulterInternet");
+  EXPECT_TRUE(desktop->Candidatures().CadreWebVisible);
+  EXPECT_EQ(desktop->Candidatures().AdresseWeb, u"http://emploi.example/offres/4821");
+  choose(u"MenuConsulterOrigine");
+  EXPECT_EQ(desktop->Candidatures().AdresseWeb, u"http://emploi.example");
+  choose(u"MenuPostuler");
+  EXPECT_TRUE(Visible(u"FormPostuler"));
+  desktop->Windows().Unload(u"FormPostuler");
+  choose(u"MenuImprimerCand");
+  EXPECT_EQ(Count(), 1);
+  EXPECT_TRUE(failures.empty());
+}
+
 TEST_F(WalkTest, ASlotTellsAClickFromADoubleClickAndHasKeysOfItsOwn) {
   QTest::mouseClick(&Slot(0), Qt::LeftButton);
   EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << "a second click may follow";

@@ -3,13 +3,12 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 
 #include <filesystem>
-#include <set>
 
 #include "base/fonctionnel.h"
 #include "base/line_file.h"
 #include "cv/cv_file.h"
 #include "letters/letter_file.h"
-#include "tests/fakes/fakes.h"
+#include "tests/faults/worker.h"
 #include "tracking/store.h"
 #include "workspace/document_keeping.h"
 #include "workspace/workspace_paths.h"
@@ -19,12 +18,14 @@ namespace {
 
 namespace fs = std::filesystem;
 
+void CheckIntegrity(const fs::path& file, Findings& findings) {
+  SQLite::Database base(file.string(), SQLite::OPEN_READWRITE);
+  const std::string verdict = base.execAndGet("PRAGMA integrity_check").getString();
+  if (verdict != "ok") findings.faults.push_back(file.string() + ": " + verdict);
+}
+
 void CheckBase(Ledger& ledger, Day today, Findings& findings) {
-  {
-    SQLite::Database base("Talvor.mdb", SQLite::OPEN_READWRITE);
-    const std::string verdict = base.execAndGet("PRAGMA integrity_check").getString();
-    if (verdict != "ok") findings.faults.push_back("integrity_check: " + verdict);
-  }
+  CheckIntegrity("Talvor.mdb", findings);
   FakeClock clock{{2026, 1, 1}};
   clock.today = today;
   Database database = Database::Open(clock);
@@ -74,6 +75,17 @@ void CheckDocument(const fs::path& file, ReadVersion read, Versions& versions, F
   versions = {found, found};
 }
 
+// The base of the backup goes first, so it may be missing; what stands on the key is whole.
+void CheckKey(Findings& findings) {
+  const fs::path landed = fs::path{Key} / fs::current_path().filename();
+  if (fs::exists(landed / "Talvor.mdb")) CheckIntegrity(landed / "Talvor.mdb", findings);
+  std::error_code none;
+  for (const auto& entry : fs::directory_iterator(landed / "CV", none))
+    if (CvVersion(entry.path()) == 0) findings.faults.push_back(entry.path().string() + " is torn");
+  for (const auto& entry : fs::directory_iterator(landed / "Lettres", none))
+    if (LetterVersion(entry.path()) == 0) findings.faults.push_back(entry.path().string() + " is torn");
+}
+
 }  // namespace
 
 Findings Inspect(Ledger& ledger, Day today) {
@@ -85,6 +97,7 @@ Findings Inspect(Ledger& ledger, Day today) {
   for (auto& [id, versions] : ledger.letters)
     CheckDocument(FileIn(workspace_paths::LetterFolder(), LetterName(id) + u".dat"), LetterVersion, versions,
                   findings);
+  CheckKey(findings);
   return findings;
 }
 

@@ -168,7 +168,8 @@ int main(int argc, char** argv) {
   const int kills = argc > 1 ? std::atoi(argv[1]) : QuickForm;
   const ScratchFolder folder;
   try {
-    InstallerDossier(folder.Path(), DeliveredFiles());
+    InstallerDossier(folder.Path() / "Talvor", DeliveredFiles());
+    fs::current_path(folder.Path() / "Talvor");
     Trial trial;
     bool sound = Kills(trial, kills);
     sound = FullDisk(trial) && sound;

@@ -34,7 +34,7 @@ bool Worker::Start() {
 int Worker::Draw(int below) { return std::uniform_int_distribution<int>(0, below - 1)(chance_); }
 
 void Worker::Act() {
-  switch (Draw(6)) {
+  switch (Draw(8)) {
     case 0:
       return NewRow();
     case 1:
@@ -45,6 +45,10 @@ void Worker::Act() {
       return SaveCv();
     case 4:
       return SaveLetter();
+    case 5:
+      return BackUp();
+    case 6:
+      return Restore();
     default:
       clock_.today.serial += Draw(10);
       if (!Start()) throw std::runtime_error("the base was not found");
@@ -106,6 +110,23 @@ void Worker::SaveLetter() {
   tell_({Kind::Letter, id, version, 0});
   lettre_.Timer1();
   if (!lettre_.saveFailed) tell_({Kind::Letter, id, version, 1});
+}
+
+void Worker::BackUp() {
+  const std::filesystem::path key = std::filesystem::absolute(Key);
+  std::error_code ignored;
+  std::filesystem::create_directory(key, ignored);
+  backup_.SauverDans(key / "Talvor.mdb");
+}
+
+// From a copy of what stands here, so that nothing goes back in time.
+void Worker::Restore() {
+  const std::filesystem::path here = std::filesystem::current_path();
+  const std::filesystem::path copy = here.parent_path() / "copie" / here.filename();
+  std::error_code ignored;
+  std::filesystem::remove_all(copy.parent_path(), ignored);
+  std::filesystem::create_directory(copy.parent_path(), ignored);
+  if (backup_.SauverDans(copy.parent_path() / "Talvor.mdb")) backup_.Restaurer(copy, here);
 }
 
 }  // namespace talvor::faults

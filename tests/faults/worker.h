@@ -5,11 +5,16 @@
 #include <random>
 
 #include "ads/capture.h"
+#include "app/form_load_save.h"
 #include "letters/form_lettre.h"
 #include "tests/fakes/fakes.h"
+#include "tests/fakes/file_fakes.h"
 #include "tests/faults/ledger.h"
 
 namespace talvor::faults {
+
+// Beside the data folder: where the backups go.
+inline constexpr const char* Key = "../cle";
 
 class Worker {
  public:
@@ -29,6 +34,8 @@ class Worker {
   void Capture();
   void SaveCv();
   void SaveLetter();
+  void BackUp();
+  void Restore();
   void SaveRow(const std::function<void()>& save, std::int32_t id);
   [[nodiscard]] int Draw(int below);
 
@@ -39,10 +46,12 @@ class Worker {
   FakeDialogs dialogs_;
   FakeShell shell_;
   FakeBrowser browser_;
+  FakePickers pickers_;
   Principale principale_{shell_};
   FormCand form_{principale_, clock_, dialogs_, shell_, browser_};
   FormCandCapture capture_{form_, clock_, browser_};
   FormLettre lettre_{principale_, clock_, dialogs_, shell_};
+  FormLoadSave backup_{{principale_, shell_, dialogs_, pickers_, clock_}};
   std::vector<std::int32_t> rows_;
   std::int32_t version_ = 1;
 };
