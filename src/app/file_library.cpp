@@ -49,7 +49,7 @@ void RenameAll(std::span<const Renaming> renamings) {
 
 void CopyDocument(const fs::path& from, const fs::path& to) {
   const auto bytes = ReadBytes(from);
-  const auto failure = bytes ? SaveDocument(to, *bytes) : std::make_error_code(std::errc::io_error);
+  const auto failure = bytes ? SaveDocument(to, *bytes) : ReadFailure(from);
   if (failure) throw FileError(from, u"n’a pas pu être copié", failure);
 }
 

@@ -41,6 +41,15 @@ std::optional<std::string> ReadBytes(const std::filesystem::path& file) {
   return stream.eof() && !stream.bad() ? std::optional{std::move(bytes)} : std::nullopt;
 }
 
+std::error_code ReadFailure(const std::filesystem::path& file) {
+  std::error_code error;
+  if (std::filesystem::is_directory(file, error)) return std::make_error_code(std::errc::is_a_directory);
+  const int descriptor = ::open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+  if (descriptor < 0) return LastError();
+  ::close(descriptor);
+  return std::make_error_code(std::errc::io_error);
+}
+
 std::error_code WriteBytes(const std::filesystem::path& file, std::string_view bytes) {
   std::error_code error;
   std::filesystem::remove(file, error);

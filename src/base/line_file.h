@@ -19,6 +19,9 @@ namespace talvor {
 // The bytes of a regular file, nothing when it cannot be read to its end.
 [[nodiscard]] std::optional<std::string> ReadBytes(const std::filesystem::path& file);
 
+// Why a file cannot be read, which ReadBytes does not say.
+[[nodiscard]] std::error_code ReadFailure(const std::filesystem::path& file);
+
 // Deletes the old file, then writes the new one and forces it to the disk. The error, if any step
 // failed; a file written in part is deleted again.
 [[nodiscard]] std::error_code WriteBytes(const std::filesystem::path& file, std::string_view bytes);

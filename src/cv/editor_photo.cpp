@@ -1,4 +1,5 @@
 // The part of the editor that changes the photo of a CV.
+#include "base/failure_cause.h"
 #include "base/line_file.h"
 #include "cv/editor.h"
 #include "cv/editor_texts.h"
@@ -31,7 +32,10 @@ void FormRédigerCV::RattacherPhoto() {
   if (!chosen) return;
   auto picture = ReadBytes(*chosen);
   // The bytes are copied as they stand, whatever kind of picture they are.
-  if (!picture || WriteBytes(PhotoFile(NomCV), *picture)) return;
+  const auto failure = picture ? WriteBytes(PhotoFile(NomCV), *picture) : ReadFailure(*chosen);
+  if (failure)
+    return around_.dialogs.Tell(u"La photographie «\u00A0" + TextOf(*chosen).value_or(Text{}) +
+                                u"\u00A0» n’a pas pu être copiée\u00A0: " + CauseOf(failure) + u".");
   Photo = *std::move(picture);
   VisualisationCV();
 }

@@ -25,7 +25,7 @@ std::error_code MakePlaceForNewest(const fs::path& document) {
 
 std::error_code Keep(const fs::path& document) {
   const auto bytes = ReadBytes(document);
-  if (!bytes) return std::make_error_code(std::errc::io_error);
+  if (!bytes) return ReadFailure(document);
   const fs::path newest = KeptVersion(document, 1);
   if (ReadBytes(newest) == bytes) return {};
   std::error_code error;
@@ -41,7 +41,7 @@ std::error_code Keep(const fs::path& document) {
 
 std::error_code MoveToOtherDisk(const fs::path& from, const fs::path& to) {
   const auto bytes = ReadBytes(from);
-  if (!bytes) return std::make_error_code(std::errc::io_error);
+  if (!bytes) return ReadFailure(from);
   std::error_code error = WriteBytes(to, *bytes);
   if (!error) fs::remove(from, error);
   return error;

@@ -182,8 +182,17 @@ TEST_F(FileLibraryTest, AttachingCopiesTheFileAndKeepsTheOneItReplaces) {
   pickers.file.reset();
   library.MenuRattacherCV();
   EXPECT_EQ(Names("CV").size(), 1u);
-  pickers.file = "ailleurs";
-  EXPECT_THROW(library.MenuRattacherCV(), FileError) << "a folder is no CV";
+  // Neither a folder nor a file that has gone is a CV, and the support has no part in it.
+  for (const auto& [file, cause] :
+       {std::pair{"ailleurs", "dossier"}, std::pair{"parti.doc", "n’existe pas"}}) {
+    pickers.file = file;
+    try {
+      library.MenuRattacherCV();
+      FAIL() << file;
+    } catch (const FileError& failure) {
+      EXPECT_NE(std::string(failure.what()).find(cause), std::string::npos) << failure.what();
+    }
+  }
 }
 
 TEST_F(FileLibraryTest, DuplicatesTakeAPrefixAndNoPhoto) {

@@ -352,6 +352,14 @@ TEST_F(Editor, AnAttachedPhotoKeepsItsBytesAndReachesThePage) {
   EXPECT_EQ(ReadBytes("Modeles/Photo.jpg"), "GIF89a");
   EXPECT_NE(Page().find("padding: 0.05cm' SRC='Photo.jpg' WIDTH=100>"), std::string::npos);
 
+  pickers_.file = fs::absolute("absent.png");
+  EXPECT_EQ(Renders([&] { form_.RattacherPhoto(); }), 0u);
+  ASSERT_EQ(dialogs_.told.size(), 1u);
+  EXPECT_TRUE(Contains(dialogs_.told[0], u"absent.png\u00A0» n’a pas pu être copiée\u00A0: ce fichier"))
+      << ToUtf8(dialogs_.told[0]);
+  EXPECT_EQ(form_.Photo, "GIF89a");
+  EXPECT_EQ(ReadBytes("Modeles/Essai.jpg"), "GIF89a");
+
   form_.SupprimerPhoto();
   EXPECT_EQ(form_.Photo, "");
   EXPECT_FALSE(fs::exists("Modeles/Essai.jpg") || fs::exists("Modeles/Photo.jpg"));

@@ -34,6 +34,7 @@ class BrowserTest : public DesktopTest {
     auto* address = InPane<QLineEdit>("AdresseWeb");
     address->setText(path.contains(QLatin1Char(':')) ? path : site.Address(path));
     QTest::keyClick(address, Qt::Key_Return);
+    QCoreApplication::processEvents();  // the key is over before the page is asked for
   }
   // The page has been loaded and rated, and the strip stands still.
   bool Settled() {
