@@ -9,12 +9,14 @@
 #include <QLabel>
 #include <QMenu>
 #include <QShortcut>
+#include <QTextBrowser>
 #include <QToolButton>
 #include <QWebEngineView>
 #include <fstream>
 
 #include "base/code_page.h"
 #include "base/line_file.h"
+#include "desktop/user_guide.h"
 #include "tests/desktop/desktop_fixture.h"
 
 namespace talvor {
@@ -75,15 +77,22 @@ QWidgetList ControlsOf(QWidget& window) {
   return controls;
 }
 
-// Presses Tab on what has the focus. A page passes the focus on in its own time, after its own stops.
+// Presses Tab on what has the focus. A page passes the focus on in its own time, and like a document after
+// its own links.
 QWidget* PressTab() {
-  constexpr int MostStopsOfPage = 5;
+  constexpr int MostLinks = 100;
   constexpr int UntilPagePassesOn = 500;  // milliseconds
   QWidget* from = QApplication::focusWidget();
-  QTest::keyClick(from, Qt::Key_Tab);
-  const auto left = [] { return !InPage(QApplication::focusWidget()); };
-  for (int i = 0; InPage(from) && i < MostStopsOfPage && !QTest::qWaitFor(left, UntilPagePassesOn); ++i)
+  const bool page = InPage(from);
+  const bool document = qobject_cast<QTextBrowser*>(from) != nullptr;
+  const auto left = [&] {
+    QWidget* now = QApplication::focusWidget();
+    return page ? !InPage(now) : now != from;
+  };
+  for (int i = 0; i < (page || document ? MostLinks : 1); ++i) {
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    if (page ? QTest::qWaitFor(left, UntilPagePassesOn) : left()) break;
+  }
   return QApplication::focusWidget();
 }
 
@@ -299,6 +308,8 @@ TEST_F(AccessibilityTest, TheWindowsOverTheMainOne) {
   desktop->Windows().Unload(MiseEnPage::Form);
   Walk(Open(u"APropos"), "about");
   desktop->Windows().Unload(u"APropos");
+  Walk(Open(UserGuideForm), "guide");
+  desktop->Windows().Unload(UserGuideForm);
   Click("Image7");
   Walk(desktop->Preview().Window(), "print preview");
   desktop->Preview().Window()->close();
