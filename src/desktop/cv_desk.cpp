@@ -81,7 +81,12 @@ void CvDesk::Register() {
                                      }});
 }
 
+void CvDesk::KeepTyping() {
+  if (window_) window_->KeepTyping();
+}
+
 void CvDesk::OpenFile(TextView name) {
+  KeepTyping();
   program_.shell.Show(EditorForm);
   if (!window_) return;
   window_->Do([&] { form_->ChargerFichierCV(FileIn(workspace_paths::CvFolder(), name)); });

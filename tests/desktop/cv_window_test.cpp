@@ -273,6 +273,28 @@ TEST_F(CvWindowTest, ThePageIsPrintedAndPreviewedWithItsPhotoOnA4) {
   EXPECT_EQ(dialogs.told.size(), 1u);
 }
 
+TEST_F(CvWindowTest, WhatIsTypedIsKeptWhenAnotherCvOpensAndWhenTheEditorCloses) {
+  Click("SaiseDetaillee");
+  Type("Nom", QStringLiteral("Aaron"));
+  Type("Tel", QStringLiteral("0102030405"));
+  // No key of the keyboard moves the focus; and the new file comes before the one that is opened.
+  QTest::keyClick(&desktop->Main(), Qt::Key_1, Qt::ControlModifier);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Form().NomCV == u"Ancien"; }, Patience)) << ToUtf8(Form().NomCV);
+  EXPECT_NE(Bytes("CV/Aaron.dat").find("Tel=0102030405\r\n"), std::string::npos);
+  EXPECT_EQ(Line("Nom"), QStringLiteral("Ancien"));
+
+  Type("Ville", QStringLiteral("lyon"));
+  QTest::keyClick(&desktop->Main(), Qt::Key_M, Qt::AltModifier);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return desktop->Cv().Window() == nullptr; }, Patience));
+  EXPECT_NE(Bytes("CV/Ancien.dat").find("Ville=Lyon\r\n"), std::string::npos) << "left by its rule";
+
+  desktop->Cv().OpenFile(u"Ancien.dat");
+  Type("Etudes", QStringLiteral("Licence"));
+  desktop->Main().close();
+  EXPECT_NE(Bytes("CV/Ancien.dat").find("Etudes=Licence\r\n"), std::string::npos);
+  EXPECT_TRUE(failures.empty());
+}
+
 TEST_F(CvWindowTest, EveryControlHasANameAndEveryMnemonicIsItsOwn) {
   Click("Entree1");
   QString keys;
