@@ -117,6 +117,7 @@ void Desktop::RegisterSmallForms() {
 // What was typed in the editors reaches the disk.
 void Desktop::KeepTyping() {
   if (letterWindow_) letterWindow_->Tick1000();
+  if (formCandWindow_) formCandWindow_->Tick3000();
   cv_.KeepTyping();
 }
 
