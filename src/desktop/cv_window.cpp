@@ -5,6 +5,7 @@
 #include <QShortcut>
 #include <QSplitter>
 
+#include "desktop/printing.h"
 #include "desktop/text_edge.h"
 
 namespace talvor {
@@ -39,6 +40,8 @@ CvWindow::CvWindow(FormRédigerCV& form, QtMenus& menus, const Theme& theme, QWi
   connect(&theme, &Theme::Changed, this, &CvWindow::Refresh);
   Refresh();
 }
+
+CvWindow::~CvWindow() { OutliveWhilePrinting(Page()); }
 
 void CvWindow::BindFields() {
   binder_.BindByName(*this, CvFields, static_cast<CvDocument&>(shown_));

@@ -19,6 +19,7 @@ class CvWindow : public QWidget {
  public:
   // The view model and the menus must outlive the window.
   CvWindow(FormRédigerCV& form, QtMenus& menus, const Theme& theme, QWidget* parent);
+  ~CvWindow() override;
 
   // Called after each action, for what other windows show.
   std::function<void()> OnActed;

@@ -10,6 +10,7 @@
 #include "desktop/assistant_figure.h"
 #include "desktop/backup_window.h"
 #include "desktop/guide_panel.h"
+#include "desktop/printing.h"
 #include "desktop/stat_window.h"
 #include "workspace/document_keeping.h"
 #include "workspace/systeme.h"
@@ -49,6 +50,7 @@ Desktop::Desktop(const Theme& theme, const Environment& environment, const Clock
     backup_.Annuler();
     shell_.Unload(u"FormLoadSave");
     shell_.Unload(u"FormCand");
+    FinishPrinting();
     QCoreApplication::quit();
   };
   main_->OnHelp = [this] {

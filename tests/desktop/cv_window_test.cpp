@@ -295,6 +295,26 @@ TEST_F(CvWindowTest, WhatIsTypedIsKeptWhenAnotherCvOpensAndWhenTheEditorCloses) 
   EXPECT_TRUE(failures.empty());
 }
 
+TEST_F(CvWindowTest, APageIsPrintedToItsEndWhenTheEditorCloses) {
+  desktop->Cv().OpenFile(u"Ancien.dat");
+  ASSERT_TRUE(SeesAtLast(QStringLiteral("Ancien")));
+  std::weak_ptr<QPrinter> printer;
+  desktop->Cv().makePrinter = [&printer] {
+    auto made = std::make_shared<QPrinter>(QPrinter::HighResolution);
+    made->setOutputFormat(QPrinter::PdfFormat);
+    made->setOutputFileName(QStringLiteral("papier.pdf"));
+    printer = made;
+    return made;
+  };
+  desktop->Cv().Print();
+  desktop->Windows().Unload(EditorForm);
+  EXPECT_EQ(desktop->Cv().Window(), nullptr);
+  EXPECT_FALSE(printer.expired()) << "the page is on its way to it";
+  ASSERT_TRUE(QTest::qWaitFor([&] { return printer.expired(); }, Patience));
+  EXPECT_TRUE(ReadBytes("papier.pdf").value_or("").starts_with("%PDF"));
+  EXPECT_TRUE(dialogs.told.empty());
+}
+
 TEST_F(CvWindowTest, EveryControlHasANameAndEveryMnemonicIsItsOwn) {
   Click("Entree1");
   QString keys;
