@@ -295,6 +295,16 @@ TEST_F(CvWindowTest, WhatIsTypedIsKeptWhenAnotherCvOpensAndWhenTheEditorCloses) 
   EXPECT_TRUE(failures.empty());
 }
 
+TEST_F(CvWindowTest, TheKeyOfAnEntryLeavesTheFieldThatIsTypedIn) {
+  Click("SaiseDetaillee");
+  Type("Nom", QStringLiteral("Marchand"));
+  Type("Etudes", QStringLiteral("Licence"));
+  QTest::keyClick(&desktop->Main(), Qt::Key_P, Qt::AltModifier);
+  ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activePopupWidget() != nullptr; }, Patience));
+  QApplication::activePopupWidget()->close();
+  EXPECT_TRUE(SeesAtLast(QStringLiteral("Licence"))) << "what the menu prints is what was typed";
+}
+
 TEST_F(CvWindowTest, APageIsPrintedToItsEndWhenTheEditorCloses) {
   desktop->Cv().OpenFile(u"Ancien.dat");
   ASSERT_TRUE(SeesAtLast(QStringLiteral("Ancien")));
