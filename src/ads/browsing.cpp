@@ -80,7 +80,9 @@ std::error_code FormCandWeb::MajListeSites() {
   shell_.PumpEvents();
   browser_.Navigate(principale_.AdresseWeb + u"listesites.htm");
   if (!AttendrePage()) return {};
-  return SiteDirectory::MajListeSites(browser_.BodyText(DocumentBrowser::Whole));
+  const Text sites = browser_.BodyText(DocumentBrowser::Whole);
+  // A page that could not be loaded leaves the sites that are known.
+  return sites.empty() ? std::error_code{} : SiteDirectory::MajListeSites(sites);
 }
 
 ApplyTexts FormCandWeb::Postuler() const {

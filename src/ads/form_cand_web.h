@@ -90,7 +90,8 @@ class FormCandWeb {
   void ConsulterOrigine();
   // The user ends the load under way.
   void Arreter();
-  // Rebuilds the file of sites from the page of sites; the error, if it could not be written.
+  // Rebuilds the file of sites from the page of sites, unless that page has no text; the error, if the
+  // file could not be written.
   [[nodiscard]] std::error_code MajListeSites();
 
  private:

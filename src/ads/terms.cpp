@@ -4,6 +4,7 @@
 
 #include "ads/phrase_reader.h"
 #include "ads/rules.h"
+#include "base/day.h"
 #include "base/fonctionnel.h"
 
 namespace talvor::ads {

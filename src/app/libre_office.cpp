@@ -7,6 +7,7 @@
 #include "app/process.h"
 #include "app/temporary_folder.h"
 #include "base/code_page.h"
+#include "base/failure_cause.h"
 #include "base/line_file.h"
 
 namespace talvor {
@@ -70,9 +71,8 @@ Text LibreOffice::Export(const fs::path& page, const fs::path& target) {
   try {
     return Convert(page, target);
   } catch (const fs::filesystem_error& fault) {
-    const Text reason = FromUtf8(fault.code().message()).value_or(Text{});
     return u"Le document n’a pas pu être écrit dans le dossier «\u00A0" +
-           TextOf(target.parent_path()).value_or(Text{}) + u"\u00A0»\u00A0: " + reason;
+           TextOf(target.parent_path()).value_or(Text{}) + u"\u00A0»\u00A0: " + CauseOf(fault.code()) + u".";
   }
 }
 

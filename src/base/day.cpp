@@ -148,4 +148,6 @@ std::optional<Day> ParseDate(TextView text) {
   return DayOf({*year, *month, day->first});
 }
 
+bool DateValide(TextView text) { return text.empty() || ParseDate(text).has_value(); }
+
 }  // namespace talvor

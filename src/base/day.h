@@ -36,4 +36,7 @@ struct CivilDate {
 // are passed over. Nothing for any other text.
 [[nodiscard]] std::optional<Day> ParseDate(TextView text);
 
+// True for the empty text and for a date that ParseDate reads.
+[[nodiscard]] bool DateValide(TextView text);
+
 }  // namespace talvor

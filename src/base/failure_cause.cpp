@@ -42,9 +42,10 @@ Text CauseOf(const std::error_code& failure) {
 }
 
 Text ReportOf(const std::filesystem::filesystem_error& failure) {
-  // Only the working folder has no path of its own any more: its support may have gone.
+  // A working folder whose support has gone, and a temporary folder that is none, have no path.
   const Text path = FromUtf8(failure.path1().native()).value_or(Text{});
-  const Text what = path.empty() ? Text{u"Le dossier de travail"} : u"«\u00A0" + path + u"\u00A0»";
+  const Text what =
+      path.empty() ? Text{u"Le dossier de travail ou le dossier temporaire"} : u"«\u00A0" + path + u"\u00A0»";
   return what + u"\u00A0: " + CauseOf(failure.code()) + u".";
 }
 

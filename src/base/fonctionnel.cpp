@@ -5,8 +5,6 @@
 #include <cmath>
 #include <limits>
 
-#include "base/day.h"
-
 namespace talvor {
 namespace {
 
@@ -216,8 +214,6 @@ Text NomPropre(TextView text) {
   }
   return result;
 }
-
-bool DateValide(TextView text) { return text.empty() || ParseDate(text).has_value(); }
 
 bool CodePostalValide(TextView text) {
   return text.size() == 5 && std::all_of(text.begin(), text.end(), IsDigit);

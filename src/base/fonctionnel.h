@@ -28,9 +28,6 @@ namespace talvor {
 // The first character and each one behind a blank upper-cased, all others lower-cased.
 [[nodiscard]] Text NomPropre(TextView text);
 
-// True for the empty text and for a date that ParseDate reads.
-[[nodiscard]] bool DateValide(TextView text);
-
 // True for exactly five characters from "0" to "9".
 [[nodiscard]] bool CodePostalValide(TextView text);
 

@@ -4,6 +4,7 @@
 #include <QVBoxLayout>
 
 #include "desktop/bouton_tlv.h"
+#include "desktop/pane.h"
 #include "desktop/text_edge.h"
 #include "shell/a_propos.h"
 
@@ -30,6 +31,13 @@ AboutBox::AboutBox(const Theme& theme, QWidget* parent) : QDialog(parent) {
     line->setAlignment(Qt::AlignCenter);
     column->addWidget(line);
   }
+  column->addSpacing(8);
+  auto* guide =
+      MakeLink(theme, QStringLiteral("help"), tr("&Guide d’utilisation"), QStringLiteral("LienGuide"), this);
+  connect(guide, &QPushButton::clicked, this, [this] {
+    if (OnGuide) OnGuide();
+  });
+  column->addWidget(guide, 0, Qt::AlignCenter);
   column->addSpacing(8);
   auto* close = new BoutonTLV(theme, tr("&Fermer"), this);
   close->setObjectName(QStringLiteral("BoutonTLV1"));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDialog>
+#include <functional>
 
 #include "desktop/theme.h"
 
@@ -10,6 +11,8 @@ namespace talvor {
 class AboutBox : public QDialog {
  public:
   AboutBox(const Theme& theme, QWidget* parent);
+
+  std::function<void()> OnGuide;  // the user's guide is asked for
 };
 
 }  // namespace talvor

@@ -67,9 +67,10 @@ void AddPair(QGridLayout* grid, const QString& first, QWidget* left, const QStri
   auto* pair = new QHBoxLayout;
   pair->setSpacing(8);
   // A date always shows whole.
-  const int date = left->fontMetrics().horizontalAdvance(QStringLiteral("00/00/0000")) + 20;
-  left->setMinimumWidth(date);
-  right->setMinimumWidth(date);
+  const int date = left->fontMetrics().horizontalAdvance(QStringLiteral("00/00/0000")) + 18;
+  constexpr int Least = 56;
+  for (QWidget* field : {left, right})
+    field->setMinimumWidth(field->objectName().startsWith(QStringLiteral("Date")) ? date : Least);
   pair->addWidget(left, ShortField);
   QLabel* label = MakeLabel(second, right, right->parentWidget());
   label->setMinimumWidth(std::max(ShortLabel, label->sizeHint().width()));

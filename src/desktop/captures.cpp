@@ -18,6 +18,7 @@
 #include "desktop/desktop.h"
 #include "desktop/qt_dialogs.h"
 #include "desktop/text_edge.h"
+#include "desktop/user_guide.h"
 #include "tracking/status_lists.h"
 
 namespace {
@@ -322,6 +323,8 @@ void PhotographSmallForms(Desktop& desktop, const Theme& theme, Photographer pho
   }
   AboutBox about(theme, nullptr);
   photographer.Take(u"a-propos", &about);
+  UserGuideWindow guide(theme, nullptr);
+  photographer.Take(u"guide", &guide);
 }
 
 void PhotographSending(Desktop& desktop, Photographer photographer) {

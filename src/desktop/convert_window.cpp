@@ -75,7 +75,7 @@ QWidget* ConvertWindow::MakeLastVersion() {
   connect(info, &QPushButton::clicked, this, [this] { form_.ClicInfo(); });
   row->addWidget(info);
   row->addStretch(1);
-  info->setAccessibleName(caption->text() + QStringLiteral(" : ") + ToQt(form_.Info));
+  info->setAccessibleName(caption->text() + QStringLiteral("\u00A0: ") + ToQt(form_.Info));
   return box;
 }
 

@@ -12,6 +12,7 @@
 #include "desktop/guide_panel.h"
 #include "desktop/printing.h"
 #include "desktop/stat_window.h"
+#include "desktop/user_guide.h"
 #include "workspace/document_keeping.h"
 #include "workspace/systeme.h"
 
@@ -53,6 +54,7 @@ Desktop::Desktop(const Theme& theme, const Environment& environment, const Clock
     FinishPrinting();
     QCoreApplication::quit();
   };
+  main_->OnUserGuide = [this] { shell_.Show(UserGuideForm); };
   main_->OnHelp = [this] {
     if (!principale_.InfoGuide.empty()) principale_.AfficherGuide(Text{principale_.InfoGuide});
   };
@@ -101,8 +103,14 @@ void Desktop::RegisterSmallForms() {
   shell_.Register(u"APropos", {.place = QtShell::Place::Over, .make = [this](QWidget* parent) -> QWidget* {
                                  auto* about = new AboutBox(theme_, parent);
                                  about->setAttribute(Qt::WA_DeleteOnClose);
+                                 about->OnGuide = [this] { shell_.Show(UserGuideForm); };
                                  return about;
                                }});
+  shell_.Register(UserGuideForm, {.place = QtShell::Place::Over, .make = [this](QWidget* parent) -> QWidget* {
+                                    auto* guide = new UserGuideWindow(theme_, parent);
+                                    guide->setAttribute(Qt::WA_DeleteOnClose);
+                                    return guide;
+                                  }});
   shell_.Register(MiseEnPage::Form,
                   {.place = QtShell::Place::Over, .make = [this](QWidget* parent) -> QWidget* {
                      return new AdviceBox(miseEnPage_, theme_, parent);

@@ -87,7 +87,7 @@ void FormCandWindow::ConnectWeb() {
   const auto doing = [this](void (FormCandWeb::*action)()) {
     return [this, action] { Do([&] { (webModel_.*action)(); }); };
   };
-  web_->on = {.enter = doing(&FormCandWeb::EntrerAdresseWeb),
+  web_->on = {.enter = [this] { Later([this] { webModel_.EntrerAdresseWeb(); }); },
               .address = doing(&FormCandWeb::ClicAdresseWeb),
               .go = doing(&FormCandWeb::ClicGo),
               .stop = doing(&FormCandWeb::Arreter),
@@ -101,7 +101,7 @@ void FormCandWindow::ConnectWeb() {
               .prefill = doing(&FormCandWeb::ClicLabel2),
               .bring = doing(&FormCandWeb::ClicLabel3),
               .reload = [this] { browser_.Reload(); },
-              .site = [this](std::size_t row) { Do([&] { webModel_.ClicList1(row); }); }};
+              .site = [this](std::size_t row) { Later([this, row] { webModel_.ClicList1(row); }); }};
   webModel_.OnChange = [this] { Refresh(); };
   webModel_.OnSignal = [this](TextView key) {
     Refresh();
@@ -126,7 +126,7 @@ FormCandWindow::~FormCandWindow() {
 
 bool FormCandWindow::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::MouseButtonRelease && watched->objectName() == QStringLiteral("www"))
-    Do([&] { webModel_.ClicWww(); });
+    Later([this] { webModel_.ClicWww(); });
   return QWidget::eventFilter(watched, event);
 }
 
@@ -137,6 +137,16 @@ void FormCandWindow::Do(const std::function<void()>& action) {
   if (!self) return;
   Refresh();
   if (OnActed) OnActed();
+}
+
+void FormCandWindow::Later(const std::function<void()>& action) {
+  // The window itself may go while the action waits; the browser stays.
+  QMetaObject::invokeMethod(
+      &browser_,
+      [self = QPointer<FormCandWindow>(this), action] {
+        if (self) self->Do(action);
+      },
+      Qt::QueuedConnection);
 }
 
 void FormCandWindow::Tick500() {

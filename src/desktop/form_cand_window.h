@@ -56,6 +56,9 @@ class FormCandWindow : public QWidget {
   void ConnectDetail();
   void ConnectWeb();
   void ShowRefusal();
+  // Does that once the event under way is over. To leave a page for another may take a wait, in which the
+  // form can be closed, and a field or a list must not go under its own event.
+  void Later(const std::function<void()>& action);
 
   FormCand& form_;
   FormCandCapture& capture_;

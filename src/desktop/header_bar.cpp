@@ -15,7 +15,7 @@ namespace talvor {
 namespace {
 
 constexpr QSize SlotSize{66, 56};
-constexpr QSize CandidatureSlotSize{80, 56};
+constexpr QSize CandidatureSlotSize{94, 56};
 constexpr QSize ButtonSize{58, 56};
 constexpr int NarrowWindow = 1200;     // the name and `Information` go
 constexpr int NarrowestWindow = 1100;  // slots show their picture alone

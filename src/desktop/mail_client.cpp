@@ -132,9 +132,10 @@ bool XdgMailClient::HandOver() const {
   if (!tied_) return false;
   QStringList arguments{QStringLiteral("--utf8")};
   for (const auto& attachment : mail_.attachments) {
-    const auto file = std::filesystem::absolute(PathOf(attachment.path));
+    std::error_code nowhere;  // as for the empty path behind a last ";"
+    const auto file = std::filesystem::absolute(PathOf(attachment.path), nowhere);
     const auto path = TextOf(file);
-    if (!path || !CanBeTold(*path) || !IsFile(file)) return false;
+    if (nowhere || !path || !CanBeTold(*path) || !IsFile(file)) return false;
     arguments << QStringLiteral("--attach") << ToQt(*path);
   }
   arguments << QStringLiteral("mailto:%1?subject=%2&body=%3")

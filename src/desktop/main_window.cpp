@@ -61,6 +61,9 @@ void MainWindow::AddShortcuts() {
   add(QKeySequence(Qt::Key_F1), [this] {
     if (OnHelp) OnHelp();
   });
+  add(QKeySequence(Qt::SHIFT | Qt::Key_F1), [this] {
+    if (OnUserGuide) OnUserGuide();
+  });
 }
 
 // The panes of the page at the front are its widgets with the property "pane", in reading order; the

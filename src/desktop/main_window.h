@@ -21,6 +21,7 @@ class MainWindow : public QMainWindow {
   std::function<void()> OnClosed;
   // F1: the last hint again.
   std::function<void()> OnHelp;
+  std::function<void()> OnUserGuide;  // Shift+F1
 
  protected:
   void changeEvent(QEvent* event) override;

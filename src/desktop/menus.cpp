@@ -25,7 +25,7 @@ constexpr std::array<ItemLook, 36> Looks{{
     {u"MenuConvertirCV", u"Convertir", u"convert"},
     {u"MenuOuvrirWord", u"Word", u"cv-word"},
     {u"MenuImprimerCV", u"Imprimer", u"print"},
-    {u"MenuEnvoyerAmi", u"ami"},
+    {u"MenuEnvoyerAmi", u"un ami"},
     {u"MenuEnvoyerRecruteur", u"Envoyer", u"send"},
     {u"MenuRédigerLettre", u"Rédiger", u"doc-new"},
     {u"MenuOuvrirLettre", u"Ouvrir", u"folder"},

@@ -6,6 +6,7 @@
 #include <QWebEnginePage>
 
 #include "app/temporary_folder.h"
+#include "base/failure_cause.h"
 #include "base/line_file.h"
 #include "desktop/cv_page_view.h"
 #include "desktop/text_edge.h"
@@ -72,8 +73,7 @@ Text PagePdf::Export(const fs::path& page, const fs::path& target) {
     fs::rename(made, target);
   } catch (const fs::filesystem_error& fault) {
     return u"Le document n’a pas pu être écrit dans le dossier «\u00A0" +
-           TextOf(target.parent_path()).value_or(Text{}) + u"\u00A0»\u00A0: " +
-           FromUtf8(fault.code().message()).value_or(Text{});
+           TextOf(target.parent_path()).value_or(Text{}) + u"\u00A0»\u00A0: " + CauseOf(fault.code()) + u".";
   }
   return {};
 }

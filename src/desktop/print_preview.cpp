@@ -28,6 +28,7 @@ PrintPreviewWindow::PrintPreviewWindow(const Theme& theme, PrintedPage page, QWi
   printer_->setPageLayout(printed_.layout);
   auto* sealed = new SealedPage(printed_.reach, view_);
   view_->setPage(sealed);
+  view_->setAccessibleName(tr("Page à imprimer"));
   view_->setContextMenuPolicy(Qt::NoContextMenu);
   progress_->setTextVisible(false);
   progress_->setFixedHeight(3);

@@ -66,7 +66,9 @@ SiteList::SiteList(const Theme& theme, QWidget* parent) : QFrame(parent, Qt::Pop
   rows_->setUniformItemSizes(true);
   column->addWidget(rows_);
   const auto choose = [this](QListWidgetItem* item) {
-    if (OnSite) OnSite(static_cast<std::size_t>(rows_->row(item)));
+    const auto row = static_cast<std::size_t>(rows_->row(item));
+    hide();
+    if (OnSite) OnSite(row);
   };
   connect(rows_, &QListWidget::itemClicked, this, choose);
   // Enter; the click of a mouse comes as the signal above.

@@ -16,7 +16,7 @@ class SiteList : public QFrame {
   SiteList(const Theme& theme, QWidget* parent);
 
   std::function<void(std::size_t)> OnSite;
-  std::function<void()> OnLeave;  // closed without a choice
+  std::function<void()> OnLeave;  // closed, by a choice as well, which is told behind it
 
   void Fill(const SiteDirectory& directory);
   // Shows the list with its top right corner at a place of the screen, no wider than given.

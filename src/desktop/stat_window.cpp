@@ -97,6 +97,7 @@ QWidget* StatWindow::MakeInterviews() {
   list->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   list->setAccessibleName(title->text());
   auto* scroll = new QScrollArea(panel);
+  scroll->setAccessibleName(title->text());
   scroll->setWidgetResizable(true);
   scroll->setFrameShape(QFrame::NoFrame);
   scroll->setWidget(list);

@@ -71,11 +71,14 @@ void WebBrowser::LoadingChanged(const QWebEngineLoadingInfo& info) {
   if (state_.loading) {
     state_.progress = 0;
     state_.notice.clear();
+    failed_.clear();
     return Changed();
   }
   // A site that answers with an error has a page to tell so.
-  if (info.status() == Info::LoadFailedStatus && info.errorDomain() != Info::HttpStatusCodeDomain)
+  if (info.status() == Info::LoadFailedStatus && info.errorDomain() != Info::HttpStatusCodeDomain) {
     state_.notice = FailureNotice(info);
+    failed_ = info.url();
+  }
   Changed();
   // Outside the engine's own event, as what follows runs events for a while.
   QMetaObject::invokeMethod(
@@ -102,7 +105,7 @@ void WebBrowser::ShowNotice(const QString& notice) {
 
 void WebBrowser::Changed() {
   if (view_) {
-    state_.back = view_->history()->canGoBack();
+    state_.back = failed_.isEmpty() ? view_->history()->canGoBack() : view_->history()->count() > 0;
     state_.forward = view_->history()->canGoForward();
   }
   if (OnState) OnState(state_);
@@ -124,6 +127,7 @@ void WebBrowser::Leave(const std::function<void(QWebEngineView&)>& go) {
   constexpr int PatienceMilliseconds = 1500;
   const bool runs = state_.notice.isEmpty();
   state_.notice.clear();
+  failed_.clear();
   Changed();
   const bool answers = !runs || (!deaf_ && Run(QStringLiteral("1"), PatienceMilliseconds));
   if (!view_) return;
@@ -134,12 +138,19 @@ void WebBrowser::Leave(const std::function<void(QWebEngineView&)>& go) {
 }
 
 Text WebBrowser::LocationURL() const {
+  if (!failed_.isEmpty()) return FromQt(failed_.toString());
   if (!view_ || view_->url().isEmpty()) return location_;
   return FromQt(view_->url().toString());
 }
 
 void WebBrowser::GoBack() {
-  if (view_ && view_->history()->canGoBack()) Leave([](QWebEngineView& view) { view.back(); });
+  if (!view_) return;
+  // The engine still stands at the page before the one that has failed.
+  if (!failed_.isEmpty() && view_->history()->count() > 0) {
+    failed_.clear();
+    return Reload();
+  }
+  if (view_->history()->canGoBack()) Leave([](QWebEngineView& view) { view.back(); });
 }
 
 void WebBrowser::GoForward() {
@@ -154,10 +165,14 @@ void WebBrowser::Stop() {
 
 void WebBrowser::Reload() {
   if (!view_) return;
+  const QUrl failed = std::exchange(failed_, {});
   state_.notice.clear();
   state_.loading = true;
   Changed();
-  view_->reload();
+  if (failed.isEmpty())
+    view_->reload();
+  else
+    view_->load(failed);
 }
 
 QVariant WebBrowser::Ask(const QString& script) {
@@ -196,7 +211,8 @@ Text WebBrowser::BodyText(std::size_t characters) {
 Text WebBrowser::BodyMarkup() { return FromQt(Ask(page_scripts::BodyMarkup()).toString()); }
 
 void WebBrowser::CopySelection() {
-  if (view_ && view_->hasSelection()) QGuiApplication::clipboard()->setText(view_->selectedText());
+  if (!view_ || !state_.notice.isEmpty()) return;
+  if (view_->hasSelection()) QGuiApplication::clipboard()->setText(view_->selectedText());
 }
 
 std::vector<PageElement> WebBrowser::Elements(std::size_t count) {
@@ -217,6 +233,7 @@ void WebBrowser::SetNamedValue(TextView name, TextView value) {
 void WebBrowser::Forget() {
   view_ = nullptr;
   state_ = {};
+  failed_.clear();
   location_ = BlankPage;
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QPointer>
+#include <QUrl>
 #include <QVariant>
 #include <QWebEngineView>
 #include <functional>
@@ -50,7 +51,7 @@ class WebBrowser : public QObject, public DocumentBrowser {
   void SetValues(const std::vector<ElementValue>& values) override;
   void SetNamedValue(TextView name, TextView value) override;
 
-  // Loads again the page that a notice has replaced.
+  // Loads again the page that a notice has replaced; one that could not be loaded is asked for anew.
   void Reload();
   // The form is gone, and the view with it.
   void Forget();
@@ -76,7 +77,8 @@ class WebBrowser : public QObject, public DocumentBrowser {
   std::unique_ptr<WebProfile> profile_;
   QPointer<QWebEngineView> view_;
   WebState state_;
-  bool deaf_ = false;                          // a question has been left without an answer
+  QUrl failed_;        // of the page that could not be loaded, while its notice stands
+  bool deaf_ = false;  // a question has been left without an answer
   std::function<void(QWebEngineView&)> next_;  // once the process of the page before has ended
   bool endless_ = false;                       // the page has been ended for its boxes
   Text location_{BlankPage};                   // as last asked for, until the view answers

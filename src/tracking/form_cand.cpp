@@ -1,5 +1,6 @@
 #include "tracking/form_cand.h"
 
+#include "base/day.h"
 #include "base/fonctionnel.h"
 #include "base/raised.h"
 #include "tracking/contracts.h"

@@ -264,6 +264,10 @@ TEST_F(WebTest, TheFileOfSitesIsRebuiltFromItsPage) {
   shell.whileWaiting = [this] { web.Arreter(); };
   EXPECT_FALSE(web.MajListeSites());
   EXPECT_NE(ReadBytes("Listesites.txt"), "") << "a page that never came replaces nothing";
+  browser.pages[page].loading = 1;
+  shell.whileWaiting = {};
+  EXPECT_FALSE(web.MajListeSites());
+  EXPECT_NE(ReadBytes("Listesites.txt"), "") << "nor does one that could not be loaded";
 }
 
 }  // namespace

@@ -158,7 +158,9 @@ TEST_F(LibreOfficeTest, AFailureOfAnyKindIsToldInFrenchAndLeavesTheOldDocument) 
   office.program = Script("echo 'Error: no export filter' >&2; exit 1");
   EXPECT_EQ(Export(), u"LibreOffice n’a pas pu convertir le CV\u00A0: Error: no export filter");
   EXPECT_TRUE(Contains(office.Export("absent.html", "cv.doc"), u"introuvable"));
-  EXPECT_TRUE(Contains(office.Export("page.html", "absent/cv.doc"), u"n’a pas pu être écrit"));
+  EXPECT_EQ(office.Export("page.html", "absent/cv.doc"),
+            u"Le document n’a pas pu être écrit dans le dossier «\u00A0absent\u00A0»\u00A0: ce fichier ou ce "
+            u"dossier n’existe pas.");
 }
 
 TEST_F(LibreOfficeTest, ADocumentWrittenHalfwayNeverBearsTheName) {

@@ -143,6 +143,14 @@ TEST_F(ConvertCommandTest, FaultsAreToldInFrenchAndLeaveTheDocument) {
   const Result nowhere = Convert("absent/cv.doc");
   EXPECT_EQ(nowhere.code, Refused);
   EXPECT_TRUE(nowhere.err.find("n’a pas pu être écrit") != std::string::npos) << nowhere.err;
+  ::setenv("TMPDIR", "cv.doc", 1);
+  const Result noRoom = Convert("b.doc");
+  ::unsetenv("TMPDIR");
+  EXPECT_EQ(noRoom.code, Refused);
+  EXPECT_EQ(
+      noRoom.err,
+      "talvorctl : Le dossier de travail ou le dossier temporaire\u00A0: un fichier se trouve à la place "
+      "d’un dossier.\n");
 }
 
 }  // namespace

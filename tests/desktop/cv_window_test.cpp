@@ -325,25 +325,5 @@ TEST_F(CvWindowTest, APageIsPrintedToItsEndWhenTheEditorCloses) {
   EXPECT_TRUE(dialogs.told.empty());
 }
 
-TEST_F(CvWindowTest, EveryControlHasANameAndEveryMnemonicIsItsOwn) {
-  Click("Entree1");
-  QString keys;
-  for (const QWidget* widget : desktop->Main().findChildren<QWidget*>()) {
-    if (!widget->isVisible()) continue;
-    QString text = widget->property("text").toString();
-    if (const auto at = text.indexOf(QLatin1Char('&'));
-        at >= 0 && qobject_cast<const QLineEdit*>(widget) == nullptr) {
-      const QChar key = text[at + 1].toUpper();
-      EXPECT_FALSE(keys.contains(key)) << text.toStdString();
-      keys += key;
-    }
-    if (!(widget->focusPolicy() & Qt::TabFocus) || Page().isAncestorOf(widget)) continue;
-    if (widget->focusProxy() != nullptr) continue;
-    EXPECT_FALSE(widget->accessibleName().isEmpty() && text.isEmpty())
-        << widget->metaObject()->className() << ' ' << widget->objectName().toStdString();
-  }
-  EXPECT_GE(keys.size(), 12);
-}
-
 }  // namespace
 }  // namespace talvor

@@ -166,15 +166,6 @@ TEST_F(FormCandWindowTest, TheKeyboardAloneDoesTheSameWork) {
   EXPECT_EQ(Count(), 0);
 }
 
-TEST_F(FormCandWindowTest, EveryControlHasAName) {
-  for (const QWidget* widget : Window().findChildren<QWidget*>()) {
-    if (!(widget->focusPolicy() & Qt::TabFocus) || !widget->isVisible()) continue;
-    const auto* button = qobject_cast<const QAbstractButton*>(widget);
-    EXPECT_FALSE(widget->accessibleName().isEmpty() && (button == nullptr || button->text().isEmpty()))
-        << widget->metaObject()->className() << ' ' << widget->objectName().toStdString();
-  }
-}
-
 TEST_F(FormCandWindowTest, TheBrowserPaneComesAndGoesWithTheModel) {
   SaveRow(QStringLiteral("Maçon"));
   auto* pane = Find("CadreWeb");

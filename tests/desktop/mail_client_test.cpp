@@ -182,6 +182,14 @@ TEST_F(MailClientTest, AMissingAttachmentStopsTheSendAndTheRestIsLeft) {
   EXPECT_EQ(Read(client.LeftMessage())[QStringLiteral("names")].toArray().size(), 1);
 }
 
+TEST_F(MailClientTest, ASemicolonTooManyIsAMissingAttachmentToo) {
+  Client();
+  EXPECT_NO_THROW(EXPECT_FALSE(Send(u"a@b.fr", u"Objet", u"Texte", File(u"a.doc") + u";")));
+  EXPECT_FALSE(fs::exists("reçu"));
+  ASSERT_NE(client.LeftMessage(), u"");
+  EXPECT_EQ(Read(client.LeftMessage())[QStringLiteral("names")].toArray().size(), 1);
+}
+
 TEST_F(MailClientTest, APathThatTheProgramWouldMangleIsLeftInAMessageInstead) {
   Client();
   EXPECT_FALSE(Send(u"a@b.fr", u"Objet", u"Texte", File(u"a\\b.doc")));

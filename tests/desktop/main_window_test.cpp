@@ -1,9 +1,12 @@
 #include <QElapsedTimer>
 #include <QLabel>
+#include <QTextBlock>
+#include <QTextBrowser>
 #include <QTimer>
 #include <fstream>
 
 #include "desktop/qt_dialogs.h"
+#include "desktop/user_guide.h"
 #include "tests/desktop/desktop_fixture.h"
 
 namespace talvor {
@@ -149,6 +152,38 @@ TEST_F(MainWindowTest, BoxesAnswerInFrench) {
   EXPECT_TRUE(boxes.Confirm(u"Oui <b>ou</b> non ?"));
   press(QStringLiteral("Annuler"));
   EXPECT_FALSE(boxes.Confirm(u"Oui ou non ?"));
+}
+
+TEST_F(MainWindowTest, TheGuideOpensFromTheAboutBoxWithItsPicturesAndChapters) {
+  Click("Logo");
+  QWidget* about = desktop->Windows().WindowOf(u"APropos");
+  ASSERT_NE(about, nullptr);
+  QTest::mouseClick(about->findChild<QPushButton*>(QStringLiteral("LienGuide")), Qt::LeftButton);
+  auto* guide = static_cast<UserGuideWindow*>(desktop->Windows().WindowOf(UserGuideForm));
+  ASSERT_NE(guide, nullptr);
+  QTextBrowser& pages = guide->Pages();
+  int chapters = 0;
+  int pictures = 0;
+  int links = 0;
+  for (QTextBlock block = pages.document()->begin(); block.isValid(); block = block.next()) {
+    chapters += block.blockFormat().headingLevel() == 2;
+    for (auto it = block.begin(); !it.atEnd(); ++it) {
+      const QTextCharFormat format = it.fragment().charFormat();
+      if (format.isImageFormat()) {
+        ++pictures;
+        const QUrl picture(pages.source().resolved(QUrl(format.toImageFormat().name())));
+        EXPECT_FALSE(pages.loadResource(QTextDocument::ImageResource, picture).isNull())
+            << picture.toString().toStdString();
+      }
+      if (!format.isAnchor()) continue;
+      ++links;
+      Q_EMIT pages.anchorClicked(QUrl(format.anchorHref()));
+      EXPECT_EQ(pages.textCursor().block().text(), it.fragment().text()) << "a chapter that is not there";
+    }
+  }
+  EXPECT_GE(chapters, 9);
+  EXPECT_GE(pictures, 7);
+  EXPECT_EQ(links, chapters);
 }
 
 }  // namespace

@@ -225,8 +225,8 @@ TEST_F(ConvertWindowTest, APdfThatCannotBeWrittenLeavesTheOldOne) {
   std::ofstream(Converted("Riche.pdf")) << "old";
   PagePdf printer;
   EXPECT_TRUE(Contains(printer.Export("absent.html", Converted("Riche.pdf")), u"pas pu être lue"));
-  EXPECT_TRUE(Contains(printer.Export("Modeles/CVtemp.html", scratch.Path() / "absent" / "a.pdf"),
-                       u"pas pu être écrit"));
+  EXPECT_TRUE(
+      Contains(printer.Export("Modeles/CVtemp.html", scratch.Path() / "absent" / "a.pdf"), u"n’existe pas"));
   EXPECT_EQ(ReadBytes(Converted("Riche.pdf")), "old");
 }
 
