@@ -98,18 +98,13 @@ void PrintPreviewWindow::AskForPdf() {
   const QString file =
       QFileDialog::getSaveFileName(this, tr("Enregistrer en PDF"), printed_.pdf, tr("Documents PDF (*.pdf)"));
   if (file.isEmpty()) return;
-  SavePdf(file, [this, file](bool saved) {
-    if (!saved) Tell(tr("Le fichier «\u00A0%1\u00A0» n’a pas pu être écrit.").arg(file));
+  SavePdf(file, [self = QPointer<PrintPreviewWindow>(this), file](bool saved) {
+    if (!saved && self) self->Tell(tr("Le fichier «\u00A0%1\u00A0» n’a pas pu être écrit.").arg(file));
   });
 }
 
 void PrintPreviewWindow::SavePdf(const QString& file, const std::function<void(bool)>& done) {
-  // One connection an order: the page answers each of them once.
-  auto* const page = view_->page();
-  connect(
-      page, &QWebEnginePage::pdfPrintingFinished, this, [done](const QString&, bool saved) { done(saved); },
-      Qt::SingleShotConnection);
-  page->printToPdf(file, printer_->pageLayout());
+  WritePdf(*view_, file, printer_->pageLayout(), done);
 }
 
 void QtPagePreview::Navigate(TextView address) {

@@ -15,12 +15,16 @@ std::set<const QWebEngineView*>& AtWork() {
   return views;
 }
 
+void BeginWork(QWebEngineView& view) {
+  AtWork().insert(&view);
+  QObject::connect(&view, &QObject::destroyed, [&view] { AtWork().erase(&view); });
+}
+
 }  // namespace
 
 void PrintPage(QWebEngineView& view, const std::shared_ptr<QPrinter>& printer,
                const std::function<void(bool)>& done) {
-  AtWork().insert(&view);
-  QObject::connect(&view, &QObject::destroyed, [&view] { AtWork().erase(&view); });
+  BeginWork(view);
   QObject::connect(
       &view, &QWebEngineView::printFinished, &view,
       [&view, printer, done](bool printed) {
@@ -31,11 +35,26 @@ void PrintPage(QWebEngineView& view, const std::shared_ptr<QPrinter>& printer,
   view.print(printer.get());
 }
 
+void WritePdf(QWebEngineView& view, const QString& file, const QPageLayout& layout,
+              const std::function<void(bool)>& done) {
+  BeginWork(view);
+  // One connection an order: the page answers each of them once.
+  QObject::connect(
+      view.page(), &QWebEnginePage::pdfPrintingFinished, &view,
+      [&view, done](const QString&, bool stands) {
+        AtWork().erase(&view);
+        done(stands);
+      },
+      Qt::SingleShotConnection);
+  view.page()->printToPdf(file, layout);
+}
+
 void OutliveWhilePrinting(QWebEngineView& view) {
   if (!AtWork().contains(&view)) return;
   view.hide();
   view.setParent(nullptr);
   QObject::connect(&view, &QWebEngineView::printFinished, &view, &QObject::deleteLater);
+  QObject::connect(view.page(), &QWebEnginePage::pdfPrintingFinished, &view, &QObject::deleteLater);
 }
 
 void FinishPrinting() {

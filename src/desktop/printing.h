@@ -14,6 +14,10 @@ namespace talvor {
 void PrintPage(QWebEngineView& view, const std::shared_ptr<QPrinter>& printer,
                const std::function<void(bool)>& done);
 
+// Writes the page of a view to a PDF file, in the background as well; `done` hears whether it stands.
+void WritePdf(QWebEngineView& view, const QString& file, const QPageLayout& layout,
+              const std::function<void(bool)>& done);
+
 // The window around a view is about to go: a view whose page is being printed leaves it and goes by itself
 // once it is through, for the engine does not bear the loss of a page in the midst of its printing.
 void OutliveWhilePrinting(QWebEngineView& view);

@@ -323,6 +323,16 @@ TEST_F(CvWindowTest, APageIsPrintedToItsEndWhenTheEditorCloses) {
   ASSERT_TRUE(QTest::qWaitFor([&] { return printer.expired(); }, Patience));
   EXPECT_TRUE(ReadBytes("papier.pdf").value_or("").starts_with("%PDF"));
   EXPECT_TRUE(dialogs.told.empty());
+
+  desktop->Cv().OpenFile(u"Ancien.dat");
+  desktop->Cv().Preview();
+  const QPointer<PrintPreviewWindow> preview = desktop->Cv().PreviewWindow();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return preview->IsComplete(); }, Patience));
+  bool saved = false;
+  preview->SavePdf(QStringLiteral("apercu.pdf"), [&](bool stands) { saved = stands; });
+  delete preview.data();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return saved; }, Patience));
+  EXPECT_TRUE(ReadBytes("apercu.pdf").value_or("").starts_with("%PDF"));
 }
 
 }  // namespace
