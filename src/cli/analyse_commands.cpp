@@ -33,7 +33,7 @@ Json AnalyseRecord(const Json& input) {
     else if (key == "initial")
       FillFromJson(value, AdFieldTable, record);
     else
-      throw CommandError("clé inconnue : « " + key + " »");
+      throw CommandError("clé inconnue\u00A0: «\u00A0" + key + "\u00A0»");
   }
   AnalyserAnnonce(texte, record, context);
   return JsonOf(AdFieldTable, record);
@@ -48,7 +48,7 @@ ExitCode Analyser(const AnalyseOptions& options, Console& console) {
   if (options.date) context.today = ReadDay(*options.date);
   if (options.initial) {
     const Text json = ReadText(*options.initial, console, LineEnds::AsTheyStand);
-    FillFromJson(ParseJson(ToUtf8(json), "« " + *options.initial + " »"), AdFieldTable, record);
+    FillFromJson(ParseJson(ToUtf8(json), "«\u00A0" + *options.initial + "\u00A0»"), AdFieldTable, record);
   }
   Text texte = ReadText(options.file, console, options.raw ? LineEnds::AsTheyStand : LineEnds::AsCrLf);
   if (options.unglue) texte = DecollerMots(texte);
@@ -65,7 +65,7 @@ ExitCode AnalyserLot(Console& console) {
     try {
       console.out << Line(AnalyseRecord(ParseJson(line, "la ligne"))) << '\n';
     } catch (const CommandError& error) {
-      console.err << "ligne " << number << " : " << error.what() << '\n';
+      console.err << "ligne " << number << "\u00A0: " << error.what() << '\n';
       console.out << Line(Json{{"erreur", error.what()}}) << '\n';
       code = Refused;
     }

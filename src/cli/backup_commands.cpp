@@ -25,8 +25,8 @@ struct BackupForm {
     std::error_code error;
     fs::current_path(folder, error);
     if (error)
-      throw CommandError("le dossier de données « " + folder.string() +
-                         " » n’est pas accessible (voir « talvorctl preparer »)");
+      throw CommandError("le dossier de données «\u00A0" + folder.string() +
+                         "\u00A0» n’est pas accessible (voir «\u00A0talvorctl preparer\u00A0»)");
   }
 
   SystemClock clock;

@@ -36,7 +36,7 @@ std::string Refusal(const CLI::App& app, const CLI::ParseError& error) {
   if (dynamic_cast<const CLI::ExtrasError*>(&error) != nullptr) {
     std::string words;
     for (const auto& word : app.remaining(true)) words += " " + word;
-    return "argument inattendu :" + words;
+    return "argument inattendu\u00A0:" + words;
   }
   if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr)
     return "il manque une commande ou un argument";
@@ -75,12 +75,14 @@ class CommandLine {
       console_.out << app_.help();  // of the command given, if any
       return Done;
     } catch (const CLI::ParseError& error) {
-      console_.err << "talvorctl : " << Refusal(app_, error) << " (voir « talvorctl --help »)\n";
+      console_.err << "talvorctl\u00A0: " << Refusal(app_, error)
+                   << " (voir «\u00A0talvorctl --help\u00A0»)\n";
       return WrongUsage;
     }
     const auto* analyse = app_.get_subcommand("analyser");
     if (batch_ && analyse->count_all() > 2) {  // the command itself and --lot
-      console_.err << "talvorctl : --lot ne va avec aucune autre option (voir « talvorctl --help »)\n";
+      console_.err
+          << "talvorctl\u00A0: --lot ne va avec aucune autre option (voir «\u00A0talvorctl --help\u00A0»)\n";
       return WrongUsage;
     }
     return command_();
@@ -113,22 +115,25 @@ class CommandLine {
   void AddAnalyser() {
     CLI::App* sub = Add("analyser", "Analyse une annonce et en donne les champs en JSON",
                         [this] { return batch_ ? AnalyserLot(console_) : Analyser(analyse_, console_); });
-    sub->add_option("fichier", analyse_.file, "Texte UTF-8 de l’annonce, « - » pour l’entrée standard")
+    sub->add_option("fichier", analyse_.file,
+                    "Texte UTF-8 de l’annonce, «\u00A0-\u00A0» pour l’entrée standard")
         ->type_name("FICHIER");
     sub->add_option("--adresse", analyse_.address, "Adresse de la page")->type_name("URL");
     sub->add_option("--date", analyse_.date, "Date du jour")->type_name("JJ/MM/AAAA");
     sub->add_option("--initial", analyse_.initial, "Champs déjà remplis")->type_name("F.json");
     sub->add_flag("--decoller", analyse_.unglue, "Sépare les mots collés d’une page");
     sub->add_flag("--brut", analyse_.raw, "Laisse les fins de ligne telles quelles");
-    sub->add_flag("--lot", batch_,
-                  "Lit des enregistrements JSON, un par ligne, sur l’entrée standard ; seule, cette option "
-                  "ne va avec aucune autre");
+    sub->add_flag(
+        "--lot", batch_,
+        "Lit des enregistrements JSON, un par ligne, sur l’entrée standard\u00A0; seule, cette option "
+        "ne va avec aucune autre");
   }
 
   void AddEvaluer() {
     CLI::App* sub = Add("evaluer", "Dit en JSON à quel point une page ressemble à une annonce",
                         [this] { return Evaluer(capture_.file, capture_.address, console_); });
-    sub->add_option("fichier", capture_.file, "Texte UTF-8 de la page, « - » pour l’entrée standard")
+    sub->add_option("fichier", capture_.file,
+                    "Texte UTF-8 de la page, «\u00A0-\u00A0» pour l’entrée standard")
         ->type_name("FICHIER")
         ->required();
     sub->add_option("--adresse", capture_.address, "Adresse de la page")->type_name("URL");
@@ -137,7 +142,8 @@ class CommandLine {
   void AddCapturer() {
     CLI::App* sub = Add("capturer", "Analyse une annonce, l’enregistre et donne son numéro",
                         [this] { return Capturer(workspace_, capture_, console_); });
-    sub->add_option("fichier", capture_.file, "Texte UTF-8 de l’annonce, « - » pour l’entrée standard")
+    sub->add_option("fichier", capture_.file,
+                    "Texte UTF-8 de l’annonce, «\u00A0-\u00A0» pour l’entrée standard")
         ->type_name("FICHIER")
         ->required();
     sub->add_option("--adresse", capture_.address, "Adresse de la page")->type_name("URL");
@@ -187,7 +193,7 @@ class CommandLine {
               [this] { return LettreFusionner(merge_, console_); });
     sub->add_option("fichier", merge_.file, "Fichier du modèle")->type_name("F.dat")->required();
     sub->add_option("candidature", merge_.candidature,
-                    "Champs de la candidature en JSON, « - » pour l’entrée standard")
+                    "Champs de la candidature en JSON, «\u00A0-\u00A0» pour l’entrée standard")
         ->type_name("CAND.json")
         ->required();
     sub->add_option("--date", merge_.date, "Date du jour")->type_name("JJ/MM/AAAA");
@@ -207,7 +213,7 @@ class CommandLine {
     convert->add_option("--vers", convert_.target, "Document à écrire")->type_name("DOCUMENT")->required();
     CLI::App* identity = Add(*cv, "identite", "Donne en JSON les champs d’un bloc d’identité",
                              [this] { return IdentiteCv(identity_, console_); });
-    identity->add_option("fichier", identity_, "Texte UTF-8 du bloc, « - » pour l’entrée standard")
+    identity->add_option("fichier", identity_, "Texte UTF-8 du bloc, «\u00A0-\u00A0» pour l’entrée standard")
         ->type_name("FICHIER")
         ->required();
   }
@@ -218,7 +224,7 @@ class CommandLine {
         ->add_option("dossier", folder_, "Dossier qui reçoit la copie")
         ->type_name("DOSSIER")
         ->required();
-    Add("restaurer", "Reprend les données d’une copie ; ce qu’elle remplace reste dans Sauvegardes",
+    Add("restaurer", "Reprend les données d’une copie\u00A0; ce qu’elle remplace reste dans Sauvegardes",
         [this] { return Restaurer(workspace_, folder_, console_); })
         ->add_option("dossier", folder_, "Dossier de la copie")
         ->type_name("DOSSIER")
@@ -226,7 +232,7 @@ class CommandLine {
   }
 
   Console& console_;
-  CLI::App app_{"Talvor en ligne de commande : annonces, candidatures et dossier de données."};
+  CLI::App app_{"Talvor en ligne de commande\u00A0: annonces, candidatures et dossier de données."};
   std::function<ExitCode()> command_;
 
   std::string workspace_;
@@ -251,13 +257,13 @@ ExitCode RunCommandLine(std::vector<std::string> arguments, Console& console) {
   try {
     return CommandLine(console).Run(std::move(arguments));
   } catch (const CommandError& error) {
-    console.err << "talvorctl : " << error.what() << '\n';
+    console.err << "talvorctl\u00A0: " << error.what() << '\n';
   } catch (const StoreError& error) {
-    console.err << "talvorctl : " << error.what() << '\n';
+    console.err << "talvorctl\u00A0: " << error.what() << '\n';
   } catch (const std::filesystem::filesystem_error& error) {
-    console.err << "talvorctl : " << ToUtf8(ReportOf(error)) << '\n';
+    console.err << "talvorctl\u00A0: " << ToUtf8(ReportOf(error)) << '\n';
   } catch (const std::bad_alloc&) {
-    console.err << "talvorctl : la mémoire est insuffisante\n";
+    console.err << "talvorctl\u00A0: la mémoire est insuffisante\n";
   }
   return Refused;
 }

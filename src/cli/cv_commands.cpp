@@ -32,7 +32,8 @@ constexpr FieldTable<CvDocument, 11> ParsedFields{{
 
 CvDocument CvOf(const fs::path& file) {
   CvDocument cv;
-  if (!ReadCv(file, cv)) throw CommandError("le CV « " + file.string() + " » est introuvable ou illisible");
+  if (!ReadCv(file, cv))
+    throw CommandError("le CV «\u00A0" + file.string() + "\u00A0» est introuvable ou illisible");
   // The name of the file wins over the one that stands in it.
   cv.NomCV = TextOf(file.stem()).value_or(cv.NomCV);
   return cv;
@@ -41,7 +42,7 @@ CvDocument CvOf(const fs::path& file) {
 ExitCode RendreCv(const RenderOptions& options, Console& console) {
   CvDocument cv = CvOf(options.file);
   auto page = ReadTemplate(options.model);
-  if (!page) throw CommandError("le modèle « " + options.model + " » est introuvable ou illisible");
+  if (!page) throw CommandError("le modèle «\u00A0" + options.model + "\u00A0» est introuvable ou illisible");
   cv.Langues = LanguageSummary(cv);
   const auto photo = options.photo ? PhotoOnPage::Picture : PhotoOnPage::None;
   console.out << ToUtf8(FillTemplate(cv, *std::move(page), photo).append(LineEnd));

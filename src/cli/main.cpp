@@ -8,7 +8,7 @@ int main(int argc, char** argv) {
   const auto code = talvor::cli::RunCommandLine({argv + 1, argv + argc}, console);
   // An output that could not be written (a full disk, a closed pipe) is a failure of the command.
   if (!std::cout.flush()) {
-    std::cerr << "talvorctl : le résultat n’a pas pu être écrit\n";
+    std::cerr << "talvorctl\u00A0: le résultat n’a pas pu être écrit\n";
     return talvor::cli::Refused;
   }
   return code;

@@ -15,7 +15,8 @@ void MoveTo(const std::string& folder) {
   const bool hasBase = fs::exists(fs::path{folder} / "Talvor.mdb", error);
   if (hasBase) fs::current_path(folder, error);
   if (!hasBase || error)
-    throw CommandError("La base n'est pas accessible dans « " + folder + " » (voir « talvorctl preparer »)");
+    throw CommandError("La base n'est pas accessible dans «\u00A0" + folder +
+                       "\u00A0» (voir «\u00A0talvorctl preparer\u00A0»)");
 }
 
 }  // namespace
@@ -27,7 +28,7 @@ Workspace::Workspace(const std::string& folder, Text address, Console& console)
   else
     MoveTo(folder);
   if (ChargerPrincipale(principale, environment, clock, dialogs) == StartOutcome::NoDatabase)
-    throw CommandError("il n’y a pas de dossier de données (voir « talvorctl preparer »)");
+    throw CommandError("il n’y a pas de dossier de données (voir «\u00A0talvorctl preparer\u00A0»)");
 }
 
 }  // namespace talvor::cli

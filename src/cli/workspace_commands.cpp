@@ -24,7 +24,7 @@ constexpr std::array<TriName, 4> TriNames{{{"societes", Tri::Societes},
 Tri TriOf(const std::string& name) {
   for (const auto& row : TriNames)
     if (name == row.name) return row.tri;
-  throw CommandError("tri inconnu : « " + name + " »");
+  throw CommandError("tri inconnu\u00A0: «\u00A0" + name + "\u00A0»");
 }
 
 // The groups in order, each with its leaves.
@@ -41,7 +41,8 @@ ExitCode Preparer(const std::string& workspace, Console& console) {
   const fs::path folder =
       workspace.empty() ? workspace_paths::UsualDataFolder(SystemEnvironment{}) : fs::path{workspace};
   InstallerDossier(folder, DeliveredFiles());
-  console.out << "Dossier de données prêt : " << fs::absolute(folder).lexically_normal().string() << '\n';
+  console.out << "Dossier de données prêt\u00A0: " << fs::absolute(folder).lexically_normal().string()
+              << '\n';
   return Done;
 }
 

@@ -58,12 +58,19 @@ void FormRédigerCV::Open(int width) {
   around_.principale.AfficherGuide(editor_texts::Welcome);
 }
 
-void FormRédigerCV::SauvegarderCV() { talvor::SauvegarderCV(*this, around_.dialogs, around_.principale); }
+void FormRédigerCV::SauvegarderCV() {
+  if (talvor::SauvegarderCV(*this, around_.dialogs, around_.principale)) unsaved_ = false;
+}
+
+void FormRédigerCV::EnregistrerSaisie() {
+  if (unsaved_ && !Nom.empty()) SaveUnderName();
+}
 
 void FormRédigerCV::Change(TextView field, TextView text) {
   const auto* known = FindField(CvFields, field);
   if (known == nullptr || this->*(known->text) == text) return;
   this->*(known->text) = text;
+  unsaved_ = true;
   if (field == u"DateNaissance") AgeFromBirthDate();
   if (RendersOnChange(field)) VisualisationCV();
 }

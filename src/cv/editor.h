@@ -63,6 +63,10 @@ class FormRédigerCV : public CvDocument {
   // Writes the CV to its file; failures are told to the user.
   void SauvegarderCV();
 
+  // Saves what was typed since the last save, as the next render would: the form is about to go, or to
+  // take another CV. A CV without a surname has no file yet and stays without one.
+  void EnregistrerSaisie();
+
   // Renders the page into Modeles/CVtemp.html and shows it; a CV with a surname is saved at once.
   // Without its template it does nothing. Template names are bare file names: one that holds a folder
   // counts as missing.
@@ -102,6 +106,7 @@ class FormRédigerCV : public CvDocument {
   void SupprimerPhoto();
 
  private:
+  void SaveUnderName();
   void TakeLine(TextView line);
   void LoadPhotoOf(TextView name);
   void AgeFromBirthDate();
@@ -111,6 +116,7 @@ class FormRédigerCV : public CvDocument {
   void OfferLastWordVersion();
 
   Surroundings around_;
+  bool unsaved_ = false;  // something was typed since the last save
 };
 
 inline constexpr TextView EditorForm = u"FormRédigerCV";

@@ -62,6 +62,7 @@ void FormRédigerCV::ChargerFichierCV(const std::filesystem::path& chemin) {
   // The name of the file wins over the one that stands in it.
   NomCV = TextOf(chemin.filename()).value_or(NomCV);
   NomCV.resize(NomCV.size() - std::min(NomCV.size(), ExtensionLength));
+  unsaved_ = false;
   LoadPhotoOf(NomCV);
 
   VisualisationCV();
@@ -87,7 +88,11 @@ void FormRédigerCV::VisualisationCV() {
 
   if (around_.layOut) around_.layOut();
 
-  if (Nom.empty()) return;
+  if (!Nom.empty()) SaveUnderName();
+}
+
+// A CV without a name takes that of its owner.
+void FormRédigerCV::SaveUnderName() {
   if (NomCV.empty()) NomCV = NameFromOwner(*this);
   SauvegarderCV();
 }

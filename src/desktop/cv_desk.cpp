@@ -5,6 +5,7 @@
 #include <QPrinterInfo>
 
 #include "desktop/guide_panel.h"
+#include "desktop/printing.h"
 #include "desktop/text_edge.h"
 #include "workspace/document_keeping.h"
 #include "workspace/systeme.h"
@@ -81,7 +82,12 @@ void CvDesk::Register() {
                                      }});
 }
 
+void CvDesk::KeepTyping() {
+  if (window_) window_->KeepTyping();
+}
+
 void CvDesk::OpenFile(TextView name) {
+  KeepTyping();
   program_.shell.Show(EditorForm);
   if (!window_) return;
   window_->Do([&] { form_->ChargerFichierCV(FileIn(workspace_paths::CvFolder(), name)); });
@@ -146,15 +152,9 @@ void CvDesk::Print() {
   const std::shared_ptr<QPrinter> printer = makePrinter();
   if (!printer) return program_.dialogs.Tell(u"Aucune imprimante n’est installée.");
   printer->setPageLayout(CvPageLayout());
-  CvPageView& view = window_->Page();
-  // The printer lives until the page is through.
-  QObject::connect(
-      &view, &QWebEngineView::printFinished, window_,
-      [this, printer](bool success) {
-        if (!success) program_.dialogs.Tell(u"L’impression n’a pas abouti.");
-      },
-      Qt::SingleShotConnection);
-  view.print(printer.get());
+  PrintPage(window_->Page(), printer, [this](bool printed) {
+    if (!printed) program_.dialogs.Tell(u"L’impression n’a pas abouti.");
+  });
 }
 
 }  // namespace talvor

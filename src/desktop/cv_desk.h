@@ -43,6 +43,8 @@ class CvDesk {
   void Register();
   // Opens the CV of that file name.
   void OpenFile(TextView name);
+  // What was typed in the editor reaches its file.
+  void KeepTyping();
   // The editor is closed and opened empty.
   void OpenNew();
   // The page of the editor, in a print preview or straight to the printer; told when it cannot be.

@@ -73,6 +73,7 @@ QWidget* CvPagePane::MakeEntries() {
     entry->setCheckable(!rows[i].menu);
     TintIcon(theme_, *entry, rows[i].icon, QStringLiteral("text"));
     connect(entry, &QPushButton::clicked, this, [this, i, entry] {
+      entry->setFocus(Qt::ShortcutFocusReason);  // its key leaves the field that is typed in, as a click does
       if (OnEntry) OnEntry(i, *entry);
     });
     if (rows[i].menu) AddChevron(*entry);

@@ -5,6 +5,7 @@
 #include <QShortcut>
 #include <QSplitter>
 
+#include "desktop/printing.h"
 #include "desktop/text_edge.h"
 
 namespace talvor {
@@ -39,6 +40,8 @@ CvWindow::CvWindow(FormRédigerCV& form, QtMenus& menus, const Theme& theme, QWi
   connect(&theme, &Theme::Changed, this, &CvWindow::Refresh);
   Refresh();
 }
+
+CvWindow::~CvWindow() { OutliveWhilePrinting(Page()); }
 
 void CvWindow::BindFields() {
   binder_.BindByName(*this, CvFields, static_cast<CvDocument&>(shown_));
@@ -91,13 +94,28 @@ void CvWindow::Do(const std::function<void()>& action) {
   if (OnActed) OnActed();
 }
 
+// The name of the field that a widget shows, empty for every other widget.
+QString CvWindow::FieldOf(const QWidget* widget) const {
+  const bool ours = widget != nullptr && isAncestorOf(widget);
+  return ours && FindField(CvFields, FromQt(widget->objectName())) ? widget->objectName() : QString();
+}
+
+void CvWindow::KeepTyping() {
+  const Text left = FromQt(std::exchange(focused_, QString()));
+  Do([&] {
+    if (!left.empty()) form_.Leave(left);
+    form_.EnregistrerSaisie();
+  });
+  // The field is there still, and will be left again.
+  focused_ = FieldOf(QApplication::focusWidget());
+}
+
 // A field is left when the focus comes to another place of the program. An open panel is part of the
 // field that it was opened from, another window of nothing.
 void CvWindow::MoveFocus(QWidget* now) {
   if (now == nullptr || now->window() != window()) return;
   if (page_->Panels().isAncestorOf(now)) return;
-  const QString name =
-      isAncestorOf(now) && FindField(CvFields, FromQt(now->objectName())) ? now->objectName() : QString();
+  const QString name = FieldOf(now);
   if (name == focused_) return;
   const Text left = FromQt(std::exchange(focused_, name));
   Do([&] {

@@ -19,6 +19,7 @@ class CvWindow : public QWidget {
  public:
   // The view model and the menus must outlive the window.
   CvWindow(FormRédigerCV& form, QtMenus& menus, const Theme& theme, QWidget* parent);
+  ~CvWindow() override;
 
   // Called after each action, for what other windows show.
   std::function<void()> OnActed;
@@ -30,6 +31,8 @@ class CvWindow : public QWidget {
   void Do(const std::function<void()>& action);
   // Shows the view model as it stands.
   void Refresh();
+  // The field with the focus is left, and what was typed is saved.
+  void KeepTyping();
 
   [[nodiscard]] CvPageView& Page() { return page_->View(); }
   [[nodiscard]] CvPagePane& PagePane() { return *page_; }
@@ -43,6 +46,7 @@ class CvWindow : public QWidget {
   void ConnectZones();
   void ConnectPage();
   void MoveFocus(QWidget* now);
+  [[nodiscard]] QString FieldOf(const QWidget* widget) const;
 
   FormRédigerCV& form_;
   QtMenus& menus_;

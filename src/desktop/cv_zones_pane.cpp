@@ -236,7 +236,7 @@ void CvZonesPane::AddBirthAndFamily(QGridLayout& grid, QWidget* block) {
   family->addWidget(children);
   family->addWidget(MakeZoneLabel(u"NbEnfants", {}, children, block));
   grid.addLayout(family, 5, 4);
-  children->setAccessibleName(tr("Nombre d'enfants"));
+  children->setAccessibleName(tr("Nombre d’enfants"));
 }
 
 QWidget* CvZonesPane::MakePhotoBox() {
@@ -262,7 +262,7 @@ QWidget* CvZonesPane::MakePhotoBox() {
   auto* browse = new QPushButton(ZoneCaption(u"CopierPhoto"), box);
   browse->setObjectName(QStringLiteral("CopierPhoto"));
   browse->setProperty("dense", true);
-  browse->setAccessibleName(tr("Parcourir... : photographie"));
+  browse->setAccessibleName(tr("Parcourir...\u00A0: photographie"));
   connect(browse, &QPushButton::clicked, this, [this] {
     if (OnBrowsePhoto) OnBrowsePhoto();
   });
@@ -280,7 +280,7 @@ QToolButton* CvZonesPane::MakeHelp(TextView field, QWidget* parent) {
     help->setProperty(HelpIcon, place.icon);
     help->setStyleSheet(QStringLiteral("min-height: 0; padding: 0;"));
     help->setFixedSize(24, 22);
-    help->setAccessibleName(tr("Aide : %1").arg(ZoneCaption(field)));
+    help->setAccessibleName(tr("Aide\u00A0: %1").arg(ZoneCaption(field)));
     TintIcon(theme_, *help, QStringLiteral("help"), QStringLiteral("new"));
     help->installEventFilter(this);
     return help;
@@ -384,7 +384,7 @@ void CvZonesPane::ShowPhoto(const std::string& bytes) {
   photo_->setStyleSheet(
       QStringLiteral("QToolButton:!focus { border: 1px solid %1; background: %2; }")
           .arg(theme_.Color(QStringLiteral("line2")).name(), theme_.Color(QStringLiteral("psoft")).name()));
-  photo_->setAccessibleName(picture.isNull() ? tr("Photographie : aucune") : tr("Photographie"));
+  photo_->setAccessibleName(picture.isNull() ? tr("Photographie\u00A0: aucune") : tr("Photographie"));
 }
 
 void CvZonesPane::SetCompact(bool compact) {

@@ -10,6 +10,7 @@
 #include "desktop/assistant_figure.h"
 #include "desktop/backup_window.h"
 #include "desktop/guide_panel.h"
+#include "desktop/printing.h"
 #include "desktop/stat_window.h"
 #include "desktop/user_guide.h"
 #include "workspace/document_keeping.h"
@@ -45,11 +46,12 @@ Desktop::Desktop(const Theme& theme, const Environment& environment, const Clock
   MakeFormCand();
   RegisterForms();
   main_->OnClosed = [this] {
-    if (letterWindow_) formLettre_.Timer1();
+    KeepTyping();
     // Waits of these forms end with them; the event loop alone would leave them turning.
     backup_.Annuler();
     shell_.Unload(u"FormLoadSave");
     shell_.Unload(u"FormCand");
+    FinishPrinting();
     QCoreApplication::quit();
   };
   main_->OnUserGuide = [this] { shell_.Show(UserGuideForm); };
@@ -122,14 +124,20 @@ void Desktop::RegisterSmallForms() {
                                  }});
 }
 
-// What was typed since the last tick of the timers reaches the disk.
+// What was typed in the editors reaches the disk.
 void Desktop::KeepTyping() {
   if (letterWindow_) letterWindow_->Tick1000();
+  if (formCandWindow_) formCandWindow_->Tick3000();
+  cv_.KeepTyping();
 }
 
 void Desktop::RegisterLibrary() {
   library_.Connect(main_->Header());
   library_.BeforeActing = [this] { KeepTyping(); };
+  main_->Header().OnMenu = [this, menu = main_->Header().OnMenu] {
+    KeepTyping();
+    menu();
+  };
   library_.OnActed = [this] {
     RefreshMain();
     if (homeWindow_) homeWindow_->Refresh();
@@ -190,7 +198,7 @@ void Desktop::RegisterBackup() {
 // The data is about to change under the forms: what was typed is saved where it belongs, and no form
 // goes on with a document that is no longer there.
 void Desktop::CloseDocuments() {
-  if (cv_.Window() != nullptr && !cv_.Form().Nom.empty()) cv_.Form().SauvegarderCV();
+  cv_.KeepTyping();
   shell_.Unload(EditorForm);
   shell_.Unload(LetterForm);
   shell_.Unload(ApplyForm);

@@ -164,13 +164,13 @@ void LetterSheetPane::TellNotes() {
     TellNote(
         edit_, QStringLiteral("warn"), QStringLiteral("warn"),
         tr("Lettre retouchée à la main\u00A0: la retouche sera perdue à la prochaine composition "
-           "(autre formule, autre type de modèle, reprise d'un CV, sortie du champ Courriel, Recomposer)."));
+           "(autre formule, autre type de modèle, reprise d’un CV, sortie du champ Courriel, Recomposer)."));
   else
     TellNote(edit_, QStringLiteral("info"), QStringLiteral("text3"),
-             tr("Une retouche faite ici est gardée jusqu'à la prochaine composition de la lettre."));
+             tr("Une retouche faite ici est gardée jusqu’à la prochaine composition de la lettre."));
   TellNote(
       failure_, QStringLiteral("warn"), QStringLiteral("bad"),
-      tr("Le modèle n'a pas pu être enregistré. Vérifiez son nom et la place disponible\u00A0; un nouvel "
+      tr("Le modèle n’a pas pu être enregistré. Vérifiez son nom et la place disponible\u00A0; un nouvel "
          "essai suivra le prochain changement de la lettre."));
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 
 #include "app/candidature_menus.h"
 #include "app/file_library.h"
@@ -39,7 +40,9 @@ class LibraryDesk {
 
  private:
   void Do(const std::function<void()>& action);
+  [[nodiscard]] std::optional<std::size_t> SlotAfterSaving(std::size_t slot);
 
+  const Principale& principale_;
   QtMenus menus_;
   FileLibrary library_;
   CandidatureMenus candidatures_;

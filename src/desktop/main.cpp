@@ -19,9 +19,9 @@ using namespace talvor;
 
 // The end of a program that cannot go on: the report, then nothing more, not even a clean-up.
 [[noreturn]] void EndWith(const std::string& report) {
-  std::cerr << "talvor : " << report << std::endl;
+  std::cerr << "talvor\u00A0: " << report << std::endl;
   QMessageBox::critical(nullptr, QStringLiteral("Talvor"),
-                        QStringLiteral("Talvor doit s'arrêter.\n\n%1").arg(QString::fromStdString(report)));
+                        QStringLiteral("Talvor doit s’arrêter.\n\n%1").arg(QString::fromStdString(report)));
   std::_Exit(EXIT_FAILURE);
 }
 

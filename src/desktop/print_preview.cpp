@@ -11,6 +11,7 @@
 
 #include "desktop/bouton_tlv.h"
 #include "desktop/pane.h"
+#include "desktop/printing.h"
 #include "desktop/text_edge.h"
 
 namespace talvor {
@@ -20,11 +21,11 @@ PrintPreviewWindow::PrintPreviewWindow(const Theme& theme, PrintedPage page, QWi
       printed_(std::move(page)),
       view_(new QWebEngineView(this)),
       progress_(new QProgressBar(this)),
-      printer_(QPrinter::HighResolution) {
+      printer_(std::make_shared<QPrinter>(QPrinter::HighResolution)) {
   setObjectName(QStringLiteral("AperçuImpression"));
   setWindowTitle(tr("Aperçu avant impression"));
   setAttribute(Qt::WA_DeleteOnClose);
-  printer_.setPageLayout(printed_.layout);
+  printer_->setPageLayout(printed_.layout);
   auto* sealed = new SealedPage(printed_.reach, view_);
   view_->setPage(sealed);
   view_->setAccessibleName(tr("Page à imprimer"));
@@ -37,9 +38,6 @@ PrintPreviewWindow::PrintPreviewWindow(const Theme& theme, PrintedPage page, QWi
     complete_ = true;
     progress_->setVisible(false);
   });
-  connect(view_, &QWebEngineView::printFinished, this, [this](bool printed) {
-    if (!printed) Tell(tr("L’impression n’a pas abouti."));
-  });
 
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
@@ -50,6 +48,8 @@ PrintPreviewWindow::PrintPreviewWindow(const Theme& theme, PrintedPage page, QWi
   resize(980, 680);
   sealed->ShowFile(printed_.file);
 }
+
+PrintPreviewWindow::~PrintPreviewWindow() { OutliveWhilePrinting(*view_); }
 
 QLayout* PrintPreviewWindow::MakeTools(const Theme& theme) {
   auto* tools = new QHBoxLayout;
@@ -77,11 +77,14 @@ QLayout* PrintPreviewWindow::MakeTools(const Theme& theme) {
 }
 
 void PrintPreviewWindow::Print() {
-  QPrintDialog dialog(&printer_, this);
-  if (dialog.exec() == QDialog::Accepted) view_->print(&printer_);
+  QPrintDialog dialog(printer_.get(), this);
+  if (dialog.exec() != QDialog::Accepted) return;
+  PrintPage(*view_, printer_, [self = QPointer<PrintPreviewWindow>(this)](bool printed) {
+    if (!printed && self) self->Tell(tr("L’impression n’a pas abouti."));
+  });
 }
 
-void PrintPreviewWindow::SetUpPage() { QPageSetupDialog(&printer_, this).exec(); }
+void PrintPreviewWindow::SetUpPage() { QPageSetupDialog(printer_.get(), this).exec(); }
 
 void PrintPreviewWindow::Zoom(qreal factor) {
   constexpr qreal Smallest = 0.3;
@@ -95,18 +98,13 @@ void PrintPreviewWindow::AskForPdf() {
   const QString file =
       QFileDialog::getSaveFileName(this, tr("Enregistrer en PDF"), printed_.pdf, tr("Documents PDF (*.pdf)"));
   if (file.isEmpty()) return;
-  SavePdf(file, [this, file](bool saved) {
-    if (!saved) Tell(tr("Le fichier « %1 » n’a pas pu être écrit.").arg(file));
+  SavePdf(file, [self = QPointer<PrintPreviewWindow>(this), file](bool saved) {
+    if (!saved && self) self->Tell(tr("Le fichier «\u00A0%1\u00A0» n’a pas pu être écrit.").arg(file));
   });
 }
 
 void PrintPreviewWindow::SavePdf(const QString& file, const std::function<void(bool)>& done) {
-  // One connection an order: the page answers each of them once.
-  auto* const page = view_->page();
-  connect(
-      page, &QWebEnginePage::pdfPrintingFinished, this, [done](const QString&, bool saved) { done(saved); },
-      Qt::SingleShotConnection);
-  page->printToPdf(file, printer_.pageLayout());
+  WritePdf(*view_, file, printer_->pageLayout(), done);
 }
 
 void QtPagePreview::Navigate(TextView address) {

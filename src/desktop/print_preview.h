@@ -6,6 +6,7 @@
 #include <QPrinter>
 #include <QUrl>
 #include <functional>
+#include <memory>
 
 #include "desktop/sealed_page.h"
 #include "desktop/theme.h"
@@ -28,6 +29,7 @@ struct PrintedPage {
 class PrintPreviewWindow : public QDialog {
  public:
   PrintPreviewWindow(const Theme& theme, PrintedPage page, QWidget* parent);
+  ~PrintPreviewWindow() override;
 
   [[nodiscard]] bool IsComplete() const { return complete_; }
   [[nodiscard]] QWebEngineView& View() { return *view_; }
@@ -46,7 +48,7 @@ class PrintPreviewWindow : public QDialog {
   PrintedPage printed_;
   QWebEngineView* view_;
   QProgressBar* progress_;
-  QPrinter printer_;
+  std::shared_ptr<QPrinter> printer_;
   bool complete_ = false;
 };
 

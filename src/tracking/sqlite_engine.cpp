@@ -64,7 +64,7 @@ std::string Cause(const SQLite::Exception& failure) {
     case SQLITE_TOOBIG:
       return "un texte est trop long pour la base.";
     default:
-      return std::string{"le moteur de base de données signale « "} + failure.what() + " ».";
+      return std::string{"le moteur de base de données signale «\u00A0"} + failure.what() + "\u00A0».";
   }
 }
 
@@ -99,7 +99,7 @@ void PrepareConnection(SQLite::Database& connection, const Clock& clock) {
 }
 
 StoreError ReportOf(const std::filesystem::path& file, const SQLite::Exception& failure) {
-  return StoreError(file.string() + " : " + Cause(failure));
+  return StoreError(file.string() + "\u00A0: " + Cause(failure));
 }
 
 }  // namespace talvor

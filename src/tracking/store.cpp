@@ -148,13 +148,13 @@ void BindColumn(SQLite::Statement& statement, const fs::path& file, std::size_t 
   } else if (const auto day = ParseDate(value)) {
     statement.bind(parameter, day->serial);
   } else {
-    throw StoreError(file.string() + " : la date « " + ToUtf8(value) + " » de la colonne " + ColumnName(c) +
-                     " est refusée.");
+    throw StoreError(file.string() + "\u00A0: la date «\u00A0" + ToUtf8(value) + "\u00A0» de la colonne " +
+                     ColumnName(c) + " est refusée.");
   }
 }
 
 StoreError NoSuchRow(const fs::path& file, std::int32_t num) {
-  return StoreError(file.string() + " : la candidature n° " + std::to_string(num) + " n’existe plus.");
+  return StoreError(file.string() + "\u00A0: la candidature n° " + std::to_string(num) + " n’existe plus.");
 }
 
 }  // namespace
@@ -180,7 +180,7 @@ class Database::Engine {
  private:
   static SQLite::Database OpenConnection(const fs::path& file) {
     std::error_code error;
-    if (!fs::exists(file, error)) throw StoreError(file.string() + " : la base est introuvable.");
+    if (!fs::exists(file, error)) throw StoreError(file.string() + "\u00A0: la base est introuvable.");
     return Reporting(
         file, [&] { return SQLite::Database(file.string(), SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX); });
   }
@@ -188,9 +188,10 @@ class Database::Engine {
   void CheckVersion() {
     const int version = connection.execAndGet("PRAGMA user_version").getInt();
     if (version > SchemaVersion)
-      throw StoreError(file.string() + " : la base a été écrite par une version plus récente de Talvor.");
+      throw StoreError(file.string() +
+                       "\u00A0: la base a été écrite par une version plus récente de Talvor.");
     if (version < SchemaVersion || !connection.tableExists("Candidatures"))
-      throw StoreError(file.string() + " : ce fichier n’est pas une base de candidatures.");
+      throw StoreError(file.string() + "\u00A0: ce fichier n’est pas une base de candidatures.");
   }
 };
 
@@ -219,14 +220,14 @@ void Database::Create(const fs::path& file) {
     connection.exec(std::string{Schema} + "PRAGMA user_version = " + std::to_string(SchemaVersion));
   });
   fs::rename(draft, file, error);
-  if (error) throw StoreError(file.string() + " : la base ne peut pas être créée.");
+  if (error) throw StoreError(file.string() + "\u00A0: la base ne peut pas être créée.");
 }
 
 bool Database::IsOpen() const noexcept { return engine_ != nullptr; }
 void Database::Close() noexcept { engine_.reset(); }
 
 Database::Engine& Database::Opened() {
-  if (!engine_) throw StoreError(workspace_paths::Database().string() + " : la base est déjà fermée.");
+  if (!engine_) throw StoreError(workspace_paths::Database().string() + "\u00A0: la base est déjà fermée.");
   return *engine_;
 }
 
@@ -276,7 +277,7 @@ PendingRow Database::BeginRow() {
     return number;
   });
   if (next > std::numeric_limits<std::int32_t>::max())
-    throw StoreError(engine.file.string() + " : tous les numéros de candidature sont pris.");
+    throw StoreError(engine.file.string() + "\u00A0: tous les numéros de candidature sont pris.");
   return {static_cast<std::int32_t>(next), true};
 }
 
@@ -331,7 +332,7 @@ void Database::BackUp(const fs::path& file) {
     if (outcome != SQLITE_DONE) throw SQLite::Exception("copie inachevée", outcome);
   });
   fs::rename(draft, file, error);
-  if (error) throw StoreError(file.string() + " : la copie de la base ne peut pas être écrite.");
+  if (error) throw StoreError(file.string() + "\u00A0: la copie de la base ne peut pas être écrite.");
 }
 
 }  // namespace talvor

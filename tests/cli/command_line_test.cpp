@@ -99,7 +99,7 @@ TEST_F(CommandLineTest, ALotGivesARecordALineAndNamesTheLinesThatAreNone) {
   for (const std::size_t bad : {1u, 2u, 3u}) EXPECT_TRUE(records[bad].contains("erreur")) << bad;
   EXPECT_EQ(records[4]["DateDiffusion"], "02/03/2007");
   EXPECT_EQ(records[4]["Ville"], "Lyon");
-  EXPECT_TRUE(result.err.starts_with("ligne 3 : ")) << result.err;
+  EXPECT_TRUE(result.err.starts_with("ligne 3\u00A0: ")) << result.err;
 }
 
 struct Fault {
@@ -129,11 +129,11 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         Fault{"no command", {}, WrongUsage, "il manque une commande"},
         Fault{"an unknown one", {"manger"}, WrongUsage, "talvorctl --help"},
-        Fault{"an argument too many", {"preparer", "x"}, WrongUsage, "argument inattendu : x"},
+        Fault{"an argument too many", {"preparer", "x"}, WrongUsage, "argument inattendu\u00A0: x"},
         Fault{"a number that is none", {"candidature", "x"}, WrongUsage, "un nombre est attendu"},
         Fault{"a sort that is none", {"candidatures", "--tri", "x"}, WrongUsage, "n’est pas admise"},
         Fault{"a lot with an option", {"analyser", "--lot", "--brut"}, WrongUsage, "--lot"},
-        Fault{"a missing file", {"analyser", "absent"}, Refused, "« absent » est introuvable"},
+        Fault{"a missing file", {"analyser", "absent"}, Refused, "«\u00A0absent\u00A0» est introuvable"},
         Fault{"a folder", {"analyser", "vide"}, Refused, "illisible"},
         Fault{"bytes that are no text", {"analyser", "binaire"}, Refused, "n’est pas un texte UTF-8"},
         Fault{"a date that is none", {"analyser", "--date", "31/02/2007", "-"}, Refused, "31/02/2007"},

@@ -105,7 +105,7 @@ TEST_F(ConvertCommandTest, TheTemplateComesFromTheFolderOfTheCvOrTheOneToldOrThe
   fs::rename("Modeles/M.htm", "Modeles/N.htm");
   const Result none = Convert("b.odt");
   EXPECT_EQ(none.code, Refused);
-  EXPECT_EQ(none.err, "talvorctl : le modèle « M.htm » est introuvable ou illisible\n");
+  EXPECT_EQ(none.err, "talvorctl\u00A0: le modèle «\u00A0M.htm\u00A0» est introuvable ou illisible\n");
   std::ofstream{"CV/Zo\xC3\xA9 Roy.dat", std::ios::app} << "Mod\xE8le=Basic.htm\r\n";
   ASSERT_EQ(Convert("c.odt").code, Done);
   EXPECT_NE(Words("c.odt").find("Échecs"), std::string::npos);
@@ -119,19 +119,25 @@ TEST_F(ConvertCommandTest, FaultsAreToldInFrenchAndLeaveTheDocument) {
        std::vector<std::tuple<std::vector<std::string>, int, std::string>>{
            {{cv, "--vers", "cv.rtf"},
             Refused,
-            "le format de « cv.rtf » n’est ni .doc, ni .docx, ni .odt, ni .pdf"},
-           {{cv, "--vers", "cv"}, Refused, "le format de « cv » n’est ni .doc, ni .docx, ni .odt, ni .pdf"},
-           {{"absent.dat", "--vers", "cv.doc"}, Refused, "le CV « absent.dat » est introuvable ou illisible"},
+            "le format de «\u00A0cv.rtf\u00A0» n’est ni .doc, ni .docx, ni .odt, ni .pdf"},
+           {{cv, "--vers", "cv"},
+            Refused,
+            "le format de «\u00A0cv\u00A0» n’est ni .doc, ni .docx, ni .odt, ni .pdf"},
+           {{"absent.dat", "--vers", "cv.doc"},
+            Refused,
+            "le CV «\u00A0absent.dat\u00A0» est introuvable ou illisible"},
            {{cv, "--vers", "cv.doc"},
             Refused,
-            "« cv.doc » : Le fichier est en cours d'utilisation. Conversion impossible"},
-           {{cv}, WrongUsage, "il manque une commande ou un argument (voir « talvorctl --help »)"}}) {
+            "«\u00A0cv.doc\u00A0»\u00A0: Le fichier est en cours d'utilisation. Conversion impossible"},
+           {{cv},
+            WrongUsage,
+            "il manque une commande ou un argument (voir «\u00A0talvorctl --help\u00A0»)"}}) {
     std::vector<std::string> all{"cv", "convertir"};
     all.insert(all.end(), arguments.begin(), arguments.end());
     const Result result = Talvorctl(all);
     EXPECT_EQ(result.code, code);
     EXPECT_EQ(result.out, "");
-    EXPECT_EQ(result.err, "talvorctl : " + said + "\n");
+    EXPECT_EQ(result.err, "talvorctl\u00A0: " + said + "\n");
   }
   EXPECT_EQ(ReadBytes("cv.doc"), "old");
   const Result nowhere = Convert("absent/cv.doc");

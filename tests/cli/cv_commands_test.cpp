@@ -82,7 +82,7 @@ TEST_P(CvFaults, AreToldInFrenchOnStandardError) {
   const Result result = Talvorctl(GetParam().arguments);
   EXPECT_EQ(result.code, GetParam().code);
   EXPECT_EQ(result.out, "");
-  EXPECT_EQ(result.err, "talvorctl : " + GetParam().said + "\n");
+  EXPECT_EQ(result.err, "talvorctl\u00A0: " + GetParam().said + "\n");
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -90,35 +90,35 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(CvFault{"no command of its own",
                             {"cv"},
                             WrongUsage,
-                            "il manque une commande ou un argument (voir « talvorctl --help »)"},
+                            "il manque une commande ou un argument (voir «\u00A0talvorctl --help\u00A0»)"},
                     CvFault{"no template",
                             {"cv", "rendre", "cv.dat"},
                             WrongUsage,
-                            "il manque une commande ou un argument (voir « talvorctl --help »)"},
+                            "il manque une commande ou un argument (voir «\u00A0talvorctl --help\u00A0»)"},
                     CvFault{"two CVs",
                             {"cv", "rendre", "cv.dat", "b.dat", "--modele", "m.htm"},
                             WrongUsage,
-                            "argument inattendu : b.dat (voir « talvorctl --help »)"},
+                            "argument inattendu\u00A0: b.dat (voir «\u00A0talvorctl --help\u00A0»)"},
                     CvFault{"a missing CV",
                             {"cv", "rendre", "absent.dat", "--modele", "cv.dat"},
                             Refused,
-                            "le CV « absent.dat » est introuvable ou illisible"},
+                            "le CV «\u00A0absent.dat\u00A0» est introuvable ou illisible"},
                     CvFault{"a folder as CV",
                             {"cv", "rendre", "dossier", "--modele", "cv.dat"},
                             Refused,
-                            "le CV « dossier » est introuvable ou illisible"},
+                            "le CV «\u00A0dossier\u00A0» est introuvable ou illisible"},
                     CvFault{"a missing template",
                             {"cv", "rendre", "cv.dat", "--modele", "absent.htm"},
                             Refused,
-                            "le modèle « absent.htm » est introuvable ou illisible"},
+                            "le modèle «\u00A0absent.htm\u00A0» est introuvable ou illisible"},
                     CvFault{"a missing block",
                             {"cv", "identite", "absent"},
                             Refused,
-                            "le fichier « absent » est introuvable ou illisible"},
+                            "le fichier «\u00A0absent\u00A0» est introuvable ou illisible"},
                     CvFault{"a block that is no text",
                             {"cv", "identite", "binaire"},
                             Refused,
-                            "le fichier « binaire » n’est pas un texte UTF-8"}));
+                            "le fichier «\u00A0binaire\u00A0» n’est pas un texte UTF-8"}));
 
 TEST_F(CvCommandsTest, EachOneExplainsItselfInFrench) {
   for (const std::string command : {"", "rendre", "convertir", "identite"}) {

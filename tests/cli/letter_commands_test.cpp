@@ -59,19 +59,21 @@ TEST_F(LetterCommands, FaultsAreToldOnStandardError) {
   std::ofstream{"c.json"} << "{}";
   std::ofstream{"m.dat"} << "";
   const std::vector<std::pair<std::vector<std::string>, std::string>> rows{
-      {{"composer", "absent"}, "talvorctl : fichier non accessible : « absent »\n1"},
+      {{"composer", "absent"}, "talvorctl\u00A0: fichier non accessible\u00A0: «\u00A0absent\u00A0»\n1"},
       {{"composer", "m.dat", "--date", "31/02/2026"},
-       "talvorctl : la date « 31/02/2026 » est incorrecte (JJ/MM/AAAA)\n1"},
+       "talvorctl\u00A0: la date «\u00A031/02/2026\u00A0» est incorrecte (JJ/MM/AAAA)\n1"},
       {{"fusionner", "absent", "c.json"},
        "Aucun modèle de lettre n'a été créé. Vous devrez rédiger le courrier d'accompagnement.\n1"},
-      {{"fusionner", "m.dat", "absent"}, "talvorctl : le fichier « absent » est introuvable ou illisible\n1"},
-      {{"fusionner", "m.dat", "-"}, "talvorctl : « - » n’est pas du JSON\n1"},
+      {{"fusionner", "m.dat", "absent"},
+       "talvorctl\u00A0: le fichier «\u00A0absent\u00A0» est introuvable ou illisible\n1"},
+      {{"fusionner", "m.dat", "-"}, "talvorctl\u00A0: «\u00A0-\u00A0» n’est pas du JSON\n1"},
       {{"fusionner", "m.dat"},
-       "talvorctl : il manque une commande ou un argument (voir « talvorctl --help »)\n2"},
-      {{}, "talvorctl : il manque une commande ou un argument (voir « talvorctl --help »)\n2"},
+       "talvorctl\u00A0: il manque une commande ou un argument (voir «\u00A0talvorctl --help\u00A0»)\n2"},
+      {{}, "talvorctl\u00A0: il manque une commande ou un argument (voir «\u00A0talvorctl --help\u00A0»)\n2"},
   };
   for (const auto& [arguments, said] : rows) EXPECT_EQ(Lettre(arguments), said);
-  EXPECT_EQ(Lettre({"fusionner", "m.dat", "-"}, R"({"Nom":"x"})"), "talvorctl : champ inconnu : « Nom »\n1");
+  EXPECT_EQ(Lettre({"fusionner", "m.dat", "-"}, R"({"Nom":"x"})"),
+            "talvorctl\u00A0: champ inconnu\u00A0: «\u00A0Nom\u00A0»\n1");
 }
 
 TEST_F(LetterCommands, ExplainThemselvesInFrench) {

@@ -322,6 +322,33 @@ TEST_F(Editor, ACvNamesItselfAndPassesThreeHomonymsButNotAFourth) {
   EXPECT_EQ(form_.NomCV, names.back()) << "a CV that has its name keeps it";
 }
 
+TEST_F(Editor, WhatWasTypedSinceTheLastSaveIsSavedUnderANameOfItsOwn) {
+  form_.EnregistrerSaisie();
+  form_.Change(u"Tel", u"0102030405");
+  form_.EnregistrerSaisie();
+  EXPECT_TRUE(fs::is_empty("CV")) << "no surname, no file";
+
+  Write("CV/Dupont Marie.dat", "Nom=DUPONT\r\n");
+  form_.Change(u"Nom", u"DUPONT");
+  form_.Change(u"Prénom", u"Marie");
+  form_.EnregistrerSaisie();
+  EXPECT_EQ(ReadBytes("CV/Dupont Marie.dat"), "Nom=DUPONT\r\n") << "a homonym stays";
+  CvDocument saved;
+  ASSERT_TRUE(ReadCv("CV/Copie De Dupont Marie.dat", saved));
+  EXPECT_EQ(saved.Tel, u"0102030405");
+  EXPECT_TRUE(browser_.visited.empty());
+
+  // A deleted file does not come back by itself.
+  fs::remove("CV/Copie De Dupont Marie.dat");
+  form_.EnregistrerSaisie();
+  EXPECT_FALSE(fs::exists("CV/Copie De Dupont Marie.dat"));
+  form_.Change(u"Tel", u"0102030406");
+  form_.VisualisationCV();
+  fs::remove("CV/Copie De Dupont Marie.dat");
+  form_.EnregistrerSaisie();
+  EXPECT_FALSE(fs::exists("CV/Copie De Dupont Marie.dat")) << "the render has saved";
+}
+
 TEST_F(Editor, WithoutItsTemplateNothingIsRenderedNorSaved) {
   form_.Nom = u"DUPONT";
   Write("secret.htm", "secret");

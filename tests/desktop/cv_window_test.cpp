@@ -273,5 +273,67 @@ TEST_F(CvWindowTest, ThePageIsPrintedAndPreviewedWithItsPhotoOnA4) {
   EXPECT_EQ(dialogs.told.size(), 1u);
 }
 
+TEST_F(CvWindowTest, WhatIsTypedIsKeptWhenAnotherCvOpensAndWhenTheEditorCloses) {
+  Click("SaiseDetaillee");
+  Type("Nom", QStringLiteral("Aaron"));
+  Type("Tel", QStringLiteral("0102030405"));
+  // No key of the keyboard moves the focus; and the new file comes before the one that is opened.
+  QTest::keyClick(&desktop->Main(), Qt::Key_1, Qt::ControlModifier);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Form().NomCV == u"Ancien"; }, Patience)) << ToUtf8(Form().NomCV);
+  EXPECT_NE(Bytes("CV/Aaron.dat").find("Tel=0102030405\r\n"), std::string::npos);
+  EXPECT_EQ(Line("Nom"), QStringLiteral("Ancien"));
+
+  Type("Ville", QStringLiteral("lyon"));
+  QTest::keyClick(&desktop->Main(), Qt::Key_M, Qt::AltModifier);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return desktop->Cv().Window() == nullptr; }, Patience));
+  EXPECT_NE(Bytes("CV/Ancien.dat").find("Ville=Lyon\r\n"), std::string::npos) << "left by its rule";
+
+  desktop->Cv().OpenFile(u"Ancien.dat");
+  Type("Etudes", QStringLiteral("Licence"));
+  desktop->Main().close();
+  EXPECT_NE(Bytes("CV/Ancien.dat").find("Etudes=Licence\r\n"), std::string::npos);
+  EXPECT_TRUE(failures.empty());
+}
+
+TEST_F(CvWindowTest, TheKeyOfAnEntryLeavesTheFieldThatIsTypedIn) {
+  Click("SaiseDetaillee");
+  Type("Nom", QStringLiteral("Marchand"));
+  Type("Etudes", QStringLiteral("Licence"));
+  QTest::keyClick(&desktop->Main(), Qt::Key_P, Qt::AltModifier);
+  ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activePopupWidget() != nullptr; }, Patience));
+  QApplication::activePopupWidget()->close();
+  EXPECT_TRUE(SeesAtLast(QStringLiteral("Licence"))) << "what the menu prints is what was typed";
+}
+
+TEST_F(CvWindowTest, APageIsPrintedToItsEndWhenTheEditorCloses) {
+  desktop->Cv().OpenFile(u"Ancien.dat");
+  ASSERT_TRUE(SeesAtLast(QStringLiteral("Ancien")));
+  std::weak_ptr<QPrinter> printer;
+  desktop->Cv().makePrinter = [&printer] {
+    auto made = std::make_shared<QPrinter>(QPrinter::HighResolution);
+    made->setOutputFormat(QPrinter::PdfFormat);
+    made->setOutputFileName(QStringLiteral("papier.pdf"));
+    printer = made;
+    return made;
+  };
+  desktop->Cv().Print();
+  desktop->Windows().Unload(EditorForm);
+  EXPECT_EQ(desktop->Cv().Window(), nullptr);
+  EXPECT_FALSE(printer.expired()) << "the page is on its way to it";
+  ASSERT_TRUE(QTest::qWaitFor([&] { return printer.expired(); }, Patience));
+  EXPECT_TRUE(ReadBytes("papier.pdf").value_or("").starts_with("%PDF"));
+  EXPECT_TRUE(dialogs.told.empty());
+
+  desktop->Cv().OpenFile(u"Ancien.dat");
+  desktop->Cv().Preview();
+  const QPointer<PrintPreviewWindow> preview = desktop->Cv().PreviewWindow();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return preview->IsComplete(); }, Patience));
+  bool saved = false;
+  preview->SavePdf(QStringLiteral("apercu.pdf"), [&](bool stands) { saved = stands; });
+  delete preview.data();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return saved; }, Patience));
+  EXPECT_TRUE(ReadBytes("apercu.pdf").value_or("").starts_with("%PDF"));
+}
+
 }  // namespace
 }  // namespace talvor

@@ -59,6 +59,20 @@ TEST_F(MainWindowTest, MenuClosesTheFormsAndTheNextLoadBeginsAnew) {
   EXPECT_EQ(Rows().size(), 2);
 }
 
+TEST_F(MainWindowTest, WhatIsTypedInARowIsSavedBeforeMenuOrTheEndClosesItsForm) {
+  SaveRow(QStringLiteral("Maçon"));
+  Type("Ville", QStringLiteral("Lyon"));
+  QTest::keyClick(&desktop->Main(), Qt::Key_M, Qt::AltModifier);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return desktop->CandidatureWindow() == nullptr; }, 5000));
+  EXPECT_EQ(Read(1).Ville, u"Lyon") << "before the next tick of its timer";
+
+  desktop->Windows().Show(u"FormCand");
+  ClickLeaf(u"s1");
+  Type("NomContact", QStringLiteral("Mme Roy"));
+  desktop->Main().close();
+  EXPECT_EQ(Read(1).NomContact, u"Mme Roy");
+}
+
 TEST_F(MainWindowTest, TheHomePanelLeadsToTheCandidatures) {
   QTest::mouseClick(Find("Label2"), Qt::LeftButton);
   const auto row = [&](const QString& title) -> HomeRowButton* {

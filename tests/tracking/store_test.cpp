@@ -61,7 +61,7 @@ TEST_F(StoreTest, ADateThatIsNoneIsRefusedAndNothingIsWritten) {
   Database database = Open();
   Candidature changed{.Intitule = u"après"};
   changed.DateRDV = u"mardi";
-  EXPECT_NE(Refusal([&] { database.Save(database.EditRow(1), changed); }).find("« mardi »"),
+  EXPECT_NE(Refusal([&] { database.Save(database.EditRow(1), changed); }).find("«\u00A0mardi\u00A0»"),
             std::string::npos);
   EXPECT_EQ(Read(1).Intitule, u"avant");
 }
