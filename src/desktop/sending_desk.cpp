@@ -22,6 +22,7 @@ SendingDesk::SendingDesk(Program program) : program_(std::move(program)), mail_(
 }
 
 void SendingDesk::MakeApply() {
+  openedFor_ = program_.formCand().Num;
   apply_.emplace(
       FormPostuler::Surroundings{.principale = program_.principale,
                                  .formCand = program_.formCand,
@@ -80,8 +81,10 @@ void SendingDesk::Register() {
                                         }});
 }
 
-// The load begins the form anew in its place, so that it comes before the form is asked.
+// The load begins the form anew in its place, so that it comes before the form is asked. A form that is
+// open for another candidature would keep that one's recipient and subject.
 void SendingDesk::Review(const std::function<void()>& wayIn) {
+  if (Apply() != nullptr && openedFor_ != program_.formCand().Num) program_.shell.Unload(ApplyForm);
   program_.shell.Load(ApplyForm);
   if (!applyWindow_) return;
   applyWindow_->Do(wayIn);

@@ -130,6 +130,22 @@ TEST_F(SendingWindowTest, ASendMarksTheCandidatureOnlyOnceTheClientHasTheMessage
   EXPECT_FALSE(InWindow(ApplyForm, "BoutonTLV1")->isVisible());
 }
 
+TEST_F(SendingWindowTest, AFormOpenForOneCandidatureBeginsAnewForAnother) {
+  for (const char* post : {"Soudeur", "Maçon"}) {
+    Click("Action0");
+    Type("Intitule", QString::fromUtf8(post));
+    Type("Email", QString::fromUtf8(post) + QStringLiteral("@acme.fr"));
+    Click("Action3");
+    desktop->Sending().OpenFromMenu();
+    EXPECT_EQ(Field("EmailDest"), QString::fromUtf8(post) + QStringLiteral("@acme.fr"));
+  }
+  // The same one keeps what was typed.
+  TypeKeys(InWindow(ApplyForm, "Objet"), QStringLiteral(" !"));
+  const QString subject = Field("Objet");
+  desktop->Sending().OpenFromMenu();
+  EXPECT_EQ(Field("Objet"), subject);
+}
+
 TEST_F(SendingWindowTest, AnAdvertisementOnTheWebIsAnsweredThereUnlessAnAddressIsTyped) {
   Click("Action0");
   Type("Intitule", QStringLiteral("Soudeur"));
