@@ -47,6 +47,7 @@ Desktop::Desktop(const Theme& theme, const Environment& environment, const Clock
   RegisterForms();
   main_->OnClosed = [this] {
     KeepTyping();
+    if (formCandWindow_) formCandWindow_->Tick3000();
     // Waits of these forms end with them; the event loop alone would leave them turning.
     backup_.Annuler();
     shell_.Unload(u"FormLoadSave");
@@ -127,7 +128,6 @@ void Desktop::RegisterSmallForms() {
 // What was typed in the editors reaches the disk.
 void Desktop::KeepTyping() {
   if (letterWindow_) letterWindow_->Tick1000();
-  if (formCandWindow_) formCandWindow_->Tick3000();
   cv_.KeepTyping();
 }
 
@@ -136,6 +136,7 @@ void Desktop::RegisterLibrary() {
   library_.BeforeActing = [this] { KeepTyping(); };
   main_->Header().OnMenu = [this, menu = main_->Header().OnMenu] {
     KeepTyping();
+    if (formCandWindow_) formCandWindow_->Tick3000();
     menu();
   };
   library_.OnActed = [this] {

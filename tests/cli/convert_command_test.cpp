@@ -147,10 +147,10 @@ TEST_F(ConvertCommandTest, FaultsAreToldInFrenchAndLeaveTheDocument) {
   const Result noRoom = Convert("b.doc");
   ::unsetenv("TMPDIR");
   EXPECT_EQ(noRoom.code, Refused);
-  EXPECT_EQ(
-      noRoom.err,
-      "talvorctl : Le dossier de travail ou le dossier temporaire\u00A0: un fichier se trouve à la place "
-      "d’un dossier.\n");
+  EXPECT_EQ(noRoom.err,
+            "talvorctl\u00A0: Le dossier de travail ou le dossier temporaire\u00A0: un fichier se trouve à "
+            "la place "
+            "d’un dossier.\n");
 }
 
 }  // namespace
