@@ -16,8 +16,8 @@
 #include "app/installation.h"
 #include "desktop/application.h"
 #include "desktop/desktop.h"
-#include "desktop/qt_dialogs.h"
-#include "desktop/text_edge.h"
+#include "desktop/platform/qt_dialogs.h"
+#include "desktop/widgets/text_edge.h"
 #include "tracking/status_lists.h"
 
 namespace {

@@ -5,7 +5,7 @@
 #include <exception>
 
 #include "base/failure_cause.h"
-#include "desktop/start_page.h"
+#include "desktop/browser/start_page.h"
 
 namespace talvor {
 

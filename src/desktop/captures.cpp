@@ -12,13 +12,13 @@
 #include "app/installation.h"
 #include "base/code_page.h"
 #include "cv/cv_file.h"
-#include "desktop/about_box.h"
 #include "desktop/application.h"
-#include "desktop/backup_window.h"
 #include "desktop/desktop.h"
-#include "desktop/qt_dialogs.h"
-#include "desktop/text_edge.h"
-#include "desktop/user_guide.h"
+#include "desktop/platform/qt_dialogs.h"
+#include "desktop/shell/about_box.h"
+#include "desktop/shell/backup_window.h"
+#include "desktop/shell/user_guide.h"
+#include "desktop/widgets/text_edge.h"
 #include "tracking/status_lists.h"
 
 namespace {

@@ -9,7 +9,7 @@
 #include <QToolButton>
 #include <algorithm>
 
-#include "desktop/text_edge.h"
+#include "desktop/widgets/text_edge.h"
 
 namespace talvor {
 namespace {

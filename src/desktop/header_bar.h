@@ -7,7 +7,7 @@
 #include <array>
 #include <functional>
 
-#include "desktop/icon_tile.h"
+#include "desktop/widgets/icon_tile.h"
 #include "shell/main_menu.h"
 
 class QLabel;

@@ -9,8 +9,8 @@
 #include "app/installation.h"
 #include "desktop/application.h"
 #include "desktop/desktop.h"
-#include "desktop/qt_dialogs.h"
-#include "desktop/text_edge.h"
+#include "desktop/platform/qt_dialogs.h"
+#include "desktop/widgets/text_edge.h"
 #include "workspace/workspace_paths.h"
 
 namespace {

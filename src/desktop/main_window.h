@@ -5,7 +5,7 @@
 #include <QStackedWidget>
 
 #include "desktop/header_bar.h"
-#include "desktop/qt_shell.h"
+#include "desktop/platform/qt_shell.h"
 
 namespace talvor {
 

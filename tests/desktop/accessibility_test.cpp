@@ -16,7 +16,7 @@
 
 #include "base/code_page.h"
 #include "base/line_file.h"
-#include "desktop/user_guide.h"
+#include "desktop/shell/user_guide.h"
 #include "tests/desktop/desktop_fixture.h"
 
 namespace talvor {

@@ -13,12 +13,12 @@
 #include <cmath>
 #include <fstream>
 
-#include "desktop/qt_clipboard.h"
-#include "desktop/qt_dialogs.h"
-#include "desktop/qt_documents.h"
-#include "desktop/text_edge.h"
-#include "desktop/theme.h"
-#include "desktop/window_titles.h"
+#include "desktop/platform/qt_clipboard.h"
+#include "desktop/platform/qt_dialogs.h"
+#include "desktop/platform/qt_documents.h"
+#include "desktop/platform/window_titles.h"
+#include "desktop/widgets/text_edge.h"
+#include "desktop/widgets/theme.h"
 #include "tests/fakes/scratch_folder.h"
 
 #ifdef TALVOR_XCB

@@ -12,7 +12,7 @@
 #include "app/installation.h"
 #include "desktop/application.h"
 #include "desktop/desktop.h"
-#include "desktop/text_edge.h"
+#include "desktop/widgets/text_edge.h"
 #include "tests/fakes/fakes.h"
 #include "tests/fakes/file_fakes.h"
 #include "tests/fakes/scratch_folder.h"

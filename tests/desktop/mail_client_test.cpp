@@ -1,4 +1,4 @@
-#include "desktop/mail_client.h"
+#include "desktop/platform/mail_client.h"
 
 #include <gtest/gtest.h>
 
@@ -12,7 +12,7 @@
 #include <fstream>
 
 #include "base/line_file.h"
-#include "desktop/text_edge.h"
+#include "desktop/widgets/text_edge.h"
 #include "sending/mail.h"
 #include "tests/fakes/fakes.h"
 #include "tests/fakes/scratch_folder.h"

@@ -5,8 +5,8 @@
 #include <QTimer>
 #include <fstream>
 
-#include "desktop/qt_dialogs.h"
-#include "desktop/user_guide.h"
+#include "desktop/platform/qt_dialogs.h"
+#include "desktop/shell/user_guide.h"
 #include "tests/desktop/desktop_fixture.h"
 
 namespace talvor {

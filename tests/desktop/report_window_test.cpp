@@ -4,7 +4,7 @@
 #include <QWebEngineView>
 #include <fstream>
 
-#include "desktop/print_preview.h"
+#include "desktop/platform/print_preview.h"
 #include "tests/desktop/desktop_fixture.h"
 #include "tracking/status_lists.h"
 

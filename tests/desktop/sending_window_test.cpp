@@ -7,7 +7,7 @@
 
 #include "base/code_page.h"
 #include "base/line_file.h"
-#include "desktop/page_pdf.h"
+#include "desktop/platform/page_pdf.h"
 #include "tests/desktop/desktop_fixture.h"
 #include "tracking/status_lists.h"
 

@@ -9,7 +9,7 @@
 #include <fstream>
 
 #include "base/line_file.h"
-#include "desktop/backup_window.h"
+#include "desktop/shell/backup_window.h"
 #include "tests/desktop/desktop_fixture.h"
 
 namespace talvor {

@@ -1,0 +1,46 @@
+#include "desktop/browser/start_page.h"
+
+#include <QBuffer>
+#include <QWebEngineUrlRequestJob>
+#include <QWebEngineUrlScheme>
+
+#include "ads/start_page.h"
+#include "base/line_file.h"
+
+namespace talvor {
+namespace {
+
+const QByteArray SchemeName = QByteArrayLiteral("talvor");
+
+// The page of sites, in the data folder, from which the directory can be rebuilt.
+constexpr const char* SitesPage = "listesites.htm";
+
+}  // namespace
+
+void RegisterStartPageScheme() {
+  QWebEngineUrlScheme scheme(SchemeName);
+  scheme.setSyntax(QWebEngineUrlScheme::Syntax::Host);
+  scheme.setFlags(QWebEngineUrlScheme::SecureScheme);
+  QWebEngineUrlScheme::registerScheme(scheme);
+}
+
+void StartPageHandler::requestStarted(QWebEngineUrlRequestJob* job) {
+  auto* page = new QBuffer(job);
+  const auto sites = ReadBytes(SitesPage);
+  if (job->requestUrl().fileName() == QString::fromLatin1(SitesPage) && sites) {
+    page->setData(QByteArray::fromStdString(*sites));
+  } else {
+    SiteDirectory directory;
+    directory.Charger();
+    page->setData(QByteArray::fromStdString(ToUtf8(StartPageHtml(directory))));
+  }
+  page->open(QIODevice::ReadOnly);
+  job->reply(QByteArrayLiteral("text/html"), page);
+}
+
+void InstallStartPage(QWebEngineProfile& profile) {
+  if (profile.urlSchemeHandler(SchemeName) == nullptr)
+    profile.installUrlSchemeHandler(SchemeName, new StartPageHandler(&profile));
+}
+
+}  // namespace talvor

@@ -1,0 +1,71 @@
+// The middle pane of `FormCand`: the actions and the fields of one candidature. The fields bear the
+// names of the view model's.
+#pragma once
+
+#include <QWidget>
+#include <functional>
+
+#include "desktop/widgets/bouton_tlv.h"
+#include "desktop/widgets/choice_field.h"
+
+class QFrame;
+class QHBoxLayout;
+class QLineEdit;
+class QPlainTextEdit;
+class QScrollArea;
+class QVBoxLayout;
+
+namespace talvor {
+
+class CandidatureDetailPane : public QWidget {
+ public:
+  CandidatureDetailPane(const Theme& theme, QWidget* parent);
+
+  std::function<void(std::size_t)> OnAction;  // by the index of the action label
+  std::function<void()> OnAnalyser;
+  std::function<void()> OnPostuler;
+
+  [[nodiscard]] ChoiceField& Statut() { return *statut_; }
+  [[nodiscard]] ChoiceField& Nature() { return *nature_; }
+  void ShowInternet(bool shown);
+  void ShowPostuler(bool shown);
+  // Follows the text of the status with its dot.
+  void ShowStatusDot(TextView status);
+
+  // The width at which no field of the single column is cut.
+  [[nodiscard]] int RoomyWidth() const;
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  QWidget* MakeActionBar();
+  QWidget* MakePostBlock();
+  QWidget* MakeCompanyBlock();
+  QWidget* MakeAdvertisementBlock();
+  QWidget* MakeFollowUpBlock();
+  void FillChoices();
+  void AlignLabels();
+  void Arrange(bool twoColumns);
+  void ChainTabs();
+  QLineEdit* Line(const QString& name, QWidget* parent);
+  QPlainTextEdit* Lines(const QString& name, int height, QWidget* parent);
+
+  const Theme& theme_;
+  QPushButton* internet_ = nullptr;
+  QPushButton* postuler_ = nullptr;
+  ChoiceField* statut_ = nullptr;
+  ChoiceField* nature_ = nullptr;
+  QScrollArea* scroll_ = nullptr;
+  QHBoxLayout* columns_ = nullptr;
+  QVBoxLayout* left_ = nullptr;
+  QVBoxLayout* right_ = nullptr;
+  QList<QFrame*> lines_;    // between the blocks
+  QList<QWidget*> fields_;  // in reading order
+  QList<QWidget*> parts_;   // post, company, advertisement, follow-up
+  bool twoColumns_ = false;
+  QAction* statusDot_ = nullptr;
+  QString dotOf_;
+};
+
+}  // namespace talvor

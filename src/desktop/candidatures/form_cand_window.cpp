@@ -1,0 +1,217 @@
+#include "desktop/candidatures/form_cand_window.h"
+
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QPointer>
+#include <QSplitter>
+#include <QStyle>
+#include <algorithm>
+
+namespace talvor {
+namespace {
+
+constexpr int ListWidth = 312;
+constexpr int DetailWidth = 474;
+
+}  // namespace
+
+FormCandWindow::FormCandWindow(FormCand& form, FormCandCapture& capture, FormCandWeb& web,
+                               WebBrowser& browser, const Theme& theme, QWidget* parent)
+    : QWidget(parent), form_(form), capture_(capture), webModel_(web), browser_(browser), theme_(theme) {
+  setObjectName(QStringLiteral("FormCand"));
+  auto* row = new QHBoxLayout(this);
+  row->setContentsMargins(0, 0, 0, 0);
+  splitter_ = new QSplitter(Qt::Horizontal, this);
+  splitter_->setHandleWidth(6);
+  splitter_->setChildrenCollapsible(false);
+  list_ = new CandidatureListPane(form.Liste, theme, splitter_);
+  detail_ = new CandidatureDetailPane(theme, splitter_);
+  web_ = new BrowserPane(theme, splitter_);
+  web_->hide();
+  for (int i = 0; i < splitter_->count(); ++i) splitter_->setStretchFactor(i, i);
+  row->addWidget(splitter_);
+
+  binder_.BindByName(*this, DetailFields, form_);
+  if (auto* address = findChild<QWidget*>(QStringLiteral("AdresseWeb")))
+    binder_.Bind(*address, form_.AdresseWeb);
+  binder_.OnEdited = [this](QWidget& field) {
+    if (&field == &detail_->Statut()) detail_->ShowStatusDot(form_.Statut);
+    ShowRefusal();
+  };
+  ConnectList();
+  ConnectDetail();
+  ConnectWeb();
+
+  constexpr int PasteWatchMilliseconds = 500;
+  constexpr int SaveMilliseconds = 3000;
+  connect(&timer1_, &QTimer::timeout, this, [this] { Tick500(); });
+  connect(&timer2_, &QTimer::timeout, this, [this] { Tick3000(); });
+  timer1_.start(PasteWatchMilliseconds);
+  timer2_.start(SaveMilliseconds);
+  shownVersion_ = form_.ListeVersion;
+  Refresh();
+}
+
+void FormCandWindow::ConnectList() {
+  list_->OnTri = [this](std::size_t index) { Do([&] { form_.ClicTri(static_cast<Tri>(index)); }); };
+  list_->OnToutSupprimer = [this] { Do([&] { form_.ToutSupprimer(); }); };
+  list_->OnRechercher = [this](std::size_t index) { Do([&] { form_.Rechercher(index); }); };
+  CandidatureTreeView& tree = list_->Tree();
+  tree.OnPress = [this](bool right) { form_.BoutonDroit = right; };
+  tree.OnNode = [this](TextView key) { Do([&] { form_.ClicNoeud(key); }); };
+  tree.OnDelete = [this] { Do([&] { form_.MenuSupprimerCand(); }); };
+  form_.OuvrirMenuItemCand = [this] {
+    Refresh();
+    if (OnItemMenu) OnItemMenu(list_->Tree().PopupPlace());
+  };
+}
+
+void FormCandWindow::ConnectDetail() {
+  detail_->OnAction = [this](std::size_t index) { Do([&] { form_.Action(index); }); };
+  detail_->OnAnalyser = [this] { Do([&] { capture_.Analyser(); }); };
+  detail_->OnPostuler = [this] { Do([&] { form_.ClicPicturePostuler(); }); };
+  ChoiceField& status = detail_->Statut();
+  status.OnToggle = [this] { Do([&] { form_.ClicImage2(); }); };
+  status.OnChosen = [this](std::size_t row) { Do([&] { form_.ClicStatut(row); }); };
+  status.OnLeave = [this] { Do([&] { form_.QuitterStatut(); }); };
+  ChoiceField& contract = detail_->Nature();
+  contract.OnToggle = [this] { Do([&] { form_.ClicImage1(); }); };
+  contract.OnChosen = [this](std::size_t row) { Do([&] { form_.ClicContrat(row); }); };
+  contract.OnLeave = [this] { Do([&] { form_.QuitterNature(); }); };
+  // A click on the address of the advertisement opens it.
+  if (auto* www = findChild<QWidget*>(QStringLiteral("www"))) www->installEventFilter(this);
+}
+
+void FormCandWindow::ConnectWeb() {
+  const auto doing = [this](void (FormCandWeb::*action)()) {
+    return [this, action] { Do([&] { (webModel_.*action)(); }); };
+  };
+  web_->on = {.enter = [this] { Later([this] { webModel_.EntrerAdresseWeb(); }); },
+              .address = doing(&FormCandWeb::ClicAdresseWeb),
+              .go = doing(&FormCandWeb::ClicGo),
+              .stop = doing(&FormCandWeb::Arreter),
+              .back = doing(&FormCandWeb::ClicPrecedent),
+              .forward = doing(&FormCandWeb::ClicSuivant),
+              .start = doing(&FormCandWeb::ClicImage4),
+              .strip = doing(&FormCandWeb::ClicImage5),
+              .sites = doing(&FormCandWeb::ClicImage6),
+              .leaveSites = doing(&FormCandWeb::QuitterList1),
+              .capture = doing(&FormCandWeb::ClicCaptureSel),
+              .prefill = doing(&FormCandWeb::ClicLabel2),
+              .bring = doing(&FormCandWeb::ClicLabel3),
+              .reload = [this] { browser_.Reload(); },
+              .site = [this](std::size_t row) { Later([this, row] { webModel_.ClicList1(row); }); }};
+  webModel_.OnChange = [this] { Refresh(); };
+  webModel_.OnSignal = [this](TextView key) {
+    Refresh();
+    list_->Tree().Flash(key);
+  };
+  browser_.makeView = [this] { return web_->MakeView(); };
+  browser_.OnLoaded = doing(&FormCandWeb::EvaluerPage);
+  browser_.OnState = [this](const WebState& state) { web_->ShowState(state); };
+  web_->ShowState(browser_.State());
+}
+
+// The window goes: the model may still be in a wait, from which it comes back to no window.
+FormCandWindow::~FormCandWindow() {
+  webModel_.Fermer();
+  webModel_.OnChange = {};
+  webModel_.OnSignal = {};
+  browser_.makeView = {};
+  browser_.OnLoaded = {};
+  browser_.OnState = {};
+  browser_.Forget();
+}
+
+bool FormCandWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::MouseButtonRelease && watched->objectName() == QStringLiteral("www"))
+    Later([this] { webModel_.ClicWww(); });
+  return QWidget::eventFilter(watched, event);
+}
+
+void FormCandWindow::Do(const std::function<void()>& action) {
+  const QPointer<FormCandWindow> self(this);
+  const std::shared_ptr<void> kept = models;
+  action();
+  if (!self) return;
+  Refresh();
+  if (OnActed) OnActed();
+}
+
+void FormCandWindow::Later(const std::function<void()>& action) {
+  // The window itself may go while the action waits; the browser stays.
+  QMetaObject::invokeMethod(
+      &browser_,
+      [self = QPointer<FormCandWindow>(this), action] {
+        if (self) self->Do(action);
+      },
+      Qt::QueuedConnection);
+}
+
+void FormCandWindow::Tick500() {
+  Do([&] { webModel_.Timer1(); });
+}
+
+void FormCandWindow::Tick3000() {
+  Do([&] { form_.Timer2(); });
+}
+
+void FormCandWindow::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  if (auto* title = findChild<QWidget*>(QStringLiteral("Intitule"))) title->setFocus(Qt::OtherFocusReason);
+}
+
+// The fields come first: they get what their font asks for, and in a narrow window whatever the list and
+// the page can spare.
+void FormCandWindow::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  constexpr int NarrowWindow = 1200;
+  const bool narrow = width() < NarrowWindow;
+  if (narrow_ == narrow) return;
+  narrow_ = narrow;
+  const int room = width() - 2 * splitter_->handleWidth();
+  const int list = narrow ? list_->minimumSizeHint().width() : ListWidth;
+  const int detail =
+      narrow ? room - list - web_->minimumWidth() : std::max(DetailWidth, detail_->RoomyWidth());
+  splitter_->setSizes({list, detail, room - list - detail});
+}
+
+void FormCandWindow::StopTimers() {
+  timer1_.stop();
+  timer2_.stop();
+}
+
+void FormCandWindow::Refresh() {
+  binder_.Refresh();
+  if (shownVersion_ != form_.ListeVersion) {
+    shownVersion_ = form_.ListeVersion;
+    list_->Tree().Rebuild();
+  }
+  list_->ShowTri(form_.TriChoisi ? static_cast<int>(*form_.TriChoisi) : -1);
+  detail_->ShowPostuler(form_.PicturePostulerVisible);
+  detail_->ShowInternet(form_.CadreWebVisible);
+  detail_->ShowStatusDot(form_.Statut);
+  ShowRefusal();
+  detail_->Statut().ShowList(form_.ListeStatutsChoice);
+  detail_->Nature().ShowList(form_.ListeContratsChoice);
+  if (web_->isHidden() == form_.CadreWebVisible) web_->setVisible(form_.CadreWebVisible);
+  web_->Show(webModel_);
+}
+
+// A field at fault looks and speaks so until its text changes.
+void FormCandWindow::ShowRefusal() {
+  for (const auto& field : DetailFields) {
+    auto* line = findChild<QLineEdit*>(ToQt(field.name));
+    if (line == nullptr) continue;
+    const bool refused =
+        form_.Refus && form_.Refus->field == field.name && form_.Refus->value == form_.*(field.text);
+    if (line->property("invalid").toBool() == refused) continue;
+    line->setProperty("invalid", refused);
+    line->setAccessibleDescription(refused ? ToQt(form_.Refus->message) : QString());
+    line->style()->unpolish(line);
+    line->style()->polish(line);
+  }
+}
+
+}  // namespace talvor

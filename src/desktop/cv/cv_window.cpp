@@ -1,0 +1,155 @@
+#include "desktop/cv/cv_window.h"
+
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QShortcut>
+#include <QSplitter>
+
+#include "desktop/platform/printing.h"
+#include "desktop/widgets/text_edge.h"
+
+namespace talvor {
+namespace {
+
+const QList<int> WideSizes{684, 590};
+
+}  // namespace
+
+CvWindow::CvWindow(FormRédigerCV& form, QtMenus& menus, const Theme& theme, QWidget* parent)
+    : QWidget(parent), form_(form), menus_(menus), shown_(form) {
+  setObjectName(ToQt(EditorForm));
+  auto* row = new QHBoxLayout(this);
+  row->setContentsMargins(0, 0, 0, 0);
+  splitter_ = new QSplitter(Qt::Horizontal, this);
+  splitter_->setHandleWidth(6);
+  splitter_->setChildrenCollapsible(false);
+  zones_ = new CvZonesPane(theme, splitter_);
+  page_ = new CvPagePane(theme, splitter_);
+  splitter_->setStretchFactor(0, 0);
+  splitter_->setStretchFactor(1, 1);
+  splitter_->setSizes(WideSizes);
+  row->addWidget(splitter_);
+
+  BindFields();
+  ConnectZones();
+  ConnectPage();
+  connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { MoveFocus(now); });
+  auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), this);
+  escape->setContext(Qt::WidgetWithChildrenShortcut);
+  connect(escape, &QShortcut::activated, this, [this] { Do([&] { form_.ClosePanels(); }); });
+  connect(&theme, &Theme::Changed, this, &CvWindow::Refresh);
+  Refresh();
+}
+
+CvWindow::~CvWindow() { OutliveWhilePrinting(Page()); }
+
+void CvWindow::BindFields() {
+  binder_.BindByName(*this, CvFields, static_cast<CvDocument&>(shown_));
+  binder_.OnEdited = [this](QWidget& widget) {
+    const Text name = FromQt(widget.objectName());
+    if (const auto* field = FindField(CvFields, name))
+      Do([&] { form_.Change(name, Text{shown_.*(field->text)}); });
+  };
+}
+
+void CvWindow::ConnectZones() {
+  zones_->OnDetailed = [this] { Do([&] { form_.SaiseDetaillee(); }); };
+  zones_->OnGenerate = [this] { Do([&] { form_.ClicGénère(); }); };
+  zones_->OnCompact = [this] { Do([&] { form_.BoutonTLV1(); }); };
+  zones_->OnBrowsePhoto = [this] { Do([&] { form_.RattacherPhoto(); }); };
+  zones_->OnPhoto = [this](QWidget& photo) {
+    menus_.SetAnchor(&photo);
+    menus_.Open(u"MenuPhoto");
+  };
+  zones_->OnSituation = [this](std::size_t row) { Do([&] { form_.ClicListeSituations(row); }); };
+  zones_->OnHelp = [this](int icon) {
+    if (OnHelp) OnHelp(icon);
+  };
+  zones_->Languages().OnClick = [this](TextView group, std::size_t language) {
+    Do([&] { form_.ClicLangue(group, language); });
+  };
+}
+
+void CvWindow::ConnectPage() {
+  page_->OnEntry = [this](std::size_t entry, QWidget& button) {
+    menus_.SetAnchor(&button);
+    Do([&] { form_.ClicImageMenu(entry); });
+  };
+  page_->OnTemplates = [this] { Do([&] { form_.ClicImage2(); }); };
+  page_->OnFonts = [this] { Do([&] { form_.ClicImage3(); }); };
+  page_->OnDisposition = [this](std::size_t i) { Do([&] { form_.ClicCheckDisposition(i); }); };
+  CvOptionPanels& panels = page_->Panels();
+  panels.OnTemplate = [this](std::size_t row) { Do([&] { form_.ClicListeModeles(row); }); };
+  panels.OnFont = [this](std::size_t i) { Do([&] { form_.ClicPoliceT(i); }); };
+  panels.OnParagraph = [this](std::size_t i) { Do([&] { form_.ClicCheckParagraphe(i); }); };
+  panels.OnSwatch = [this](std::size_t i) { Do([&] { form_.ClicCoul(i); }); };
+  panels.OnOtherColour = [this] { Do([&] { form_.BoutonTLV3(); }); };
+}
+
+void CvWindow::Do(const std::function<void()>& action) {
+  const QPointer<CvWindow> self(this);
+  action();
+  if (!self) return;
+  Refresh();
+  if (OnActed) OnActed();
+}
+
+// The name of the field that a widget shows, empty for every other widget.
+QString CvWindow::FieldOf(const QWidget* widget) const {
+  const bool ours = widget != nullptr && isAncestorOf(widget);
+  return ours && FindField(CvFields, FromQt(widget->objectName())) ? widget->objectName() : QString();
+}
+
+void CvWindow::KeepTyping() {
+  const Text left = FromQt(std::exchange(focused_, QString()));
+  Do([&] {
+    if (!left.empty()) form_.Leave(left);
+    form_.EnregistrerSaisie();
+  });
+  // The field is there still, and will be left again.
+  focused_ = FieldOf(QApplication::focusWidget());
+}
+
+// A field is left when the focus comes to another place of the program. An open panel is part of the
+// field that it was opened from, another window of nothing.
+void CvWindow::MoveFocus(QWidget* now) {
+  if (now == nullptr || now->window() != window()) return;
+  if (page_->Panels().isAncestorOf(now)) return;
+  const QString name = FieldOf(now);
+  if (name == focused_) return;
+  const Text left = FromQt(std::exchange(focused_, name));
+  Do([&] {
+    if (!left.empty()) form_.Leave(left);
+    if (!name.isEmpty()) form_.Enter(FromQt(name));
+  });
+}
+
+void CvWindow::Refresh() {
+  shown_ = form_;
+  binder_.Refresh();
+  zones_->SetTitle(form_.Label5);
+  zones_->ShowIdentityBox(form_.FrameIdentite);
+  zones_->ShowPhoto(form_.Photo);
+  zones_->SetCompact(form_.compact);
+  zones_->Languages().Show(form_);
+  page_->Show(form_);
+}
+
+// In a narrow window both panes come near their least widths.
+void CvWindow::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  constexpr int NarrowWindow = 1200;
+  const bool narrow = width() < NarrowWindow;
+  if (narrow == narrow_) return;
+  narrow_ = narrow;
+  const int zones = zones_->minimumWidth();
+  splitter_->setSizes(narrow ? QList<int>{zones, width() - zones - splitter_->handleWidth()} : WideSizes);
+}
+
+void CvWindow::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  const QString first = form_.FrameIdentite ? QStringLiteral("Identite") : QStringLiteral("Nom");
+  if (auto* field = findChild<QWidget*>(first)) field->setFocus(Qt::OtherFocusReason);
+}
+
+}  // namespace talvor

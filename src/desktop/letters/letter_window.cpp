@@ -1,0 +1,121 @@
+#include "desktop/letters/letter_window.h"
+
+#include <QHBoxLayout>
+#include <QPlainTextEdit>
+#include <QPointer>
+#include <QScrollBar>
+#include <QSplitter>
+
+namespace talvor {
+namespace {
+
+const QList<int> WideSizes{322, 424, 522};
+
+}  // namespace
+
+LetterWindow::LetterWindow(FormLettre& form, const Theme& theme, QWidget* parent)
+    : QWidget(parent), form_(form) {
+  setObjectName(QStringLiteral("FormLettre"));
+  auto* row = new QHBoxLayout(this);
+  row->setContentsMargins(0, 0, 0, 0);
+  splitter_ = new QSplitter(Qt::Horizontal, this);
+  splitter_->setHandleWidth(6);
+  splitter_->setChildrenCollapsible(false);
+  sender_ = new LetterSenderPane(theme, splitter_);
+  sentences_ = new LetterSentencesPane(theme, splitter_);
+  sheet_ = new LetterSheetPane(theme, splitter_);
+  for (int i = 0; i < splitter_->count(); ++i) splitter_->setStretchFactor(i, i == 2 ? 1 : 0);
+  splitter_->setSizes(WideSizes);
+  row->addWidget(splitter_);
+
+  Bind();
+  ConnectPanes();
+  ChainTabs();
+  constexpr int SaveMilliseconds = 1000;
+  connect(&timer1_, &QTimer::timeout, this, [this] { Tick1000(); });
+  timer1_.start(SaveMilliseconds);
+  Refresh();
+}
+
+void LetterWindow::Bind() {
+  binder_.BindByName(*this, LetterFields, form_);
+  for (std::size_t i = 0; i < CorpsCount; ++i) binder_.Bind(sentences_->Sentence(i), form_.Corps[i]);
+  binder_.OnEdited = [this](QWidget& field) { TakeEdit(field); };
+}
+
+void LetterWindow::ConnectPanes() {
+  sender_->OnCv = [this](std::size_t i) { Do([&] { form_.ClicNomCV(i); }); };
+  sender_->OnLeaveEmail = [this] { Do([&] { form_.QuitterEmail(); }); };
+  sender_->OnLeavePrénom = [this] { Do([&] { form_.QuitterPrénom(); }); };
+  sentences_->OnPrevious = [this](std::size_t i) { Do([&] { form_.BoutonTLV1(i); }); };
+  sentences_->OnNext = [this](std::size_t i) { Do([&] { form_.BoutonTLV2(i); }); };
+  sentences_->OnPropositions = [this] { Do([&] { form_.Command1(); }); };
+  sheet_->OnRecompose = [this] { Do([&] { form_.ClicPicture2(); }); };
+  sheet_->OnModele = [this](std::size_t i) { Do([&] { form_.ClicCheck_Modele(i); }); };
+  sheet_->OnCandidature = [this](std::size_t i) { Do([&] { form_.ClicCheck_candidature(i); }); };
+}
+
+void LetterWindow::ChainTabs() {
+  const QList<QWidget*> fields = sender_->Fields() + sentences_->Fields() + sheet_->Fields();
+  for (qsizetype i = 1; i < fields.size(); ++i) setTabOrder(fields[i - 1], fields[i]);
+}
+
+void LetterWindow::Do(const std::function<void()>& action) {
+  const QPointer<LetterWindow> self(this);
+  action();
+  if (!self) return;
+  Refresh();
+  if (OnActed) OnActed();
+}
+
+void LetterWindow::NewLetter() {
+  QMetaObject::invokeMethod(
+      this, [this] { Refresh(); }, Qt::QueuedConnection);
+  Do([&] { form_.NouvelleLettre(); });
+}
+
+void LetterWindow::Tick1000() {
+  Do([&] { form_.Timer1(); });
+}
+
+// The letter reports a change of its looks, too: only another text is an edit.
+void LetterWindow::TakeEdit(QWidget& field) {
+  if (&field != &sheet_->Letter() || form_.Text1 == knownLetter_) return;
+  knownLetter_ = form_.Text1;
+  edited_ = true;
+  sheet_->ShowState(form_, edited_);
+}
+
+void LetterWindow::Refresh() {
+  if (form_.Text1 != knownLetter_) {
+    knownLetter_ = form_.Text1;
+    edited_ = false;
+  }
+  // A letter composed anew stays where it was scrolled to.
+  QScrollBar* bar = sheet_->Letter().verticalScrollBar();
+  const int place = bar->value();
+  binder_.Refresh();
+  bar->setValue(place);
+  sender_->ShowCvs(form_);
+  sheet_->ShowState(form_, edited_);
+}
+
+void LetterWindow::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  if (auto* name = findChild<QWidget*>(QStringLiteral("Nom"))) name->setFocus(Qt::OtherFocusReason);
+}
+
+// In a narrow window the letter keeps what it needs; the sender gives way first.
+void LetterWindow::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  constexpr int NarrowWindow = 1200;
+  const bool narrow = width() < NarrowWindow;
+  if (narrow == narrow_) return;
+  narrow_ = narrow;
+  if (!narrow) return splitter_->setSizes(WideSizes);
+  const int letter = sheet_->minimumWidth();
+  const int sender = sender_->minimumWidth();
+  splitter_->setSizes({sender, width() - sender - letter - 2 * splitter_->handleWidth(), letter});
+}
+
+}  // namespace talvor

@@ -1,0 +1,81 @@
+#include "desktop/platform/page_pdf.h"
+
+#include <QEventLoop>
+#include <QPageLayout>
+#include <QTimer>
+#include <QWebEnginePage>
+
+#include "app/temporary_folder.h"
+#include "base/failure_cause.h"
+#include "base/line_file.h"
+#include "desktop/cv/cv_page_view.h"
+#include "desktop/widgets/text_edge.h"
+
+namespace talvor {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int LimitMilliseconds = 60000;
+
+// Waits until `loop` is left; false beyond the limit.
+bool Waited(QEventLoop& loop) {
+  bool inTime = true;
+  QTimer limit;
+  limit.setSingleShot(true);
+  QObject::connect(&limit, &QTimer::timeout, &loop, [&] {
+    inTime = false;
+    loop.quit();
+  });
+  limit.start(LimitMilliseconds);
+  loop.exec(QEventLoop::ExcludeUserInputEvents);
+  return inTime;
+}
+
+bool Shown(CvPageView& view, const QString& page) {
+  QEventLoop loop;
+  bool well = false;
+  QObject::connect(&view, &QWebEngineView::loadFinished, &loop, [&](bool ok) {
+    well = ok;
+    loop.quit();
+  });
+  view.ShowPage(page);
+  return Waited(loop) && well;
+}
+
+bool Printed(CvPageView& view, const QString& file) {
+  // The margins that a template gives its paper are not taken by the browser.
+  const QPageLayout paper(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF(15, 12, 15, 12),
+                          QPageLayout::Millimeter);
+  QEventLoop loop;
+  bool well = false;
+  QObject::connect(view.page(), &QWebEnginePage::pdfPrintingFinished, &loop, [&](const QString&, bool ok) {
+    well = ok;
+    loop.quit();
+  });
+  view.page()->printToPdf(file, paper);
+  return Waited(loop) && well;
+}
+
+}  // namespace
+
+Text PagePdf::Export(const fs::path& page, const fs::path& target) {
+  const auto source = TextOf(fs::absolute(page));
+  CvPageView view(nullptr);
+  view.resize(800, 1000);  // wide enough for the page at its own size
+  if (!source || !Shown(view, ToQt(*source))) return u"La page du CV n’a pas pu être lue.";
+  try {
+    // Beside the target, so that the whole document takes its name in one step.
+    const TemporaryFolder outcome(target.parent_path());
+    const fs::path made = outcome.Path() / "cv.pdf";
+    if (!Printed(view, ToQt(TextOf(made).value_or(Text{}))))
+      return u"La page du CV n’a pas pu être imprimée en PDF.";
+    fs::rename(made, target);
+  } catch (const fs::filesystem_error& fault) {
+    return u"Le document n’a pas pu être écrit dans le dossier «\u00A0" +
+           TextOf(target.parent_path()).value_or(Text{}) + u"\u00A0»\u00A0: " + CauseOf(fault.code()) + u".";
+  }
+  return {};
+}
+
+}  // namespace talvor

@@ -1,0 +1,128 @@
+#include "desktop/platform/print_preview.h"
+
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPageSetupDialog>
+#include <QPrintDialog>
+#include <QProgressBar>
+#include <QStandardPaths>
+#include <QVBoxLayout>
+#include <QWebEngineView>
+
+#include "desktop/platform/printing.h"
+#include "desktop/widgets/bouton_tlv.h"
+#include "desktop/widgets/pane.h"
+#include "desktop/widgets/text_edge.h"
+
+namespace talvor {
+
+PrintPreviewWindow::PrintPreviewWindow(const Theme& theme, PrintedPage page, QWidget* parent)
+    : QDialog(parent),
+      printed_(std::move(page)),
+      view_(new QWebEngineView(this)),
+      progress_(new QProgressBar(this)),
+      printer_(std::make_shared<QPrinter>(QPrinter::HighResolution)) {
+  setObjectName(QStringLiteral("AperçuImpression"));
+  setWindowTitle(tr("Aperçu avant impression"));
+  setAttribute(Qt::WA_DeleteOnClose);
+  printer_->setPageLayout(printed_.layout);
+  auto* sealed = new SealedPage(printed_.reach, view_);
+  view_->setPage(sealed);
+  view_->setAccessibleName(tr("Page à imprimer"));
+  view_->setContextMenuPolicy(Qt::NoContextMenu);
+  progress_->setTextVisible(false);
+  progress_->setFixedHeight(3);
+  progress_->setAccessibleName(tr("Chargement"));
+  connect(view_, &QWebEngineView::loadProgress, progress_, &QProgressBar::setValue);
+  connect(view_, &QWebEngineView::loadFinished, this, [this] {
+    complete_ = true;
+    progress_->setVisible(false);
+  });
+
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(0);
+  column->addLayout(MakeTools(theme));
+  column->addWidget(progress_);
+  column->addWidget(view_, 1);
+  resize(980, 680);
+  sealed->ShowFile(printed_.file);
+}
+
+PrintPreviewWindow::~PrintPreviewWindow() { OutliveWhilePrinting(*view_); }
+
+QLayout* PrintPreviewWindow::MakeTools(const Theme& theme) {
+  auto* tools = new QHBoxLayout;
+  tools->setContentsMargins(12, 8, 12, 8);
+  tools->setSpacing(8);
+  const auto add = [&](const QString& name, const QString& text, auto&& action) {
+    auto* button = new BoutonTLV(theme, text, this);
+    button->setObjectName(name);
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this, action);
+    tools->addWidget(button);
+    return button;
+  };
+  constexpr qreal ZoomStep = 1.25;
+  add(QStringLiteral("Imprimer"), tr("&Imprimer…"), [this] {
+    Print();
+  })->setProperty("role", QStringLiteral("primary"));
+  add(QStringLiteral("MiseEnPage"), tr("&Mise en page…"), [this] { SetUpPage(); });
+  add(QStringLiteral("EnregistrerPdf"), tr("Enregistrer en &PDF…"), [this] { AskForPdf(); });
+  tools->addStretch(1);
+  add(QStringLiteral("Reduire"), tr("&Réduire"), [this] { Zoom(1 / ZoomStep); });
+  add(QStringLiteral("Agrandir"), tr("&Agrandir"), [this] { Zoom(ZoomStep); });
+  add(QStringLiteral("Fermer"), tr("&Fermer"), [this] { close(); });
+  return tools;
+}
+
+void PrintPreviewWindow::Print() {
+  QPrintDialog dialog(printer_.get(), this);
+  if (dialog.exec() != QDialog::Accepted) return;
+  PrintPage(*view_, printer_, [self = QPointer<PrintPreviewWindow>(this)](bool printed) {
+    if (!printed && self) self->Tell(tr("L’impression n’a pas abouti."));
+  });
+}
+
+void PrintPreviewWindow::SetUpPage() { QPageSetupDialog(printer_.get(), this).exec(); }
+
+void PrintPreviewWindow::Zoom(qreal factor) {
+  constexpr qreal Smallest = 0.3;
+  constexpr qreal Largest = 3;
+  view_->setZoomFactor(qBound(Smallest, view_->zoomFactor() * factor, Largest));
+}
+
+void PrintPreviewWindow::Tell(const QString& text) { QMessageBox::warning(this, windowTitle(), text); }
+
+void PrintPreviewWindow::AskForPdf() {
+  const QString file =
+      QFileDialog::getSaveFileName(this, tr("Enregistrer en PDF"), printed_.pdf, tr("Documents PDF (*.pdf)"));
+  if (file.isEmpty()) return;
+  SavePdf(file, [self = QPointer<PrintPreviewWindow>(this), file](bool saved) {
+    if (!saved && self) self->Tell(tr("Le fichier «\u00A0%1\u00A0» n’a pas pu être écrit.").arg(file));
+  });
+}
+
+void PrintPreviewWindow::SavePdf(const QString& file, const std::function<void(bool)>& done) {
+  WritePdf(*view_, file, printer_->pageLayout(), done);
+}
+
+void QtPagePreview::Navigate(TextView address) {
+  delete window_.data();
+  const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  QPageLayout layout = QPrinter(QPrinter::HighResolution).pageLayout();
+  layout.setPageSize(QPageSize(QPageSize::A4));
+  layout.setOrientation(QPageLayout::Landscape);
+  window_ = new PrintPreviewWindow(theme_,
+                                   {.file = QUrl(ToQt(address)),
+                                    .reach = Reach::File,
+                                    .layout = layout,
+                                    .pdf = folder + QStringLiteral("/Talvor.pdf")},
+                                   frame_);
+}
+
+void QtPagePreview::Preview() {
+  if (window_) window_->show();
+}
+
+}  // namespace talvor

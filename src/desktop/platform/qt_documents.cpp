@@ -1,0 +1,59 @@
+#include "desktop/platform/qt_documents.h"
+
+#include <QFile>
+#include <QProcess>
+#include <QStandardPaths>
+
+#include "desktop/platform/window_titles.h"
+#include "desktop/widgets/text_edge.h"
+
+namespace talvor {
+namespace {
+
+// The first line that a program writes, empty when it fails or takes too long.
+QString AnswerOf(const QString& program, const QStringList& arguments) {
+  constexpr int LimitMilliseconds = 3000;
+  QProcess process;
+  process.start(program, arguments, QIODevice::ReadOnly);
+  if (!process.waitForFinished(LimitMilliseconds) || process.exitStatus() != QProcess::NormalExit ||
+      process.exitCode() != 0)
+    return {};
+  return QString::fromUtf8(process.readAllStandardOutput()).section(QLatin1Char('\n'), 0, 0).trimmed();
+}
+
+// The name of a program as its desktop entry tells it, in French where it does; without an entry, that of
+// the entry itself.
+QString NameOfProgram(const QString& entry) {
+  QFile file(QStandardPaths::locate(QStandardPaths::ApplicationsLocation, entry));
+  if (!file.open(QIODevice::ReadOnly)) return entry;
+  QString name = entry;
+  while (!file.atEnd()) {
+    const QString line = QString::fromUtf8(file.readLine()).trimmed();
+    // The entry is the first group; those behind it are its actions.
+    if (line.startsWith(QLatin1Char('[')) && line != QStringLiteral("[Desktop Entry]")) break;
+    if (line.startsWith(QStringLiteral("Name[fr]="))) return line.section(QLatin1Char('='), 1);
+    if (line.startsWith(QStringLiteral("Name="))) name = line.section(QLatin1Char('='), 1);
+  }
+  return name;
+}
+
+}  // namespace
+
+bool QtDocuments::Open(TextView target) {
+  // A file whose name begins like an option is still a file.
+  const QString argument = (target.starts_with(u'-') ? QStringLiteral("./") : QString()) + ToQt(target);
+  return QProcess::startDetached(QStringLiteral("xdg-open"), {argument});
+}
+
+Text QtDocuments::ProgramFor(TextView file) const {
+  const QString program = QStringLiteral("xdg-mime");
+  const QString query = QStringLiteral("query");
+  const QString kind = AnswerOf(program, {query, QStringLiteral("filetype"), ToQt(file)});
+  if (kind.isEmpty()) return {};
+  const QString entry = AnswerOf(program, {query, QStringLiteral("default"), kind});
+  return entry.isEmpty() ? Text{} : FromQt(NameOfProgram(entry));
+}
+
+std::vector<Text> QtDocuments::WindowTitles() const { return ReadWindowTitles(); }
+
+}  // namespace talvor

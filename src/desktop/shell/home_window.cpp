@@ -1,0 +1,236 @@
+#include "desktop/shell/home_window.h"
+
+#include <QGraphicsOpacityEffect>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QPointer>
+#include <QStyle>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "desktop/shell/road_picture.h"
+#include "desktop/widgets/pane.h"
+#include "desktop/widgets/text_edge.h"
+
+namespace talvor {
+namespace {
+
+constexpr QSize RowSize{600, 92};
+constexpr int SideWidth = 408;
+constexpr int RoomForSide = 1100;  // the right column narrows under that width, and goes where it would
+constexpr int LeastSide = 320;     // be narrower than this
+
+struct RowLook {
+  const char16_t* title;
+  const char16_t* icon;
+  const char16_t* mnemonic;  // the part of the title that begins with it
+};
+
+constexpr std::array<RowLook, 11> Looks{{
+    {u"Rédiger un Curriculum Vitae", u"cv", u"Curriculum"},
+    {u"Rédiger un modèle de lettre", u"letter", u"lettre"},
+    {u"Gérer les candidatures", u"case", u"Gérer"},
+    {u"Statistiques, calendrier et alertes", u"calendar", u"Stat"},
+    {u"Réaliser un nouveau CV", u"doc-new", u"nouveau"},
+    {u"Rattacher un CV existant", u"clip", u"xistant"},
+    {u"Réaliser un nouveau modèle de lettre", u"doc-new", u"nouveau"},
+    {u"Gestion manuelle des candidatures", u"case", u"Gestion"},
+    {u"Recherche des offres sur Internet", u"globe", u"Internet"},
+    {u"Justificatif de recherche d'emploi", u"print", u"Justificatif"},
+    {u"Retour au menu principal", u"undo", u"our"},
+}};
+
+const RowLook* LookOf(TextView title) {
+  for (const RowLook& look : Looks)
+    if (title == look.title) return &look;
+  return nullptr;
+}
+
+QFont Sized(QFont font, int pixels, QFont::Weight weight) {
+  font.setPixelSize(pixels);
+  font.setWeight(weight);
+  return font;
+}
+
+}  // namespace
+
+HomeRowButton::HomeRowButton(const Theme& theme, QWidget* parent) : CardButton(theme, parent) {}
+
+QSize HomeRowButton::sizeHint() const { return RowSize; }
+
+void HomeRowButton::SetRow(const QString& icon, const HomeRow& row, qsizetype mnemonic) {
+  icon_ = icon;
+  row_ = row;
+  QString text = ToQt(row.title).replace(QLatin1Char('&'), QLatin1String("&&"));
+  if (mnemonic >= 0) text.insert(mnemonic, QLatin1Char('&'));
+  setText(text);
+  setAccessibleName(ToQt(row.title));
+  setAccessibleDescription(ToQt(row.explanation));
+  update();
+}
+
+void HomeRowButton::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  PaintCard(painter, QStringLiteral("line"));
+  constexpr int Tile = 52;
+  constexpr int Picture = 24;
+  const QRect tile(21, (height() - Tile) / 2, Tile, Tile);
+  PaintTile(painter, tile, icon_, Picture);
+
+  const int left = tile.right() + 19;
+  const QRect texts(left, 0, width() - left - 52, height());
+  const int middle = height() / 2;
+  painter.setFont(Sized(font(), 17, QFont::DemiBold));
+  painter.setPen(Look().Color(QStringLiteral("text")));
+  painter.drawText(QRect(texts.left(), middle - 25, texts.width(), 26),
+                   Qt::AlignVCenter | Qt::TextShowMnemonic | Qt::TextSingleLine, text());
+  painter.setFont(Sized(font(), 13, QFont::Normal));
+  painter.setPen(Look().Color(QStringLiteral("text2")));
+  painter.drawText(QRect(texts.left(), middle + 2, texts.width(), 20), Qt::AlignVCenter | Qt::TextSingleLine,
+                   painter.fontMetrics().elidedText(ToQt(row_.explanation), Qt::ElideRight, texts.width()));
+  painter.drawPixmap(width() - 42, middle - 10,
+                     Look().Pixmap(QStringLiteral("chev-r"), QStringLiteral("text2"), 20));
+}
+
+HomeWindow::HomeWindow(AssistantTexte& panel, const Theme& theme, QWidget* parent)
+    : QWidget(parent), panel_(panel), theme_(theme) {
+  setObjectName(QStringLiteral("AssistantTexte"));
+  setProperty("plane", QStringLiteral("window"));
+  setProperty("pane", true);
+  setAttribute(Qt::WA_StyledBackground);
+  auto* columns = new QHBoxLayout(this);
+  columns->setContentsMargins(24, 24, 24, 24);
+  columns->setSpacing(56);
+  columns->addStretch(1);
+
+  auto* left = new QVBoxLayout;
+  left->setSpacing(8);
+  left->addStretch(1);
+  auto* question = new QLabel(tr("Vous souhaitez..."), this);
+  question->setProperty("role", QStringLiteral("hero"));
+  left->addWidget(question);
+  left->addSpacing(10);
+  left->addWidget(MakeRows());
+  left->addStretch(1);
+  columns->addLayout(left, 8);
+
+  side_ = new QWidget(this);
+  auto* right = new QVBoxLayout(side_);
+  right->setContentsMargins(0, 0, 0, 0);
+  right->setSpacing(16);
+  right->addStretch(1);
+  road_ = new RoadPicture(theme, side_);
+  right->addWidget(road_);
+  right->addWidget(MakeCounts());
+  right->addStretch(1);
+  columns->addWidget(side_);
+  columns->addStretch(1);
+  constexpr int TickMilliseconds = 16;
+  timer1_.setInterval(TickMilliseconds);
+  connect(&timer1_, &QTimer::timeout, this, [this] { Slide(); });
+  Refresh();
+}
+
+QWidget* HomeWindow::MakeRows() {
+  auto* box = new QWidget(this);
+  fade_ = new QGraphicsOpacityEffect(box);
+  box->setGraphicsEffect(fade_);
+  rowsColumn_ = new QVBoxLayout(box);
+  rowsColumn_->setContentsMargins(0, 0, 0, 0);
+  rowsColumn_->setSpacing(8);
+  for (HomeRowButton*& row : rows_) {
+    row = new HomeRowButton(theme_, box);
+    row->setFixedHeight(RowSize.height() + 4);
+    row->setMinimumWidth(440);
+    row->setMaximumWidth(RowSize.width() + 4);
+    connect(row, &QAbstractButton::clicked, this, [this, row] { Click(*row); });
+    rowsColumn_->addWidget(row);
+  }
+  return box;
+}
+
+// A system without animations has the rows in their place at once.
+void HomeWindow::BeginSlide() {
+  if (style()->styleHint(QStyle::SH_Widget_Animate, nullptr, this) == 0)
+    while (panel_.Timer1()) continue;
+  timer1_.start();
+  Slide();
+}
+
+void HomeWindow::Slide() {
+  const int ecart = panel_.Ecart;
+  rowsColumn_->setContentsMargins(ecart, 0, 0, 0);
+  fade_->setOpacity(1 - static_cast<double>(ecart) / (AssistantTexte::FarthestEcart + 1));
+  fade_->setEnabled(ecart > 0);
+  if (ecart == 0) return timer1_.stop();
+  static_cast<void>(panel_.Timer1());
+}
+
+QWidget* HomeWindow::MakeCounts() {
+  auto* card = new QFrame(side_);
+  card->setProperty("card", true);
+  auto* lines = new QVBoxLayout(card);
+  lines->setContentsMargins(20, 6, 20, 6);
+  lines->setSpacing(0);
+  for (std::size_t i = 0; i < counts_.size(); ++i) {
+    if (i > 0) lines->addWidget(MakeLine(theme_, card));
+    auto* line = new QHBoxLayout;
+    line->setContentsMargins(0, 11, 0, 11);
+    countNames_[i] = new QLabel(card);
+    countNames_[i]->setProperty("role", QStringLiteral("label"));
+    counts_[i] = new QLabel(card);
+    counts_[i]->setStyleSheet(QStringLiteral("font-size: 20px; font-weight: 600;"));
+    line->addWidget(countNames_[i], 1);
+    line->addWidget(counts_[i]);
+    lines->addLayout(line);
+  }
+  return card;
+}
+
+void HomeWindow::Click(const HomeRowButton& button) {
+  const QPointer<HomeWindow> self(this);
+  const Text title = button.Row().title;
+  const auto acted = OnActed;
+  panel_.Clic(title);
+  if (!self) {
+    if (acted) acted();
+    return;
+  }
+  Refresh();
+  if (OnActed) OnActed();
+}
+
+void HomeWindow::Refresh() {
+  for (std::size_t i = 0; i < rows_.size(); ++i) {
+    const HomeRow row = i < panel_.Label1.size() ? panel_.Label1[i] : HomeRow{};
+    const RowLook* look = LookOf(row.title);
+    const QString fileIcon =
+        panel_.level == AssistantTexte::Level::CV ? QStringLiteral("cv") : QStringLiteral("letter");
+    rows_[i]->SetRow(look == nullptr ? fileIcon : QString::fromUtf16(look->icon), row,
+                     look == nullptr ? -1 : ToQt(row.title).indexOf(QString::fromUtf16(look->mnemonic)));
+    rows_[i]->setVisible(!row.title.empty());
+  }
+  if (panel_.Ecart > 0 && !timer1_.isActive()) BeginSlide();
+  const QStringList lines = ShownText(panel_.Compteurs).split(QLatin1Char('\n'));
+  for (std::size_t i = 0; i < counts_.size(); ++i) {
+    const QString line = lines.value(static_cast<qsizetype>(i));
+    const qsizetype colon = line.indexOf(QLatin1Char(':'));
+    countNames_[i]->setText(line.left(colon + 1));
+    const QString count = line.mid(colon + 1).trimmed();
+    counts_[i]->setText(count.isEmpty() ? QStringLiteral("0") : count);
+  }
+}
+
+void HomeWindow::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  rows_.front()->setFocus(Qt::OtherFocusReason);
+}
+
+void HomeWindow::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  const int room = width() - RowSize.width() - 110;
+  side_->setFixedWidth(std::clamp(width() < RoomForSide ? room : SideWidth, LeastSide, SideWidth));
+}
+
+}  // namespace talvor

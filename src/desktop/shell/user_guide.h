@@ -1,0 +1,27 @@
+// The user's guide, in a window of its own: the document docs/guide.md with its pictures.
+#pragma once
+
+#include <QDialog>
+
+#include "base/text.h"
+#include "desktop/widgets/theme.h"
+
+class QTextBrowser;
+
+namespace talvor {
+
+inline constexpr TextView UserGuideForm = u"ModeEmploi";
+
+class UserGuideWindow : public QDialog {
+ public:
+  UserGuideWindow(const Theme& theme, QWidget* parent);
+
+  [[nodiscard]] QTextBrowser& Pages() { return *text_; }
+
+ private:
+  void ShowChapter(const QUrl& link);
+
+  QTextBrowser* text_;
+};
+
+}  // namespace talvor

@@ -1,0 +1,59 @@
+#include "desktop/widgets/pane.h"
+
+#include <QFrame>
+
+namespace talvor {
+
+QWidget* MakePlane(const QString& plane, QWidget* parent) {
+  auto* widget = new QWidget(parent);
+  widget->setProperty("plane", plane);
+  widget->setAttribute(Qt::WA_StyledBackground);
+  return widget;
+}
+
+QLabel* MakeLabel(const QString& text, QWidget* field, QWidget* parent) {
+  auto* label = new QLabel(text, parent);
+  label->setProperty("role", QStringLiteral("label"));
+  label->setBuddy(field);
+  field->setAccessibleName(QString(text).remove(QLatin1Char('&')));
+  return label;
+}
+
+QPushButton* MakeLink(const Theme& theme, const QString& icon, const QString& text, const QString& name,
+                      QWidget* parent) {
+  auto* link = new QPushButton(text, parent);
+  link->setObjectName(name);
+  link->setProperty("role", QStringLiteral("link"));
+  link->setAccessibleName(
+      QString(text).remove(QLatin1Char('&')).replace(QLatin1Char('\n'), QLatin1Char(' ')));
+  link->setCursor(Qt::PointingHandCursor);
+  TintIcon(theme, *link, icon, QStringLiteral("primary"));
+  return link;
+}
+
+QFrame* MakeLine(const Theme& theme, QWidget* parent) {
+  auto* line = new QFrame(parent);
+  line->setFixedHeight(1);
+  line->setAutoFillBackground(true);
+  const auto take = [line, &theme] {
+    QPalette palette = line->palette();
+    palette.setColor(QPalette::Window, theme.Color(QStringLiteral("line")));
+    line->setPalette(palette);
+  };
+  QObject::connect(&theme, &Theme::Changed, line, take);
+  take();
+  return line;
+}
+
+void TintIcon(const Theme& theme, QAbstractButton& button, const QString& icon, const QString& token,
+              int size) {
+  const int gap = button.text().isEmpty() ? 0 : TextGap;
+  button.setIconSize({size + gap, size});
+  const auto take = [&button, &theme, icon, token, size, gap] {
+    button.setIcon(theme.Icon(icon, token, size, gap));
+  };
+  QObject::connect(&theme, &Theme::Changed, &button, take);
+  take();
+}
+
+}  // namespace talvor
