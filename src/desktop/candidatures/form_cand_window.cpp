@@ -12,7 +12,7 @@ namespace talvor {
 namespace {
 
 constexpr int ListWidth = 312;
-constexpr int DetailWidth = 474;
+constexpr int DetailWidth = 502;
 
 }  // namespace
 
