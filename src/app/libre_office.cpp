@@ -49,8 +49,7 @@ Text FaultOf(const ProcessEnd& end) {
              u"recommencez la conversion.";
     case ProcessEnd::Kind::TooLong:
       return u"LibreOffice n’a pas terminé la conversion dans le temps imparti. Fermez les autres "
-             u"programmes, "
-             u"puis recommencez.";
+             u"programmes, puis recommencez.";
     case ProcessEnd::Kind::Exited:
     case ProcessEnd::Kind::Failed:
       break;
