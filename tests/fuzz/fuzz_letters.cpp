@@ -1,5 +1,5 @@
-// Lines of any kind as a letter model and as propositions: every walk ends, and what was read as a
-// model is read again from what it writes.
+// Lines of any kind as a letter model: what was read as a model is read again from what it writes, and
+// every letter is composed.
 
 #include <cstdint>
 
@@ -7,7 +7,6 @@
 #include "base/line_file.h"
 #include "letters/composer.h"
 #include "letters/letter_file.h"
-#include "letters/propositions.h"
 
 namespace {
 
@@ -30,16 +29,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (again.*(field.text) != model.*(field.text)) __builtin_trap();
   if (again.Corps != model.Corps) __builtin_trap();
 
-  Propositions table;
-  table.Take(lines);
-  table.FillEmpty(model.Corps);
-  for (std::size_t i = 0; i < CorpsCount; ++i)
-    for (const bool back : {false, true}) {
-      for (std::size_t step = 0; step < 4; ++step) {
-        const Text& corps = model.Corps[i];
-        model.Corps[i] = WithGender(back ? table.Previous(i, corps) : table.Next(i, corps), model.Prénom);
-      }
-    }
+  for (Text& corps : model.Corps) corps = WithGender(corps, model.Prénom);
   ComposerLettre(model, Day{39156});
   return 0;
 }
