@@ -33,13 +33,14 @@ void SpeakFrench(CLI::App& app) {
 
 // What the parser refuses, in French; its own words are English.
 std::string Refusal(const CLI::App& app, const CLI::ParseError& error) {
-  if (dynamic_cast<const CLI::ExtrasError*>(&error) != nullptr) {
+  // A command that does not exist is a word left over, and a missing command, for the parser.
+  const bool required = dynamic_cast<const CLI::RequiredError*>(&error) != nullptr;
+  if (required || dynamic_cast<const CLI::ExtrasError*>(&error) != nullptr) {
     std::string words;
     for (const auto& word : app.remaining(true)) words += " " + word;
-    return "argument inattendu\u00A0:" + words;
+    if (words.empty()) return "il manque une commande ou un argument";
+    return (required ? "commande ou argument inconnu\u00A0:" : "argument inattendu\u00A0:") + words;
   }
-  if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr)
-    return "il manque une commande ou un argument";
   if (dynamic_cast<const CLI::ConversionError*>(&error) != nullptr) return "un nombre est attendu";
   if (dynamic_cast<const CLI::ValidationError*>(&error) != nullptr) return "une valeur n’est pas admise";
   return "les arguments sont incorrects";

@@ -128,7 +128,7 @@ INSTANTIATE_TEST_SUITE_P(
     Commands, Faults,
     testing::Values(
         Fault{"no command", {}, WrongUsage, "il manque une commande"},
-        Fault{"an unknown one", {"manger"}, WrongUsage, "talvorctl --help"},
+        Fault{"an unknown one", {"manger"}, WrongUsage, "inconnu\u00A0: manger (voir"},
         Fault{"an argument too many", {"preparer", "x"}, WrongUsage, "argument inattendu\u00A0: x"},
         Fault{"a number that is none", {"candidature", "x"}, WrongUsage, "un nombre est attendu"},
         Fault{"a sort that is none", {"candidatures", "--tri", "x"}, WrongUsage, "n’est pas admise"},
