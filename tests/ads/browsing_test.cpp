@@ -141,10 +141,12 @@ TEST(StartPage, LinksEverySiteAndLetsNoRowBreakItsMarkup) {
   SiteDirectory directory;
   directory.List1 = {u"ACME & FILS   http://a.example/?x=1&y='2'", u"<script>   http://b.example/",
                      u"sans/adresse"};
-  const Text page = StartPageHtml(directory);
+  const Text page = StartPageHtml(directory, PagePalette::Light);
   EXPECT_TRUE(Contains(page, u"<a href='http://a.example/?x=1&amp;y=&#39;2&#39;'>ACME &amp; FILS</a>"));
   EXPECT_TRUE(Contains(page, u"<a href='http://b.example/'>&lt;script&gt;</a>"));
   EXPECT_FALSE(Contains(page, u"sans/adresse"));
+  EXPECT_FALSE(Contains(page, u"<body class='dark'>"));
+  EXPECT_TRUE(Contains(StartPageHtml(directory, PagePalette::Dark), u"<body class='dark'><h1>"));
 }
 
 TEST(SiteDirectory, APageOfSitesBecomesTheFile) {

@@ -1,6 +1,8 @@
 #include "desktop/browser/start_page.h"
 
 #include <QBuffer>
+#include <QGuiApplication>
+#include <QPalette>
 #include <QWebEngineUrlRequestJob>
 #include <QWebEngineUrlScheme>
 
@@ -14,6 +16,13 @@ const QByteArray SchemeName = QByteArrayLiteral("talvor");
 
 // The page of sites, in the data folder, from which the directory can be rebuilt.
 constexpr const char* SitesPage = "listesites.htm";
+
+PagePalette WindowPalette() {
+  const QPalette palette = QGuiApplication::palette();
+  const bool dark =
+      palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
+  return dark ? PagePalette::Dark : PagePalette::Light;
+}
 
 }  // namespace
 
@@ -32,7 +41,7 @@ void StartPageHandler::requestStarted(QWebEngineUrlRequestJob* job) {
   } else {
     SiteDirectory directory;
     directory.Charger();
-    page->setData(QByteArray::fromStdString(ToUtf8(StartPageHtml(directory))));
+    page->setData(QByteArray::fromStdString(ToUtf8(StartPageHtml(directory, WindowPalette()))));
   }
   page->open(QIODevice::ReadOnly);
   job->reply(QByteArrayLiteral("text/html"), page);
