@@ -1,8 +1,30 @@
 #include "desktop/widgets/pane.h"
 
 #include <QFrame>
+#include <QPainter>
+#include <QStyle>
 
 namespace talvor {
+namespace {
+
+// Where it has too little room for its words, the end of them is an ellipsis.
+class FieldLabel : public QLabel {
+ public:
+  using QLabel::QLabel;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    if (contentsRect().width() >= sizeHint().width()) return QLabel::paintEvent(event);
+    QPainter painter(this);
+    style()->drawItemText(
+        &painter, contentsRect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, palette(),
+        isEnabled(),
+        fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width(), Qt::TextShowMnemonic),
+        foregroundRole());
+  }
+};
+
+}  // namespace
 
 QWidget* MakePlane(const QString& plane, QWidget* parent) {
   auto* widget = new QWidget(parent);
@@ -12,7 +34,7 @@ QWidget* MakePlane(const QString& plane, QWidget* parent) {
 }
 
 QLabel* MakeLabel(const QString& text, QWidget* field, QWidget* parent) {
-  auto* label = new QLabel(text, parent);
+  auto* label = new FieldLabel(text, parent);
   label->setProperty("role", QStringLiteral("label"));
   label->setBuddy(field);
   field->setAccessibleName(QString(text).remove(QLatin1Char('&')));
