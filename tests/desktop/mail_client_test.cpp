@@ -197,6 +197,33 @@ TEST_F(MailClientTest, APathThatTheProgramWouldMangleIsLeftInAMessageInstead) {
   EXPECT_EQ(Read(client.LeftMessage())[QStringLiteral("names")].toArray().size(), 1);
 }
 
+TEST_F(MailClientTest, ThunderbirdIsGivenOnlyPathsThatItsListCanHold) {
+  const fs::path folder = scratch.Path();
+  fs::create_directories("applications");
+  std::ofstream("applications/thunderbird.desktop")
+      << "[Desktop Entry]\nType=Application\nName=Courrier\nExec=thunderbird %u\n";
+  std::ofstream("mimeapps.list") << "[Default Applications]\nx-scheme-handler/mailto=thunderbird.desktop\n";
+  std::ofstream("thunderbird") << "#!/bin/sh\nprintf '%s' \"$2\" > " << folder.string() << "/reçu\n";
+  fs::permissions("thunderbird", fs::perms::owner_all);
+  qputenv("PATH", QByteArray::fromStdString(folder.string()) + ':' + path);
+  qputenv("XDG_DATA_HOME", QByteArray::fromStdString(folder.string()));
+  qputenv("XDG_CONFIG_HOME", QByteArray::fromStdString(folder.string()));
+
+  const Text plain = File(u"CV.pdf");
+  EXPECT_TRUE(Send(u"a@b.fr", u"L'objet, ici", u"Texte", plain));
+  EXPECT_NE(ReadBytes("reçu").value_or("").find("attachment='" + ToUtf8(plain) + "'"),
+            std::string::npos)
+      << ReadBytes("reçu").value_or("");
+  fs::remove("reçu");
+  for (const TextView name : {u"CV d'été.pdf", u"Dupont, Marie.pdf"}) {
+    EXPECT_FALSE(Send(u"a@b.fr", u"Objet", u"Texte", File(name))) << ToUtf8(name);
+    EXPECT_FALSE(fs::exists("reçu"));
+    EXPECT_EQ(Read(client.LeftMessage())[QStringLiteral("names")].toArray().size(), 1);
+  }
+  qunsetenv("XDG_DATA_HOME");
+  qunsetenv("XDG_CONFIG_HOME");
+}
+
 TEST_F(MailClientTest, AClientThatStaysInFrontHasTheMessageAndALeftOneGoesWithTheNextSend) {
   Client("exit 1");
   EXPECT_FALSE(Send(u"a@b.fr", u"Objet", u"Texte"));

@@ -39,16 +39,27 @@ bool RunsWell(const QString& program, const QStringList& arguments, int limitMil
   return well;
 }
 
-// xdg-email would fall back on a web browser, which takes the address and shows nothing.
-bool ClientIsKnown() {
-  if (qEnvironmentVariableIsSet("MAILER")) return true;
-  if (!QStandardPaths::findExecutable(QStringLiteral("xdg-email-hook.sh")).isEmpty()) return true;
+// The desktop entry of the program that the desktop opens addresses of mail with; empty when there is none.
+QByteArray DefaultClient() {
   constexpr int LimitMilliseconds = 3000;
   QProcess query;
   query.start(QStringLiteral("xdg-mime"),
               {QStringLiteral("query"), QStringLiteral("default"), QStringLiteral("x-scheme-handler/mailto")},
               QIODevice::ReadOnly);
-  return query.waitForFinished(LimitMilliseconds) && !query.readAllStandardOutput().trimmed().isEmpty();
+  return query.waitForFinished(LimitMilliseconds) ? query.readAllStandardOutput().trimmed() : QByteArray();
+}
+
+// xdg-email would fall back on a web browser, which takes the address and shows nothing.
+bool ClientIsKnown() {
+  if (qEnvironmentVariableIsSet("MAILER")) return true;
+  if (!QStandardPaths::findExecutable(QStringLiteral("xdg-email-hook.sh")).isEmpty()) return true;
+  return !DefaultClient().isEmpty();
+}
+
+// Thunderbird gets its message from xdg-email as one list of quoted values, in which "'" and "," have a meaning.
+bool ClientTakesAList() {
+  const QByteArray client = DefaultClient().toLower();
+  return client.contains("thunderbird") || client.contains("icedove");
 }
 
 // The bytes of a text for an address: nothing but plain letters and digits as they stand.
@@ -57,7 +68,10 @@ QString Encoded(TextView text, const char* plain = "") {
 }
 
 // xdg-email reads attachments through the shell's echo, which takes "\" for an escape.
-bool CanBeTold(TextView path) { return OneLine(path) == path && !Contains(path, u"\\"); }
+bool CanBeTold(TextView path) {
+  if (OneLine(path) != path || Contains(path, u"\\")) return false;
+  return path.find_first_of(u"',") == TextView::npos || !ClientTakesAList();
+}
 
 bool IsFile(const std::filesystem::path& file) {
   std::error_code unreadable;
