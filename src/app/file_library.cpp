@@ -196,7 +196,13 @@ std::optional<Text> FileLibrary::AskNewName(const fs::path& folder) const {
   const auto chosen = around_.pickers.SaveFile(
       {.title = u"Saisie d'un nouveau nom", .folder = folder, .filter = u"*.*", .name = {}});
   const auto path = chosen ? TextOf(*chosen) : std::nullopt;
-  return path && !path->empty() ? path : std::nullopt;
+  if (!path || path->empty()) return std::nullopt;
+  if (TextOf(chosen->filename()).value_or(Text{}).starts_with(u'.')) {
+    around_.dialogs.Tell(
+        u"Un nom qui commence par un point est celui d’un fichier caché\u00A0: choisissez-en un autre.");
+    return std::nullopt;
+  }
+  return path;
 }
 
 void FileLibrary::Renommer() {

@@ -299,6 +299,16 @@ TEST_F(FileLibraryTest, ARenamingCanMoveTheFileAndADroppedDialogChangesNothing) 
   EXPECT_EQ(Names("Lettres"), std::set<std::string>{"m.dat.dat"}) << "no extension goes from a letter's name";
 }
 
+TEST_F(FileLibraryTest, NoRenamingHidesADocument) {
+  Write("CV/a.dat", "a");
+  Click(0);
+  Rename(u"CV/.a");
+  EXPECT_EQ(Names("CV"), std::set<std::string>{"a.dat"});
+  EXPECT_TRUE(shell.calls.empty());
+  ASSERT_EQ(dialogs.told.size(), 1u);
+  EXPECT_TRUE(Contains(dialogs.told[0], u"commence par un point"));
+}
+
 TEST_F(FileLibraryTest, ARefusedRenamingLeavesEveryFileAsItStoodAndSaysWhy) {
   Write("CV/a.dat", "a");
   Write("CV/B.dat", "b");
