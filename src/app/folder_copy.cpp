@@ -161,7 +161,8 @@ class Copy {
 
   [[noreturn]] void Stopped() const {
     throw CopyFailure(u"La copie a été interrompue après " +
-                      NumberText(static_cast<long long>(progress_.files)) + u" fichiers sur " +
+                      NumberText(static_cast<long long>(progress_.files)) +
+                      (progress_.files < 2 ? u" fichier sur " : u" fichiers sur ") +
                       NumberText(static_cast<long long>(progress_.fileCount)) + u".");
   }
 

@@ -155,7 +155,8 @@ void BackupWindow::Refresh() {
   if (shown) {
     const QLocale french = locale();
     count_->setText(
-        tr("Copie\u00A0: %1 fichiers sur %2, %3 sur %4")
+        (now.files < 2 ? tr("Copie\u00A0: %1 fichier sur %2, %3 sur %4")
+                       : tr("Copie\u00A0: %1 fichiers sur %2, %3 sur %4"))
             .arg(french.toString(static_cast<qulonglong>(now.files)),
                  french.toString(static_cast<qulonglong>(now.fileCount)),
                  french.formattedDataSize(static_cast<qint64>(now.bytes), 0, QLocale::DataSizeSIFormat),
