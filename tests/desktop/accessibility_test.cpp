@@ -91,7 +91,7 @@ QWidget* PressTab() {
   };
   for (int i = 0; i < (page || document ? MostLinks : 1); ++i) {
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    if (page ? QTest::qWaitFor(left, UntilPagePassesOn) : left()) break;
+    if (page ? WaitFor(left, UntilPagePassesOn) : left()) break;
   }
   return QApplication::focusWidget();
 }
@@ -223,8 +223,7 @@ class AccessibilityTest : public DesktopTest {
     FAIL() << ToUtf8(title);
   }
   bool PageStands() {
-    return QTest::qWaitFor([&] { return desktop->Pages().ReadyState() == DocumentBrowser::Complete; },
-                           Patience);
+    return WaitFor([&] { return desktop->Pages().ReadyState() == DocumentBrowser::Complete; }, Patience);
   }
 };
 
@@ -234,7 +233,7 @@ TEST_F(AccessibilityTest, TheHomePanelWithEachOfItsLevels) {
   for (const char16_t* title :
        {u"Rédiger un Curriculum Vitae", u"Rédiger un modèle de lettre", u"Gérer les candidatures"}) {
     ChooseRow(title);
-    QTest::qWait(300);
+    Wait(300);
     Walk(Main(), ToUtf8(title).c_str());
     ChooseRow(u"Retour au menu principal");
   }

@@ -19,6 +19,7 @@
 #include "desktop/platform/window_titles.h"
 #include "desktop/widgets/text_edge.h"
 #include "desktop/widgets/theme.h"
+#include "tests/desktop/waiting.h"
 #include "tests/fakes/scratch_folder.h"
 
 #ifdef TALVOR_XCB
@@ -57,7 +58,7 @@ TEST(DocumentsAdapter, ATargetReachesTheOpenerWholeAndIsReadByNoShell) {
   for (const TextView target :
        {u"/tmp/Mon CV d'été \"final\" $(touch piège) ; rm *.pdf", u"https://exemple.example/?a=b&c=d"}) {
     ASSERT_TRUE(QtDocuments().Open(target));
-    ASSERT_TRUE(QTest::qWaitFor([] { return fs::exists("reçu"); }));
+    ASSERT_TRUE(WaitFor([] { return fs::exists("reçu"); }));
     std::ifstream file("reçu");
     std::string count, argument;
     std::getline(file, count);
@@ -67,7 +68,7 @@ TEST(DocumentsAdapter, ATargetReachesTheOpenerWholeAndIsReadByNoShell) {
     fs::remove("reçu");
   }
   ASSERT_TRUE(QtDocuments().Open(u"--version.doc"));
-  ASSERT_TRUE(QTest::qWaitFor([] { return fs::exists("reçu"); }));
+  ASSERT_TRUE(WaitFor([] { return fs::exists("reçu"); }));
   std::ifstream file("reçu");
   std::string count, argument;
   file >> count >> argument;

@@ -38,10 +38,9 @@ class BrowserTest : public DesktopTest {
   }
   // The page has been loaded and rated, and the strip stands still.
   bool Settled() {
-    if (!QTest::qWaitFor([&] { return Pages().ReadyState() == DocumentBrowser::Complete; }, Patience))
-      return false;
-    QTest::qWait(50);  // the end of the load is told by an event of its own
-    return QTest::qWaitFor([&] { return !Web().Busy(); }, Patience);
+    if (!WaitFor([&] { return Pages().ReadyState() == DocumentBrowser::Complete; }, Patience)) return false;
+    Wait(50);  // the end of the load is told by an event of its own
+    return WaitFor([&] { return !Web().Busy(); }, Patience);
   }
   // What a script of the page itself answers.
   QString Inside(const QString& script) {
@@ -51,7 +50,7 @@ class BrowserTest : public DesktopTest {
       answer = value.toString();
       come = true;
     });
-    EXPECT_TRUE(QTest::qWaitFor([&] { return come; }, Patience));
+    EXPECT_TRUE(WaitFor([&] { return come; }, Patience));
     return answer;
   }
   QString Value(const QString& selector) {

@@ -56,18 +56,18 @@ class CvWindowTest : public DesktopTest {
       seen = text;
       answered = true;
     });
-    EXPECT_TRUE(QTest::qWaitFor([&] { return answered; }, Patience));
+    EXPECT_TRUE(WaitFor([&] { return answered; }, Patience));
     return seen;
   }
   bool SeesAtLast(const QString& text) {
-    return QTest::qWaitFor([&] { return Seen().contains(text); }, Patience);
+    return WaitFor([&] { return Seen().contains(text); }, Patience);
   }
   // Looks into frames as well.
   int Matches(const QString& text) {
     int matches = -1;
     Page().page()->findText(
         text, {}, [&](const QWebEngineFindTextResult& result) { matches = result.numberOfMatches(); });
-    EXPECT_TRUE(QTest::qWaitFor([&] { return matches >= 0; }, Patience));
+    EXPECT_TRUE(WaitFor([&] { return matches >= 0; }, Patience));
     return matches;
   }
 };
@@ -104,10 +104,10 @@ TEST_F(CvWindowTest, ARenderKeepsTheFocusTheCaretAndThePlaceOnThePage) {
   ASSERT_TRUE(SeesAtLast(QStringLiteral("2019 : poste")));
 
   auto* page = Page().page();
-  ASSERT_TRUE(QTest::qWaitFor([&] { return page->contentsSize().height() > 1500; }, Patience));
+  ASSERT_TRUE(WaitFor([&] { return page->contentsSize().height() > 1500; }, Patience));
   constexpr int Application = 1;  // a world of our own
   page->runJavaScript(QStringLiteral("window.scrollTo(0, 700)"), Application);
-  ASSERT_TRUE(QTest::qWaitFor([&] { return page->scrollPosition().y() > 300; }, Patience));
+  ASSERT_TRUE(WaitFor([&] { return page->scrollPosition().y() > 300; }, Patience));
   const double place = page->scrollPosition().y();
 
   TypeKeys(Find("Divers"), QStringLiteral("Chorale"));
@@ -116,7 +116,7 @@ TEST_F(CvWindowTest, ARenderKeepsTheFocusTheCaretAndThePlaceOnThePage) {
   ASSERT_TRUE(SeesAtLast(QStringLiteral("Chorale")));
   EXPECT_TRUE(Find("Etudes")->hasFocus());
   EXPECT_EQ(Find<QPlainTextEdit>("Etudes")->textCursor().position(), 7);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return std::abs(page->scrollPosition().y() - place) < 2; }, Patience))
+  EXPECT_TRUE(WaitFor([&] { return std::abs(page->scrollPosition().y() - place) < 2; }, Patience))
       << page->scrollPosition().y() << " instead of " << place;
   EXPECT_TRUE(Find("Etudes")->hasFocus());
 }
@@ -145,7 +145,7 @@ TEST_F(CvWindowTest, AHostileCvRunsNothingFetchesNothingAndReadsNoOtherFile) {
   desktop->Cv().OpenFile(u"Hostile.dat");
   ASSERT_TRUE(SeesAtLast(QStringLiteral("Chorale")));
   // The last frame has come, so those before it have had their turn.
-  ASSERT_TRUE(QTest::qWaitFor([&] { return Matches(QStringLiteral("fichier voisin")) == 1; }, Patience));
+  ASSERT_TRUE(WaitFor([&] { return Matches(QStringLiteral("fichier voisin")) == 1; }, Patience));
   EXPECT_EQ(Matches(QStringLiteral("root:")), 0);
   EXPECT_EQ(Matches(QStringLiteral("fichier secret")), 0);
   EXPECT_EQ(Matches(QStringLiteral("script lance")), 0);
@@ -258,16 +258,16 @@ TEST_F(CvWindowTest, ThePageIsPrintedAndPreviewedWithItsPhotoOnA4) {
   bool printed = false;
   QObject::connect(&Page(), &QWebEngineView::printFinished, [&](bool success) { printed = success; });
   print->trigger();
-  ASSERT_TRUE(QTest::qWaitFor([&] { return printed; }, Patience));
+  ASSERT_TRUE(WaitFor([&] { return printed; }, Patience));
   expectPhotoOnA4(QStringLiteral("papier.pdf"));
 
   menu->findChild<QAction*>(QStringLiteral("PrévisualiserCV"))->trigger();
   PrintPreviewWindow* preview = desktop->Cv().PreviewWindow();
   ASSERT_TRUE(preview != nullptr && preview->isVisible());
-  ASSERT_TRUE(QTest::qWaitFor([&] { return preview->IsComplete(); }, Patience));
+  ASSERT_TRUE(WaitFor([&] { return preview->IsComplete(); }, Patience));
   bool saved = false;
   preview->SavePdf(QStringLiteral("apercu.pdf"), [&](bool stands) { saved = stands; });
-  ASSERT_TRUE(QTest::qWaitFor([&] { return saved; }, Patience));
+  ASSERT_TRUE(WaitFor([&] { return saved; }, Patience));
   expectPhotoOnA4(QStringLiteral("apercu.pdf"));
   EXPECT_TRUE(read("pdftotext", {QStringLiteral("apercu.pdf"), QStringLiteral("-")}).contains("Licence"));
   EXPECT_EQ(dialogs.told.size(), 1u);
@@ -279,13 +279,13 @@ TEST_F(CvWindowTest, WhatIsTypedIsKeptWhenAnotherCvOpensAndWhenTheEditorCloses) 
   Type("Tel", QStringLiteral("0102030405"));
   // No key of the keyboard moves the focus; and the new file comes before the one that is opened.
   QTest::keyClick(&desktop->Main(), Qt::Key_1, Qt::ControlModifier);
-  ASSERT_TRUE(QTest::qWaitFor([&] { return Form().NomCV == u"Ancien"; }, Patience)) << ToUtf8(Form().NomCV);
+  ASSERT_TRUE(WaitFor([&] { return Form().NomCV == u"Ancien"; }, Patience)) << ToUtf8(Form().NomCV);
   EXPECT_NE(Bytes("CV/Aaron.dat").find("Tel=0102030405\r\n"), std::string::npos);
   EXPECT_EQ(Line("Nom"), QStringLiteral("Ancien"));
 
   Type("Ville", QStringLiteral("lyon"));
   QTest::keyClick(&desktop->Main(), Qt::Key_M, Qt::AltModifier);
-  ASSERT_TRUE(QTest::qWaitFor([&] { return desktop->Cv().Window() == nullptr; }, Patience));
+  ASSERT_TRUE(WaitFor([&] { return desktop->Cv().Window() == nullptr; }, Patience));
   EXPECT_NE(Bytes("CV/Ancien.dat").find("Ville=Lyon\r\n"), std::string::npos) << "left by its rule";
 
   desktop->Cv().OpenFile(u"Ancien.dat");
@@ -300,7 +300,7 @@ TEST_F(CvWindowTest, TheKeyOfAnEntryLeavesTheFieldThatIsTypedIn) {
   Type("Nom", QStringLiteral("Marchand"));
   Type("Etudes", QStringLiteral("Licence"));
   QTest::keyClick(&desktop->Main(), Qt::Key_P, Qt::AltModifier);
-  ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activePopupWidget() != nullptr; }, Patience));
+  ASSERT_TRUE(WaitFor([] { return QApplication::activePopupWidget() != nullptr; }, Patience));
   QApplication::activePopupWidget()->close();
   EXPECT_TRUE(SeesAtLast(QStringLiteral("Licence"))) << "what the menu prints is what was typed";
 }
@@ -320,18 +320,18 @@ TEST_F(CvWindowTest, APageIsPrintedToItsEndWhenTheEditorCloses) {
   desktop->Windows().Unload(EditorForm);
   EXPECT_EQ(desktop->Cv().Window(), nullptr);
   EXPECT_FALSE(printer.expired()) << "the page is on its way to it";
-  ASSERT_TRUE(QTest::qWaitFor([&] { return printer.expired(); }, Patience));
+  ASSERT_TRUE(WaitFor([&] { return printer.expired(); }, Patience));
   EXPECT_TRUE(ReadBytes("papier.pdf").value_or("").starts_with("%PDF"));
   EXPECT_TRUE(dialogs.told.empty());
 
   desktop->Cv().OpenFile(u"Ancien.dat");
   desktop->Cv().Preview();
   const QPointer<PrintPreviewWindow> preview = desktop->Cv().PreviewWindow();
-  ASSERT_TRUE(QTest::qWaitFor([&] { return preview->IsComplete(); }, Patience));
+  ASSERT_TRUE(WaitFor([&] { return preview->IsComplete(); }, Patience));
   bool saved = false;
   preview->SavePdf(QStringLiteral("apercu.pdf"), [&](bool stands) { saved = stands; });
   delete preview.data();
-  ASSERT_TRUE(QTest::qWaitFor([&] { return saved; }, Patience));
+  ASSERT_TRUE(WaitFor([&] { return saved; }, Patience));
   EXPECT_TRUE(ReadBytes("apercu.pdf").value_or("").starts_with("%PDF"));
 }
 

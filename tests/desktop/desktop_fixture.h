@@ -13,6 +13,7 @@
 #include "desktop/application.h"
 #include "desktop/desktop.h"
 #include "desktop/widgets/text_edge.h"
+#include "tests/desktop/waiting.h"
 #include "tests/fakes/fakes.h"
 #include "tests/fakes/file_fakes.h"
 #include "tests/fakes/scratch_folder.h"

@@ -25,7 +25,7 @@ TEST_F(FormCandWindowTest, APastedAdvertisementBecomesARowThatAgesWithTheCalenda
   QGuiApplication::clipboard()->setText(Advertisement);
   description->setFocus();
   description->paste();
-  ASSERT_TRUE(QTest::qWaitFor([&] { return !Line("Intitule").isEmpty(); }, Patience)) << "the paste watch";
+  ASSERT_TRUE(WaitFor([&] { return !Line("Intitule").isEmpty(); }, Patience)) << "the paste watch";
   EXPECT_EQ(Line("Email"), QStringLiteral("recrutement@acme.example"));
   EXPECT_EQ(Count(), 0) << "a paste saves nothing";
 
@@ -68,7 +68,7 @@ TEST_F(FormCandWindowTest, WhatIsTypedIsSavedByTheTimerAndDisturbsNothing) {
   caret.setPosition(4, QTextCursor::KeepAnchor);
   remarks->setTextCursor(caret);
 
-  ASSERT_TRUE(QTest::qWaitFor([&] { return Read(1).Remarques == u"un deux"; }, 2 * Patience));
+  ASSERT_TRUE(WaitFor([&] { return Read(1).Remarques == u"un deux"; }, 2 * Patience));
   EXPECT_EQ(bar->value(), 100) << "the tree keeps its place";
   EXPECT_FALSE(Tree().selectionModel()->hasSelection()) << "a rebuild selects nothing";
   EXPECT_EQ(remarks->textCursor().position(), 4);
@@ -149,18 +149,17 @@ TEST_F(FormCandWindowTest, TheKeyboardAloneDoesTheSameWork) {
   EXPECT_EQ(Line("Nature"), QStringLiteral("CDD,CONTRAT A DUREE DETERMINEE"));
   QTest::keyClick(window, Qt::Key_V, Qt::AltModifier);
   // A mnemonic presses its button for a moment before the click.
-  ASSERT_TRUE(QTest::qWaitFor([&] { return Count() == 1; }, Patience));
+  ASSERT_TRUE(WaitFor([&] { return Count() == 1; }, Patience));
 
   QTest::keyClick(window, Qt::Key_N, Qt::AltModifier);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return Line("Intitule").isEmpty(); }, Patience));
+  EXPECT_TRUE(WaitFor([&] { return Line("Intitule").isEmpty(); }, Patience));
   Tree().setFocus();
   QTest::keyClick(&Tree(), Qt::Key_Home);
   QTest::keyClick(&Tree(), Qt::Key_Down);
   QTest::keyClick(&Tree(), Qt::Key_Return);
   EXPECT_EQ(Line("Intitule"), QStringLiteral("Maçon"));
   QTest::keyClick(window, Qt::Key_C, Qt::AltModifier);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return Rows()[0] == QStringLiteral("N.C."); }, Patience))
-      << "sorted by company";
+  EXPECT_TRUE(WaitFor([&] { return Rows()[0] == QStringLiteral("N.C."); }, Patience)) << "sorted by company";
   Tree().setFocus();
   QTest::keyClick(&Tree(), Qt::Key_Delete);
   EXPECT_EQ(Count(), 0);
@@ -175,9 +174,9 @@ TEST_F(FormCandWindowTest, TheBrowserPaneComesAndGoesWithTheModel) {
   EXPECT_TRUE(pane->isVisible());
   EXPECT_TRUE(Find<QPushButton>("Action4")->isChecked());
   EXPECT_EQ(Line("AdresseWeb"), ToQt(desktop->Model().AdresseWeb));
-  EXPECT_TRUE(QTest::qWaitFor(
-      [&] { return Find<QWebEngineView>("WebBrowser1")->url().scheme() == QStringLiteral("data"); },
-      4 * Patience));
+  EXPECT_TRUE(
+      WaitFor([&] { return Find<QWebEngineView>("WebBrowser1")->url().scheme() == QStringLiteral("data"); },
+              4 * Patience));
   ClickLeaf(u"s1");
   EXPECT_FALSE(pane->isVisible()) << "a row opened hides the pane";
 }
@@ -186,10 +185,10 @@ TEST_F(FormCandWindowTest, TheStartPageNeedsNoNetworkAndListsTheSites) {
   Click("Action4");
   auto* view = Find<QWebEngineView>("WebBrowser1");
   QString text;
-  EXPECT_TRUE(QTest::qWaitFor(
+  EXPECT_TRUE(WaitFor(
       [&] {
         view->page()->toPlainText([&](const QString& answer) { text = answer; });
-        QTest::qWait(50);
+        Wait(50);
         return text.contains(QStringLiteral("Sites d’emploi")) &&
                text.contains(QStringLiteral("YAKE OFREMPLOI"));
       },

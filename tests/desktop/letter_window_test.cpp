@@ -52,7 +52,7 @@ class LetterWindowTest : public DesktopTest {
     std::ifstream file(Folder() / "Lettres" / name, std::ios::binary);
     return (std::ostringstream() << file.rdbuf()).str();
   }
-  bool Waits(const std::function<bool()>& condition) { return QTest::qWaitFor(condition, Patience); }
+  bool Waits(const std::function<bool()>& condition) { return WaitFor(condition, Patience); }
 };
 
 TEST_F(LetterWindowTest, ANewLetterFromACvIsWalkedThroughAndSavesItself) {

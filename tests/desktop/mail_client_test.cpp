@@ -14,6 +14,7 @@
 #include "base/line_file.h"
 #include "desktop/widgets/text_edge.h"
 #include "sending/mail.h"
+#include "tests/desktop/waiting.h"
 #include "tests/fakes/fakes.h"
 #include "tests/fakes/scratch_folder.h"
 
@@ -211,8 +212,7 @@ TEST_F(MailClientTest, ThunderbirdIsGivenOnlyPathsThatItsListCanHold) {
 
   const Text plain = File(u"CV.pdf");
   EXPECT_TRUE(Send(u"a@b.fr", u"L'objet, ici", u"Texte", plain));
-  EXPECT_NE(ReadBytes("reçu").value_or("").find("attachment='" + ToUtf8(plain) + "'"),
-            std::string::npos)
+  EXPECT_NE(ReadBytes("reçu").value_or("").find("attachment='" + ToUtf8(plain) + "'"), std::string::npos)
       << ReadBytes("reçu").value_or("");
   fs::remove("reçu");
   for (const TextView name : {u"CV d'été.pdf", u"Dupont, Marie.pdf"}) {
@@ -232,7 +232,7 @@ TEST_F(MailClientTest, AClientThatStaysInFrontHasTheMessageAndALeftOneGoesWithTh
   EXPECT_TRUE(Send(u"a@b.fr", u"Objet", u"Texte"));
   EXPECT_EQ(client.LeftMessage(), u"");
   EXPECT_FALSE(fs::exists("fini"));
-  EXPECT_TRUE(QTest::qWaitFor([] { return fs::exists("fini"); }, 20000)) << "the client was ended";
+  EXPECT_TRUE(WaitFor([] { return fs::exists("fini"); }, 20000)) << "the client was ended";
 }
 
 }  // namespace

@@ -63,7 +63,7 @@ TEST_F(MainWindowTest, WhatIsTypedInARowIsSavedBeforeMenuOrTheEndClosesItsForm) 
   SaveRow(QStringLiteral("Maçon"));
   Type("Ville", QStringLiteral("Lyon"));
   QTest::keyClick(&desktop->Main(), Qt::Key_M, Qt::AltModifier);
-  ASSERT_TRUE(QTest::qWaitFor([&] { return desktop->CandidatureWindow() == nullptr; }, 5000));
+  ASSERT_TRUE(WaitFor([&] { return desktop->CandidatureWindow() == nullptr; }, 5000));
   EXPECT_EQ(Read(1).Ville, u"Lyon") << "before the next tick of its timer";
 
   desktop->Windows().Show(u"FormCand");
@@ -128,7 +128,7 @@ TEST_F(MainWindowTest, ADamagedDatabaseIsReportedWithItsFileAndItsCause) {
   SaveRow(QStringLiteral("Maçon"));
   std::ofstream(scratch.Path() / "Talvor" / "Talvor.mdb") << "ceci n'est pas une base de données, loin de là";
   Type("Ville", QStringLiteral("Lyon"));
-  ASSERT_TRUE(QTest::qWaitFor([&] { return !failures.empty(); }, 6000)) << "the save of the timer";
+  ASSERT_TRUE(WaitFor([&] { return !failures.empty(); }, 6000)) << "the save of the timer";
   EXPECT_NE(failures[0].find("Talvor.mdb"), std::string::npos);
   EXPECT_EQ(failures[0].find("exception"), std::string::npos) << failures[0];
 }

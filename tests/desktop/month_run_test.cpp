@@ -223,7 +223,7 @@ class MonthRunTest : public BrowserTest {
   void WriteCv(const char* trade) {
     desktop->Windows().Unload(u"FormCand");
     desktop->Windows().Unload(EditorForm);
-    QTest::qWait(1);  // the windows are gone with the events that are left
+    Wait(1);  // the windows are gone with the events that are left
     QApplication::setActiveWindow(&desktop->Main());
     desktop->Cv().OpenNew();
     Click("SaiseDetaillee");
@@ -252,7 +252,7 @@ class MonthRunTest : public BrowserTest {
     const Advertisement& ad = Advertisements[index];
     if (ad.way == Way::Paste) {
       Click("Action0");
-      ASSERT_TRUE(QTest::qWaitFor([&] { return Pages().LocationURL() == BlankPage; }, Patience));
+      ASSERT_TRUE(WaitFor([&] { return Pages().LocationURL() == BlankPage; }, Patience));
       QGuiApplication::clipboard()->setText(Written(ad));
       Find<QPlainTextEdit>("Description")->paste();
       Window().Tick500();
@@ -265,11 +265,11 @@ class MonthRunTest : public BrowserTest {
     Browse(page);
     ASSERT_TRUE(Settled());
     if (ad.way == Way::Late || page == QStringLiteral("moderne.htm")) {
-      ASSERT_TRUE(QTest::qWaitFor([&] { return Pages().View()->title() == QStringLiteral("Offre affichée"); },
-                                  Patience));
+      ASSERT_TRUE(
+          WaitFor([&] { return Pages().View()->title() == QStringLiteral("Offre affichée"); }, Patience));
     }
     ClickLink("CaptureSel");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !Web().Busy(); }, Patience));
+    ASSERT_TRUE(WaitFor([&] { return !Web().Busy(); }, Patience));
   }
   void Apply(const Application& application) {
     OpenRow(application.row);
@@ -323,7 +323,7 @@ class MonthRunTest : public BrowserTest {
       text = answer;
       come = true;
     });
-    EXPECT_TRUE(QTest::qWaitFor([&] { return come; }, Patience));
+    EXPECT_TRUE(WaitFor([&] { return come; }, Patience));
     desktop->Preview().Window()->close();
     return text;
   }

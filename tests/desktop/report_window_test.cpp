@@ -28,7 +28,7 @@ class ReportWindowTest : public DesktopTest {
       text = answer;
       come = true;
     });
-    EXPECT_TRUE(QTest::qWaitFor([&] { return come; }, 20000));
+    EXPECT_TRUE(WaitFor([&] { return come; }, 20000));
     return text;
   }
 };
@@ -46,7 +46,7 @@ TEST_F(ReportWindowTest, TheListIsPreviewedAndItsPdfHoldsTheRows) {
     saved = stands;
     done = true;
   });
-  ASSERT_TRUE(QTest::qWaitFor([&] { return done; }, 30000));
+  ASSERT_TRUE(WaitFor([&] { return done; }, 30000));
   ASSERT_TRUE(saved);
   QProcess reader;
   reader.start(QStringLiteral("pdftotext"), {QStringLiteral("liste.pdf"), QStringLiteral("-")});
@@ -69,7 +69,7 @@ TEST_F(ReportWindowTest, AHostileRowReachesNeitherScriptsNorNetworkNorDisk) {
           .Reference = u"<meta http-equiv=refresh content=\"0;url=" + address + u"\">",
           .Statut = u"<body onload=\"location='" + address + u"'\">reste"});
   Click("Image7");
-  QTest::qWait(500);  // what was to go out would have gone by now
+  Wait(500);  // what was to go out would have gone by now
   const QString text = PageText();
   EXPECT_TRUE(text.contains(QStringLiteral("Liste des candidatures"))) << text.toStdString();
   EXPECT_TRUE(text.contains(QStringLiteral("reste")));
@@ -88,7 +88,7 @@ TEST_F(ReportWindowTest, TheStatisticsShowTheRowsAsTheyStandAtOpening) {
                     ->text()
                     .startsWith(QStringLiteral("Entretien avec la société Acme <b> le 17/03/2026")));
     QTest::mouseClick(window->findChild<QPushButton*>(QStringLiteral("BoutonTLV1")), Qt::LeftButton);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return desktop->Windows().WindowOf(u"FormStat") == nullptr; }));
+    EXPECT_TRUE(WaitFor([&] { return desktop->Windows().WindowOf(u"FormStat") == nullptr; }));
     Insert({.Statut = Text{ListeStatutsComptes[2]}});
   }
 }

@@ -107,7 +107,7 @@ TEST_F(SendingWindowTest, ASendMarksTheCandidatureOnlyOnceTheClientHasTheMessage
   QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(0)).center());
   EXPECT_FALSE(list->isVisible());
   EXPECT_EQ(FromQt(Field("PJ")), *TextOf(scratch.Path() / "Documents" / "cv.pdf"));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return IsFit("Ok4"); }, 3000)) << "the timer does not run";
+  EXPECT_TRUE(WaitFor([&] { return IsFit("Ok4"); }, 3000)) << "the timer does not run";
   for (const char* mark : {"Ok0", "Ok1", "Ok2", "Ok3"}) EXPECT_TRUE(IsFit(mark)) << mark;
 
   Client("exit 1");
@@ -194,7 +194,7 @@ class ConvertWindowTest : public SendingWindowTest {
 
   fs::path Converted(const char* name) { return scratch.Path() / "Documents" / name; }
   bool Opened(const fs::path& file) {
-    return QTest::qWaitFor(
+    return WaitFor(
         [&] { return ReadBytes("ouverts").value_or("").find(file.string() + "\n") != std::string::npos; },
         5000);
   }

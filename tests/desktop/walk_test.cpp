@@ -71,7 +71,7 @@ class WalkTest : public DesktopTest {
     else
       QTest::mouseClick(&Slot(slot), Qt::LeftButton);
     const auto open = [] { return qobject_cast<QMenu*>(QApplication::activePopupWidget()); };
-    EXPECT_TRUE(QTest::qWaitFor([&] { return open() != nullptr; }, Patience));
+    EXPECT_TRUE(WaitFor([&] { return open() != nullptr; }, Patience));
     return open();
   }
   void ChooseItem(std::size_t slot, const char16_t* item, bool byKeyboard = false) {
@@ -115,7 +115,7 @@ TEST_F(WalkTest, TheHomePanelLeadsEverywhereAndBack) {
     }
   for (const bool byKeyboard : {false, true}) {
     Choose({u"Gérer les candidatures", u"Justificatif de recherche d'emploi"}, byKeyboard);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return desktop->Preview().Window() != nullptr; }, Patience));
+    ASSERT_TRUE(WaitFor([&] { return desktop->Preview().Window() != nullptr; }, Patience));
     desktop->Preview().Window()->close();
     Choose({u"Retour au menu principal"}, byKeyboard);
   }
@@ -166,7 +166,7 @@ TEST_F(WalkTest, TheMenusOfTheSlotsDoTheirWork) {
   ChooseItem(5, u"MenuSupprimerLettre");
   EXPECT_FALSE(Stands("Lettres/Copie de l (ER).dat"));
   ChooseItem(10, u"MenuImprimerListe");
-  ASSERT_TRUE(QTest::qWaitFor([&] { return desktop->Preview().Window() != nullptr; }, Patience));
+  ASSERT_TRUE(WaitFor([&] { return desktop->Preview().Window() != nullptr; }, Patience));
   desktop->Preview().Window()->close();
   ChooseItem(10, u"MenuSupprimer");
   EXPECT_EQ(Count(), 0);
@@ -205,7 +205,7 @@ TEST_F(WalkTest, ASlotTellsAClickFromADoubleClickAndHasKeysOfItsOwn) {
   EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << "a second click may follow";
   QTest::mouseDClick(&Slot(0), Qt::LeftButton);
   EXPECT_TRUE(Visible(u"FormRédigerCV"));
-  QTest::qWait(QApplication::doubleClickInterval());
+  Wait(QApplication::doubleClickInterval());
   EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
 
   Home();
@@ -222,7 +222,7 @@ TEST_F(WalkTest, ASlotTellsAClickFromADoubleClickAndHasKeysOfItsOwn) {
   EXPECT_EQ(dialogs.asked.size(), asked) << "a free slot has nothing to delete";
 
   QTest::keyClick(&desktop->Main(), Qt::Key_6, Qt::ControlModifier);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return Visible(u"FormLettre"); }, Patience));
+  EXPECT_TRUE(WaitFor([&] { return Visible(u"FormLettre"); }, Patience));
 }
 
 TEST_F(WalkTest, ARefusedRenamingIsReportedAndTheTypedLetterIsOnTheDisk) {
@@ -240,7 +240,7 @@ TEST_F(WalkTest, TheDataGoesOutAndComesBackThroughTheWindowOfTheBackup) {
   const auto key = scratch.Path() / "clé";
   std::filesystem::create_directory(key);
   QTest::keyClick(&desktop->Main(), Qt::Key_U, Qt::AltModifier);
-  ASSERT_TRUE(QTest::qWaitFor([&] { return Visible(u"FormLoadSave"); }, Patience));
+  ASSERT_TRUE(WaitFor([&] { return Visible(u"FormLoadSave"); }, Patience));
   pickers.file = key / "Talvor.mdb";
   QTest::mouseClick(Window(u"FormLoadSave")->findChild<QWidget*>(QStringLiteral("Sauver")), Qt::LeftButton);
   EXPECT_EQ(dialogs.told.back(), u"Sauvegarde effectuée");
@@ -279,7 +279,7 @@ TEST_F(WalkTest, ACopyShowsHowFarItIsAndIsStoppedFromItsWindow) {
     seen = true;
     EXPECT_TRUE(window->findChild<QLabel*>(QStringLiteral("Avancement"))
                     ->text()
-                    .contains(QStringLiteral("fichiers sur")));
+                    .contains(QStringLiteral("Copie\u00A0: 0 fichier sur")));
     EXPECT_FALSE(window->findChild<QWidget*>(QStringLiteral("Nouvel"))->isEnabled());
     window->close();
     EXPECT_TRUE(window->isVisible()) << "the window stays for the report";
@@ -321,12 +321,10 @@ TEST_F(WalkTest, TheAssistantStandsBesideTheHomePanelAndGivesWayToTheEditor) {
   Choose({u"Rédiger un Curriculum Vitae"}, false);
   Click("Label2");
   EXPECT_NE(Row(u"Réaliser un nouveau CV"), nullptr) << "beside the panel it keeps the menu from acting";
-  EXPECT_TRUE(
-      QTest::qWaitFor([&] { return row->parentWidget()->layout()->contentsMargins().left() == 0; }, 500))
+  EXPECT_TRUE(WaitFor([&] { return row->parentWidget()->layout()->contentsMargins().left() == 0; }, 500))
       << "the rows are in their place at once";
   Choose({u"Réaliser un nouveau CV"}, false);
-  EXPECT_TRUE(
-      QTest::qWaitFor([&] { return desktop->Windows().WindowOf(u"Assistant") == nullptr; }, Patience));
+  EXPECT_TRUE(WaitFor([&] { return desktop->Windows().WindowOf(u"Assistant") == nullptr; }, Patience));
 }
 
 }  // namespace

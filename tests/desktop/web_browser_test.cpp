@@ -42,7 +42,7 @@ TEST_F(BrowserTest, ASelectionIsCapturedWhereverTheFocusHasGone) {
   Browse(QStringLiteral("tableau.htm"));
   ASSERT_TRUE(Settled());
   Inside(QStringLiteral("getSelection().selectAllChildren(document.getElementById('profil'))"));
-  ASSERT_TRUE(QTest::qWaitFor([&] { return Pages().View()->hasSelection(); }, Patience));
+  ASSERT_TRUE(WaitFor([&] { return Pages().View()->hasSelection(); }, Patience));
   ClickLink("CaptureSel");
   EXPECT_EQ(dialogs.told, std::vector<Text>{Text{messages::NotIdentified}}) << "the selection holds no title";
   EXPECT_EQ(Count(), 0);
@@ -51,7 +51,7 @@ TEST_F(BrowserTest, ASelectionIsCapturedWhereverTheFocusHasGone) {
   // Behind a notice the selection is out of the user's sight.
   Inside(QStringLiteral("getSelection().selectAllChildren(document.body)"));
   Browse(QStringLiteral("file:///etc/passwd"));
-  ASSERT_TRUE(QTest::qWaitFor([&] { return InPane("AvisPage")->isVisible(); }, Patience));
+  ASSERT_TRUE(WaitFor([&] { return InPane("AvisPage")->isVisible(); }, Patience));
   ASSERT_TRUE(Pages().View()->hasSelection());
   ClickLink("CaptureSel");
   EXPECT_EQ(Count(), 0);
@@ -62,22 +62,21 @@ TEST_F(BrowserTest, TheAddressIsNotTakenAwayWhileItHandlesItsKey) {
       "<p>Boucle</p><script>onload = () => setTimeout(() => { for (;;); }, 2500)</script>";
   Browse(QStringLiteral("boucle.htm"));
   ASSERT_TRUE(Settled());
-  QTest::qWait(2500);
+  Wait(2500);
   // The page does not answer, and the form is closed while it is asked.
   const QPointer<QLineEdit> address(InPane<QLineEdit>("AdresseWeb"));
   QTimer::singleShot(300, &desktop->Main(), [&] { desktop->Windows().Unload(u"FormCand"); });
   QTest::keyClick(address, Qt::Key_Return);
   EXPECT_TRUE(address) << "gone under its own event";
-  EXPECT_TRUE(QTest::qWaitFor([&] { return !address; }, Patience));
-  QTest::qWait(2000);
+  EXPECT_TRUE(WaitFor([&] { return !address; }, Patience));
+  Wait(2000);
   EXPECT_TRUE(failures.empty());
 }
 
 TEST_F(BrowserTest, APageThatFillsItselfIsCapturedAsItStands) {
   Browse(QStringLiteral("moderne.htm"));
   ASSERT_TRUE(Settled());
-  ASSERT_TRUE(
-      QTest::qWaitFor([&] { return Pages().View()->title() == QStringLiteral("Offre affichée"); }, Patience));
+  ASSERT_TRUE(WaitFor([&] { return Pages().View()->title() == QStringLiteral("Offre affichée"); }, Patience));
   ClickLink("CaptureSel");
   ASSERT_EQ(Count(), 1);
   EXPECT_TRUE(Contains(Read(1).Intitule, u"Infirmier"));
@@ -94,7 +93,7 @@ TEST_F(BrowserTest, AListOfAdvertisementsScoresLowAndClosesTheStrip) {
   EXPECT_EQ(InPane<QProgressBar>("Niveau")->value(), 0);
   EXPECT_FALSE(InPane("FrameWeb")->isVisible());
   QTest::mouseClick(InPane<QToolButton>("Précédent"), Qt::LeftButton);
-  ASSERT_TRUE(QTest::qWaitFor(
+  ASSERT_TRUE(WaitFor(
       [&] { return Line("AdresseWeb").endsWith(QStringLiteral("tableau.htm")) && !Web().Busy(); }, Patience));
   EXPECT_TRUE(InPane("FrameWeb")->isVisible());
 }
@@ -107,8 +106,8 @@ TEST_F(BrowserTest, TheDetailsOfTheCompanyComeFromItsOwnPage) {
   EXPECT_TRUE(site.asked.contains(QStringLiteral("apec.fr/MesOffres/coord.htm")));
   EXPECT_EQ(Read(1).CP, u"69002");
   EXPECT_TRUE(Contains(Read(1).Description, u"12 rue Haute"));
-  EXPECT_TRUE(QTest::qWaitFor(
-      [&] { return Line("AdresseWeb").endsWith(QStringLiteral("12.htm")) && !Web().Busy(); }, Patience))
+  EXPECT_TRUE(WaitFor([&] { return Line("AdresseWeb").endsWith(QStringLiteral("12.htm")) && !Web().Busy(); },
+                      Patience))
       << "back on the advertisement";
 }
 
@@ -177,7 +176,7 @@ TEST_F(BrowserTest, AFormThatAFrameworkRulesTakesTheValues) {
   ASSERT_TRUE(Settled());
   FillFrom(*desktop, Pane());
   const auto state = [&] { return Inside(QStringLiteral("document.getElementById('etat').textContent")); };
-  EXPECT_TRUE(QTest::qWaitFor(
+  EXPECT_TRUE(WaitFor(
       [&] {
         return state() == QStringLiteral(R"({"nom":"Durand","message":"","ville":"69","secret":"secret"})");
       },
@@ -206,7 +205,7 @@ TEST_F(BrowserTest, AHostilePageReachesNothingAndLeavesTheProgramUsable) {
   EXPECT_FALSE(site.asked.contains(QStringLiteral("tableau.htm"))) << "no window without a click";
   EXPECT_FALSE(Contains(Pages().BodyText(DocumentBrowser::Whole), u"root:"));
   const auto notice = [&] { return Inside(QStringLiteral("document.getElementById('avis').textContent")); };
-  EXPECT_TRUE(QTest::qWaitFor([&] { return notice().count(QLatin1Char(' ')) == 6; }, Patience));
+  EXPECT_TRUE(WaitFor([&] { return notice().count(QLatin1Char(' ')) == 6; }, Patience));
   EXPECT_TRUE(notice().contains(QStringLiteral("avis denied"))) << notice().toStdString();
   EXPECT_TRUE(notice().contains(QStringLiteral("position 1"))) << notice().toStdString();
   EXPECT_FALSE(notice().contains(QStringLiteral("micro donné"))) << notice().toStdString();
@@ -227,7 +226,7 @@ TEST_F(BrowserTest, AHostilePageReachesNothingAndLeavesTheProgramUsable) {
 TEST_F(BrowserTest, BoxesWithoutEndAreCutShort) {
   Browse(QStringLiteral("messages.htm"));
   auto* notice = InPane<QLabel>("AvisPage");
-  ASSERT_TRUE(QTest::qWaitFor([&] { return notice->isVisible(); }, Patience));
+  ASSERT_TRUE(WaitFor([&] { return notice->isVisible(); }, Patience));
   EXPECT_TRUE(notice->text().contains(QStringLiteral("messages sans fin")));
   EXPECT_EQ(dialogs.told.size(), 3u);
   EXPECT_TRUE(Contains(dialogs.told.at(0), u"Vous avez gagné"));
@@ -244,7 +243,7 @@ TEST_F(BrowserTest, ACrashOfThePageIsToldAndThePageComesBack) {
   const qint64 process = Pages().View()->page()->renderProcessPid();
   ASSERT_GT(process, 0);
   ::kill(static_cast<pid_t>(process), SIGKILL);
-  ASSERT_TRUE(QTest::qWaitFor([&] { return InPane("AvisPage")->isVisible(); }, Patience));
+  ASSERT_TRUE(WaitFor([&] { return InPane("AvisPage")->isVisible(); }, Patience));
   EXPECT_EQ(Line("Intitule"), QStringLiteral("En cours"));
   EXPECT_EQ(Pages().BodyText(5), u"") << "a page that is gone does not hold the program up";
   QTest::mouseClick(InPane<QPushButton>("Recharger"), Qt::LeftButton);
@@ -259,7 +258,7 @@ TEST_F(BrowserTest, APageWhoseScriptNeverRestsIsLeftForAnotherOfItsSite) {
       "}, 200)</script>";
   Browse(QStringLiteral("boucle.htm"));
   ASSERT_TRUE(Settled());
-  QTest::qWait(300);
+  Wait(300);
   ClickLink("CaptureSel");
   ASSERT_EQ(dialogs.told.size(), 1u) << "the capture gives up";
   Browse(QStringLiteral("tableau.htm"));
@@ -351,8 +350,8 @@ TEST_F(BrowserTest, ALinkToANewWindowOpensInThePane) {
   const QPoint at(static_cast<int>(place.section(QLatin1Char(','), 0, 0).toDouble()),
                   static_cast<int>(place.section(QLatin1Char(','), 1).toDouble()));
   QTest::mouseClick(Pages().View()->focusProxy(), Qt::LeftButton, {}, at);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return Line("AdresseWeb").endsWith(QStringLiteral("formulaire.htm")); },
-                              Patience));
+  EXPECT_TRUE(
+      WaitFor([&] { return Line("AdresseWeb").endsWith(QStringLiteral("formulaire.htm")); }, Patience));
 }
 
 TEST_F(BrowserTest, ADownloadGoesWhereTheUserSays) {
@@ -366,12 +365,12 @@ TEST_F(BrowserTest, ADownloadGoesWhereTheUserSays) {
     return answer;
   };
   Browse(QStringLiteral("document.bin"));
-  ASSERT_TRUE(QTest::qWaitFor([&] { return !proposed.isEmpty(); }, Patience));
+  ASSERT_TRUE(WaitFor([&] { return !proposed.isEmpty(); }, Patience));
   EXPECT_EQ(proposed, QStringLiteral("annonce.bin"));
   answer = target;
   proposed.clear();
   Browse(QStringLiteral("document.bin"));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return QFileInfo(target).size() == 7; }, Patience));
+  EXPECT_TRUE(WaitFor([&] { return QFileInfo(target).size() == 7; }, Patience));
   ASSERT_TRUE(Settled());
   EXPECT_FALSE(InPane("AvisPage")->isVisible()) << "the page stays";
   EXPECT_EQ(Pages().BodyText(12), u"EMPLOI-LOIRE");
@@ -388,7 +387,7 @@ TEST_F(BrowserTest, RatingAHugePageDoesNotHoldTheInterfaceUp) {
   while (text.size() < 10'000'000) text += "<p>offre de contrat, lieu et salaire du poste à pourvoir</p>\n";
   site.pages[QStringLiteral("enorme.htm")] = text;
   Browse(QStringLiteral("enorme.htm"));
-  ASSERT_TRUE(QTest::qWaitFor([&] { return Pages().ReadyState() == DocumentBrowser::Complete; }, 60'000));
+  ASSERT_TRUE(WaitFor([&] { return Pages().ReadyState() == DocumentBrowser::Complete; }, 60'000));
   // The work of this thread between two events, whatever else the machine is busy with.
   qint64 longest = 0;
   qint64 last = ThreadMilliseconds();
