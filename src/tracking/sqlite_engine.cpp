@@ -87,9 +87,16 @@ void RegisterCollation(SQLite::Database& connection) {
                                                 Collate, nullptr));
 }
 
-void PrepareConnection(SQLite::Database& connection, const Clock& clock) {
+void RestrictConnection(SQLite::Database& connection) {
   connection.setBusyTimeout(BusyMilliseconds);
-  RegisterCollation(connection);
+  constexpr int Off = 0;
+  for (const int freedom :
+       {SQLITE_DBCONFIG_ENABLE_TRIGGER, SQLITE_DBCONFIG_ENABLE_VIEW, SQLITE_DBCONFIG_TRUSTED_SCHEMA})
+    Check(connection, sqlite3_db_config(connection.getHandle(), freedom, Off, nullptr));
+  Check(connection, sqlite3_db_config(connection.getHandle(), SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr));
+}
+
+void PrepareConnection(SQLite::Database& connection, const Clock& clock) {
   // SQLite hands the pointer back as it got it, and AnswerToday only reads through it.
   void* const user = const_cast<Clock*>(&clock);
   Check(connection, sqlite3_create_function_v2(connection.getHandle(), "date", 0, SQLITE_UTF8, user,
