@@ -26,6 +26,7 @@ Application::Application(int& argc, char** argv) : QApplication(WithSchemes(argc
   QLocale::setDefault(locale);
   if (french_.load(QStringLiteral("qtbase_fr"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
     installTranslator(&french_);
+  installTranslator(&leftOut_);
 }
 
 bool Application::notify(QObject* receiver, QEvent* event) {

@@ -5,6 +5,8 @@
 #include <QTranslator>
 #include <functional>
 
+#include "desktop/french_texts.h"
+
 namespace talvor {
 
 class Application : public QApplication {
@@ -19,6 +21,7 @@ class Application : public QApplication {
 
  private:
   QTranslator french_;
+  FrenchTexts leftOut_;
 };
 
 }  // namespace talvor

@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QPlainTextEdit>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <array>
 #include <cstdlib>
 #include <fstream>
@@ -14,6 +15,7 @@
 #include "cv/cv_file.h"
 #include "desktop/application.h"
 #include "desktop/desktop.h"
+#include "desktop/platform/file_dialog.h"
 #include "desktop/platform/qt_dialogs.h"
 #include "desktop/shell/about_box.h"
 #include "desktop/shell/backup_window.h"
@@ -321,6 +323,14 @@ void PhotographSmallForms(Desktop& desktop, const Theme& theme, Photographer pho
     photographer.Take(name, shown);
     shown->close();
   }
+  QTimer::singleShot(0, &desktop.Main(), [&photographer] {
+    auto* files = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    files->setViewMode(QFileDialog::Detail);
+    photographer.Take(u"fichiers", files);
+    files->reject();
+  });
+  static_cast<void>(AskForFile(&desktop.Main(), QFileDialog::AcceptOpen, QStringLiteral("Fichiers"),
+                               QDir::currentPath(), QStringLiteral("Tous les fichiers (*)")));
   AboutBox about(theme, nullptr);
   photographer.Take(u"a-propos", &about);
   UserGuideWindow guide(theme, nullptr);

@@ -7,8 +7,12 @@
 #include <QColorDialog>
 #include <QFileDialog>
 #include <QImage>
+#include <QLineEdit>
 #include <QProcess>
+#include <QSet>
 #include <QTimer>
+#include <QToolButton>
+#include <QTreeView>
 #include <QtTest/QTest>
 #include <cmath>
 #include <fstream>
@@ -186,6 +190,14 @@ TEST(Pickers, AFileIsPickedAmongItsKindsAndTheCurrentFolderStays) {
   EXPECT_FALSE(pickers.OpenFile(question));
   EXPECT_EQ(fs::current_path(), scratch.Path());
 
+  Once<QFileDialog>([](QFileDialog& dialog) {
+    EXPECT_EQ(QFileInfo(dialog.directory().path()).fileName(), QStringLiteral("Photos"));
+    EXPECT_EQ(dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->text(), QString())
+        << "a missing folder is no name of a file";
+    dialog.reject();
+  });
+  EXPECT_FALSE(pickers.OpenFile({u"Photo", scratch.Path() / "Photos/2019/Été", u"Tous (*.*)|*.*"}));
+
   Once<QColorDialog>([](QColorDialog& dialog) {
     dialog.setCurrentColor(QColor(1, 128, 255));
     dialog.accept();
@@ -193,6 +205,45 @@ TEST(Pickers, AFileIsPickedAmongItsKindsAndTheCurrentFolderStays) {
   EXPECT_EQ(pickers.PickColour(), (Colour{1, 128, 255}));
   Once<QColorDialog>([](QColorDialog& dialog) { dialog.reject(); });
   EXPECT_FALSE(pickers.PickColour());
+}
+
+// The column of a list of files, row by row, as it is written.
+QStringList Column(const QAbstractItemModel& files, const QModelIndex& folder, int column) {
+  QStringList texts;
+  for (int row = 0; row < files.rowCount(folder); ++row)
+    texts.append(files.index(row, column, folder).data().toString());
+  return texts;
+}
+
+TEST(Pickers, TheDialogsOfQtSpeakFrenchAndShowTheirSigns) {
+  Theme theme;
+  theme.Apply(Theme::Palette::Light);
+  const ScratchFolder scratch;
+  fs::create_directory("Février");
+  std::ofstream("lettre.txt") << std::string(3000, 'x');
+  QFile file(QStringLiteral("lettre.txt"));
+  ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+  ASSERT_TRUE(file.setFileTime(QDateTime({2026, 2, 3}, {14, 5}), QFileDevice::FileModificationTime));
+  file.close();
+  Once<QFileDialog>([](QFileDialog& dialog) {
+    dialog.setViewMode(QFileDialog::Detail);
+    auto* list = dialog.findChild<QTreeView*>();
+    const auto column = [&](int index) {
+      return Column(*list->model(), list->rootIndex(), index).join(u'|');
+    };
+    EXPECT_TRUE(WaitFor([&] { return column(3).contains(QStringLiteral("03/02/2026 14:05")); }))
+        << column(3).toStdString();
+    EXPECT_TRUE(column(1).contains(QStringLiteral("2,93 Kio"))) << column(1).toStdString();
+    EXPECT_TRUE(column(2).contains(QStringLiteral("Dossier"))) << column(2).toStdString();
+
+    const QImage up = dialog.findChild<QToolButton*>(QStringLiteral("toParentButton"))->grab().toImage();
+    QSet<QRgb> colours;
+    for (int y = 6; y < up.height() - 6; ++y)
+      for (int x = 6; x < up.width() - 6; ++x) colours.insert(up.pixel(x, y));
+    EXPECT_GT(colours.size(), 1) << "an empty button";
+    dialog.reject();
+  });
+  EXPECT_FALSE(QtPickers().OpenFile({u"Fichiers", scratch.Path(), u"Tous (*)|*"}));
 }
 
 // The contrast of two colours as the accessibility guidelines of the web reckon it, 1 to 21.

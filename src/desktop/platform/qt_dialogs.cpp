@@ -1,11 +1,13 @@
 #include "desktop/platform/qt_dialogs.h"
 
 #include <QColorDialog>
-#include <QFileDialog>
+#include <QDir>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QPushButton>
 
 #include "base/line_file.h"
+#include "desktop/platform/file_dialog.h"
 #include "desktop/widgets/text_edge.h"
 
 namespace talvor {
@@ -30,9 +32,18 @@ QString QtFilter(TextView filter) {
   return kinds.join(QStringLiteral(";;"));
 }
 
+// The folder itself, or the nearest above it that exists: the dialog would take a missing one for the name
+// of a file.
+QString ExistingFolder(const QString& folder) {
+  QString nearest = QDir::cleanPath(folder);
+  while (!QFileInfo(nearest).isDir() && nearest.contains(QLatin1Char('/')))
+    nearest.truncate(nearest.lastIndexOf(QLatin1Char('/')));
+  return QFileInfo(nearest).isDir() ? nearest : QDir::rootPath();
+}
+
 // The folder where the dialog starts, with the proposed name.
 QString Beginning(const FileQuestion& question) {
-  const QString folder = ToQt(TextOf(question.folder).value_or(Text{}));
+  const QString folder = ExistingFolder(ToQt(TextOf(question.folder).value_or(Text{})));
   return question.name.empty() ? folder : folder + QLatin1Char('/') + ToQt(question.name);
 }
 
@@ -51,14 +62,13 @@ bool QtDialogs::Confirm(TextView question) {
 }
 
 std::optional<std::filesystem::path> QtPickers::OpenFile(const FileQuestion& question) {
-  return Answer(QFileDialog::getOpenFileName(frame_, ToQt(question.title), Beginning(question),
-                                             QtFilter(question.filter)));
+  return Answer(AskForFile(frame_, QFileDialog::AcceptOpen, ToQt(question.title), Beginning(question),
+                           QtFilter(question.filter)));
 }
 
 std::optional<std::filesystem::path> QtPickers::SaveFile(const FileQuestion& question) {
-  return Answer(QFileDialog::getSaveFileName(frame_, ToQt(question.title), Beginning(question),
-                                             QtFilter(question.filter), nullptr,
-                                             QFileDialog::DontConfirmOverwrite));
+  return Answer(AskForFile(frame_, QFileDialog::AcceptSave, ToQt(question.title), Beginning(question),
+                           QtFilter(question.filter)));
 }
 
 std::optional<Colour> QtPickers::PickColour() {
