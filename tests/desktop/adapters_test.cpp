@@ -207,6 +207,27 @@ TEST(Pickers, AFileIsPickedAmongItsKindsAndTheCurrentFolderStays) {
   EXPECT_FALSE(pickers.PickColour());
 }
 
+TEST(Pickers, WithoutAFolderTheUserStartsOnTheKeyOrAtHome) {
+  const ScratchFolder scratch;
+  const auto here = [&](const char* name) {
+    return QString::fromStdString((scratch.Path() / name).string());
+  };
+  fs::create_directories("home");
+  fs::create_directories("media/claire");
+  const Variable home("HOME", here("home").toUtf8());
+  const Variable user("USER", "personne-de-ce-nom");
+  EXPECT_EQ(UsersFolder({here("absent"), here("media/claire")}), here("home")) << "nothing is plugged in";
+  fs::create_directory("media/claire/CLE");
+  EXPECT_EQ(UsersFolder({here("absent"), here("media/claire")}), here("media/claire/CLE"));
+  fs::create_directory("media/claire/DISQUE");
+  EXPECT_EQ(UsersFolder({here("absent"), here("media/claire")}), here("media/claire")) << "the user chooses";
+  Once<QFileDialog>([&](QFileDialog& dialog) {
+    EXPECT_EQ(dialog.directory().absolutePath(), here("home"));
+    dialog.reject();
+  });
+  EXPECT_FALSE(QtPickers().SaveFile({u"Copie", {}, u"Talvor.mdb|Talvor.mdb", u"Talvor.mdb"}));
+}
+
 // The column of a list of files, row by row, as it is written.
 QStringList Column(const QAbstractItemModel& files, const QModelIndex& folder, int column) {
   QStringList texts;

@@ -41,9 +41,18 @@ QString ExistingFolder(const QString& folder) {
   return QFileInfo(nearest).isDir() ? nearest : QDir::rootPath();
 }
 
+// Where the desktops of this system mount what the user plugs in.
+QStringList MountFolders() {
+  const QString user = qEnvironmentVariable("USER");
+  if (user.isEmpty()) return {};
+  return {QStringLiteral("/media/") + user, QStringLiteral("/run/media/") + user};
+}
+
 // The folder where the dialog starts, with the proposed name.
 QString Beginning(const FileQuestion& question) {
-  const QString folder = ExistingFolder(ToQt(TextOf(question.folder).value_or(Text{})));
+  const QString folder = question.folder.empty()
+                             ? UsersFolder(MountFolders())
+                             : ExistingFolder(ToQt(TextOf(question.folder).value_or(Text{})));
   return question.name.empty() ? folder : folder + QLatin1Char('/') + ToQt(question.name);
 }
 
@@ -53,6 +62,15 @@ std::optional<std::filesystem::path> Answer(const QString& file) {
 }
 
 }  // namespace
+
+QString UsersFolder(const QStringList& mountFolders) {
+  for (const QString& folder : mountFolders) {
+    const QStringList plugged =
+        QDir(folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::Readable | QDir::Executable);
+    if (!plugged.isEmpty()) return plugged.size() == 1 ? folder + QLatin1Char('/') + plugged.first() : folder;
+  }
+  return QDir::homePath();
+}
 
 void QtDialogs::Tell(TextView message) { Ask(frame_, QMessageBox::Information, message, QMessageBox::Ok); }
 

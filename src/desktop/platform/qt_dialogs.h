@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPointer>
+#include <QStringList>
 #include <QWidget>
 
 #include "platform/dialogs.h"
@@ -18,6 +19,10 @@ class QtDialogs : public Dialogs {
  private:
   QPointer<QWidget> frame_;
 };
+
+// Where a file is looked for when nothing is known of it: on what is plugged in below `mountFolders`, the
+// folder of all where it is several, and else in the user's home.
+[[nodiscard]] QString UsersFolder(const QStringList& mountFolders);
 
 // File and colour dialogs of Qt over the main window.
 class QtPickers : public Pickers {
