@@ -1,9 +1,15 @@
+#include <sys/stat.h>
+
+#include <QDir>
+#include <QFileDialog>
 #include <QLabel>
+#include <QMessageBox>
 #include <QProcess>
 #include <QTcpServer>
 #include <QWebEngineView>
 #include <fstream>
 
+#include "base/line_file.h"
 #include "desktop/platform/print_preview.h"
 #include "tests/desktop/desktop_fixture.h"
 #include "tracking/status_lists.h"
@@ -39,7 +45,6 @@ TEST_F(ReportWindowTest, TheListIsPreviewedAndItsPdfHoldsTheRows) {
   ASSERT_NE(desktop->Preview().Window(), nullptr);
   EXPECT_TRUE(desktop->Preview().Window()->isVisible());
   EXPECT_TRUE(PageText().contains(QStringLiteral("Éclusier de nuit")));
-
   bool saved = false;
   bool done = false;
   desktop->Preview().Window()->SavePdf(QStringLiteral("liste.pdf"), [&](bool stands) {
@@ -55,6 +60,59 @@ TEST_F(ReportWindowTest, TheListIsPreviewedAndItsPdfHoldsTheRows) {
   for (const char* expected :
        {"Liste des candidatures", "Éclusier de nuit", "Voies & Canaux", "depuis Talvor"})
     EXPECT_TRUE(text.contains(QString::fromUtf8(expected))) << expected << " in " << text.toStdString();
+}
+
+// The modal windows that come one after the other, each with what the user does there.
+void InTurn(std::vector<std::function<void(QDialog&)>> acts) {
+  if (acts.empty()) return;
+  QTimer::singleShot(50, qApp, [acts = std::move(acts)]() mutable {
+    auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    const auto act = std::move(acts.front());
+    acts.erase(acts.begin());
+    InTurn(std::move(acts));
+    act(*dialog);
+  });
+}
+
+TEST_F(ReportWindowTest, APdfGetsItsEndingAndTheRightsOfTheUserAndReplacesNothingUnasked) {
+  Click("Image7");
+  PrintPreviewWindow& window = *desktop->Preview().Window();
+  ASSERT_TRUE(WaitFor([&] { return window.IsComplete(); }, 20000));
+  const auto name = [](const char* text) {
+    return [file = QDir::current().filePath(QString::fromUtf8(text))](QDialog& dialog) {
+      dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(file);
+      dialog.accept();
+    };
+  };
+  const auto answer = [](QMessageBox::StandardButton button) {
+    return [button](QDialog& dialog) {
+      auto* box = qobject_cast<QMessageBox*>(&dialog);
+      ASSERT_NE(box, nullptr);
+      box->button(button)->click();
+    };
+  };
+  const auto click = [&] {
+    QTest::mouseClick(window.findChild<QPushButton*>(QStringLiteral("EnregistrerPdf")), Qt::LeftButton);
+  };
+  const auto stands = [&](const char* file) {
+    return WaitFor([&] { return ReadBytes(file).value_or("").starts_with("%PDF"); }, 20000);
+  };
+  const mode_t before = ::umask(0027);
+  InTurn({name("liste du 1.3")});
+  click();
+  EXPECT_TRUE(stands("liste du 1.3.pdf"));
+  ::umask(before);
+  EXPECT_EQ(std::filesystem::status("liste du 1.3.pdf").permissions(), std::filesystem::perms{0640});
+
+  std::ofstream("ancien.pdf") << "ancien";
+  InTurn({name("ancien"), answer(QMessageBox::Cancel), name("autre.PDF")});
+  click();
+  EXPECT_TRUE(stands("autre.PDF"));
+  EXPECT_EQ(ReadBytes("ancien.pdf"), "ancien");
+  InTurn({name("ancien"), answer(QMessageBox::Ok)});
+  click();
+  EXPECT_TRUE(stands("ancien.pdf"));
 }
 
 TEST_F(ReportWindowTest, AHostileRowReachesNeitherScriptsNorNetworkNorDisk) {

@@ -4,6 +4,7 @@
 #include <QPageLayout>
 #include <QTimer>
 #include <QWebEnginePage>
+#include <memory>
 
 #include "app/temporary_folder.h"
 #include "base/failure_cause.h"
@@ -43,18 +44,21 @@ bool Shown(CvPageView& view, const QString& page) {
   return Waited(loop) && well;
 }
 
-bool Printed(CvPageView& view, const QString& file) {
+// The page as a document, empty when it could not be made.
+QByteArray Printed(CvPageView& view) {
   // The margins that a template gives its paper are not taken by the browser.
   const QPageLayout paper(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF(15, 12, 15, 12),
                           QPageLayout::Millimeter);
-  QEventLoop loop;
-  bool well = false;
-  QObject::connect(view.page(), &QWebEnginePage::pdfPrintingFinished, &loop, [&](const QString&, bool ok) {
-    well = ok;
-    loop.quit();
-  });
-  view.page()->printToPdf(file, paper);
-  return Waited(loop) && well;
+  // The answer may come when nobody waits any more.
+  const auto loop = std::make_shared<QEventLoop>();
+  const auto document = std::make_shared<QByteArray>();
+  view.page()->printToPdf(
+      [loop, document](const QByteArray& bytes) {
+        *document = bytes;
+        loop->quit();
+      },
+      paper);
+  return Waited(*loop) ? *document : QByteArray();
 }
 
 }  // namespace
@@ -68,8 +72,10 @@ Text PagePdf::Export(const fs::path& page, const fs::path& target) {
     // Beside the target, so that the whole document takes its name in one step.
     const TemporaryFolder outcome(target.parent_path());
     const fs::path made = outcome.Path() / "cv.pdf";
-    if (!Printed(view, ToQt(TextOf(made).value_or(Text{}))))
-      return u"La page du CV n’a pas pu être imprimée en PDF.";
+    const QByteArray document = Printed(view);
+    if (document.isEmpty()) return u"La page du CV n’a pas pu être imprimée en PDF.";
+    if (const auto fault = WriteBytes(made, document.toStdString()))
+      throw fs::filesystem_error({}, made, fault);
     fs::rename(made, target);
   } catch (const fs::filesystem_error& fault) {
     return u"Le document n’a pas pu être écrit dans le dossier «\u00A0" +

@@ -1,6 +1,6 @@
 #include "desktop/platform/print_preview.h"
 
-#include <QFileDialog>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QPageSetupDialog>
 #include <QPrintDialog>
@@ -9,13 +9,13 @@
 #include <QVBoxLayout>
 #include <QWebEngineView>
 
+#include "desktop/platform/file_dialog.h"
 #include "desktop/platform/printing.h"
 #include "desktop/widgets/bouton_tlv.h"
 #include "desktop/widgets/pane.h"
 #include "desktop/widgets/text_edge.h"
 
 namespace talvor {
-
 PrintPreviewWindow::PrintPreviewWindow(const Theme& theme, PrintedPage page, QWidget* parent)
     : QDialog(parent),
       printed_(std::move(page)),
@@ -95,12 +95,34 @@ void PrintPreviewWindow::Zoom(qreal factor) {
 void PrintPreviewWindow::Tell(const QString& text) { QMessageBox::warning(this, windowTitle(), text); }
 
 void PrintPreviewWindow::AskForPdf() {
-  const QString file =
-      QFileDialog::getSaveFileName(this, tr("Enregistrer en PDF"), printed_.pdf, tr("Documents PDF (*.pdf)"));
+  const QString file = PickPdf();
   if (file.isEmpty()) return;
   SavePdf(file, [self = QPointer<PrintPreviewWindow>(this), file](bool saved) {
     if (!saved && self) self->Tell(tr("Le fichier «\u00A0%1\u00A0» n’a pas pu être écrit.").arg(file));
   });
+}
+
+// The file is asked for until one may be written; empty when the user gives up.
+QString PrintPreviewWindow::PickPdf() {
+  QString proposed = printed_.pdf;
+  for (;;) {
+    QString file =
+        QFileDialog::getSaveFileName(this, tr("Enregistrer en PDF"), proposed, tr("Documents PDF (*.pdf)"),
+                                     nullptr, QFileDialog::DontConfirmOverwrite);
+    if (file.isEmpty()) return {};
+    // A name with a point in it has no ending yet; the file that may stand there is that with the ending.
+    const QString ending = QStringLiteral(".pdf");
+    if (!file.endsWith(ending, Qt::CaseInsensitive)) file += ending;
+    if (!QFileInfo::exists(file) || MayReplace(file)) return file;
+    proposed = file;
+  }
+}
+
+bool PrintPreviewWindow::MayReplace(const QString& file) {
+  const QString name = QFileInfo(file).fileName();
+  return QMessageBox::warning(this, windowTitle(),
+                              tr("Le fichier «\u00A0%1\u00A0» existe déjà. Le remplacer\u00A0?").arg(name),
+                              QMessageBox::Ok | QMessageBox::Cancel) == QMessageBox::Ok;
 }
 
 void PrintPreviewWindow::SavePdf(const QString& file, const std::function<void(bool)>& done) {

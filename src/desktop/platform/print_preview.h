@@ -42,6 +42,8 @@ class PrintPreviewWindow : public QDialog {
   void Print();
   void SetUpPage();
   void AskForPdf();
+  [[nodiscard]] QString PickPdf();
+  [[nodiscard]] bool MayReplace(const QString& file);
   void Zoom(qreal factor);
   void Tell(const QString& text);
 

@@ -2,22 +2,36 @@
 
 #include <QDeadlineTimer>
 #include <QEventLoop>
+#include <QPointer>
+#include <QSaveFile>
 #include <QTimer>
 #include <QWebEngineView>
-#include <set>
+#include <map>
 
 namespace talvor {
 namespace {
 
-// The views whose page is on its way.
-std::set<const QWebEngineView*>& AtWork() {
-  static std::set<const QWebEngineView*> views;
+// The views whose page is on its way, and whether they have lost their window.
+std::map<QWebEngineView*, bool>& AtWork() {
+  static std::map<QWebEngineView*, bool> views;
   return views;
 }
 
 void BeginWork(QWebEngineView& view) {
-  AtWork().insert(&view);
+  AtWork().try_emplace(&view, false);
   QObject::connect(&view, &QObject::destroyed, [&view] { AtWork().erase(&view); });
+}
+
+void EndWork(QWebEngineView& view) {
+  const auto work = AtWork().extract(&view);
+  if (!work.empty() && work.mapped()) view.deleteLater();
+}
+
+// In one step, with the rights that a new file of the user has; a file that stands there stays until then.
+bool WriteWhole(const QString& file, const QByteArray& bytes) {
+  QSaveFile target(file);
+  return !bytes.isEmpty() && target.open(QIODevice::WriteOnly) && target.write(bytes) == bytes.size() &&
+         target.commit();
 }
 
 }  // namespace
@@ -28,7 +42,7 @@ void PrintPage(QWebEngineView& view, const std::shared_ptr<QPrinter>& printer,
   QObject::connect(
       &view, &QWebEngineView::printFinished, &view,
       [&view, printer, done](bool printed) {
-        AtWork().erase(&view);
+        EndWork(view);
         done(printed);
       },
       Qt::SingleShotConnection);
@@ -38,23 +52,21 @@ void PrintPage(QWebEngineView& view, const std::shared_ptr<QPrinter>& printer,
 void WritePdf(QWebEngineView& view, const QString& file, const QPageLayout& layout,
               const std::function<void(bool)>& done) {
   BeginWork(view);
-  // One connection an order: the page answers each of them once.
-  QObject::connect(
-      view.page(), &QWebEnginePage::pdfPrintingFinished, &view,
-      [&view, done](const QString&, bool stands) {
-        AtWork().erase(&view);
-        done(stands);
+  view.page()->printToPdf(
+      [kept = QPointer<QWebEngineView>(&view), file, done](const QByteArray& bytes) {
+        if (!kept) return;
+        EndWork(*kept);
+        done(WriteWhole(file, bytes));
       },
-      Qt::SingleShotConnection);
-  view.page()->printToPdf(file, layout);
+      layout);
 }
 
 void OutliveWhilePrinting(QWebEngineView& view) {
-  if (!AtWork().contains(&view)) return;
+  const auto work = AtWork().find(&view);
+  if (work == AtWork().end()) return;
   view.hide();
   view.setParent(nullptr);
-  QObject::connect(&view, &QWebEngineView::printFinished, &view, &QObject::deleteLater);
-  QObject::connect(view.page(), &QWebEnginePage::pdfPrintingFinished, &view, &QObject::deleteLater);
+  work->second = true;
 }
 
 void FinishPrinting() {
