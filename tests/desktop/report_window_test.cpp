@@ -4,7 +4,10 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinterInfo>
 #include <QProcess>
+#include <QStandardPaths>
 #include <QTcpServer>
 #include <QWebEngineView>
 #include <fstream>
@@ -113,6 +116,26 @@ TEST_F(ReportWindowTest, APdfGetsItsEndingAndTheRightsOfTheUserAndReplacesNothin
   InTurn({name("ancien"), answer(QMessageBox::Ok)});
   click();
   EXPECT_TRUE(stands("ancien.pdf"));
+}
+
+TEST_F(ReportWindowTest, WithoutAPrinterTheSheetIsProposedAmongTheDocumentsOfTheUser) {
+  if (!QPrinterInfo::availablePrinterNames().isEmpty()) GTEST_SKIP() << "there is a printer";
+  const QByteArray before = qgetenv("HOME");
+  qputenv("HOME", QByteArray::fromStdString(scratch.Path().string()));
+  const QString home = QDir::homePath();
+  for (const QString& folder : {home, QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)}) {
+    QDir().mkpath(folder);
+    Click("Image7");
+    PrintPreviewWindow& window = *desktop->Preview().Window();
+    QString proposed;
+    InTurn({[&](QDialog& dialog) {
+      proposed = static_cast<QPrintDialog&>(dialog).printer()->outputFileName();
+      dialog.reject();
+    }});
+    QTest::mouseClick(window.findChild<QPushButton*>(QStringLiteral("Imprimer")), Qt::LeftButton);
+    EXPECT_EQ(proposed, folder + QStringLiteral("/Talvor.pdf"));
+  }
+  qputenv("HOME", before);
 }
 
 TEST_F(ReportWindowTest, AHostileRowReachesNeitherScriptsNorNetworkNorDisk) {

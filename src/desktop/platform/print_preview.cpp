@@ -1,9 +1,11 @@
 #include "desktop/platform/print_preview.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QPageSetupDialog>
 #include <QPrintDialog>
+#include <QPrinterInfo>
 #include <QProgressBar>
 #include <QStandardPaths>
 #include <QVBoxLayout>
@@ -16,6 +18,19 @@
 #include "desktop/widgets/text_edge.h"
 
 namespace talvor {
+namespace {
+
+// The file in its folder, or in another of the user's where that one does not exist.
+QString ProposedFile(const QString& file) {
+  const QFileInfo wanted(file);
+  for (const QString& folder :
+       {wanted.path(), QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)})
+    if (QFileInfo(folder).isDir()) return folder + QLatin1Char('/') + wanted.fileName();
+  return QDir::homePath() + QLatin1Char('/') + wanted.fileName();
+}
+
+}  // namespace
+
 PrintPreviewWindow::PrintPreviewWindow(const Theme& theme, PrintedPage page, QWidget* parent)
     : QDialog(parent),
       printed_(std::move(page)),
@@ -77,6 +92,10 @@ QLayout* PrintPreviewWindow::MakeTools(const Theme& theme) {
 }
 
 void PrintPreviewWindow::Print() {
+  printer_->setDocName(QFileInfo(printed_.pdf).completeBaseName());
+  // Where there is no printer the sheet can only go to a file, beside the other documents of the user.
+  if (QPrinterInfo::availablePrinterNames().isEmpty() && printer_->outputFileName().isEmpty())
+    printer_->setOutputFileName(ProposedFile(printed_.pdf));
   QPrintDialog dialog(printer_.get(), this);
   if (dialog.exec() != QDialog::Accepted) return;
   PrintPage(*view_, printer_, [self = QPointer<PrintPreviewWindow>(this)](bool printed) {
@@ -104,7 +123,7 @@ void PrintPreviewWindow::AskForPdf() {
 
 // The file is asked for until one may be written; empty when the user gives up.
 QString PrintPreviewWindow::PickPdf() {
-  QString proposed = printed_.pdf;
+  QString proposed = ProposedFile(printed_.pdf);
   for (;;) {
     QString file =
         QFileDialog::getSaveFileName(this, tr("Enregistrer en PDF"), proposed, tr("Documents PDF (*.pdf)"),
