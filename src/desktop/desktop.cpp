@@ -274,6 +274,7 @@ void Desktop::RegisterLetters() {
   };
   shell_.Register(LetterForm, form);
 
+  documents_.OnRefused = [this](TextView target) { TellNotOpened(target, dialogs_); };
   formLettre_.OuvrirDocument = [this](const std::filesystem::path& document) {
     OuvrirDocument(TextOf(document).value_or(Text{}), documents_, dialogs_);
   };

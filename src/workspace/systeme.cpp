@@ -27,8 +27,12 @@ void OuvrirDocument(TextView target, Documents& documents, Dialogs& dialogs) {
   std::error_code unreadable;
   if (!IsAddress(target) && !std::filesystem::exists(PathOf(target), unreadable))
     return dialogs.Tell(u"Le fichier «\u00A0" + Text{target} + u"\u00A0» n’existe pas.");
-  if (!documents.Open(target))
-    dialogs.Tell(u"Aucun programme n’a pu ouvrir «\u00A0" + Text{target} + u"\u00A0».");
+  if (!documents.Open(target)) TellNotOpened(target, dialogs);
+}
+
+void TellNotOpened(TextView target, Dialogs& dialogs) {
+  const Text place = IsAddress(target) ? u"" : u" Le fichier se trouve bien à cet endroit.";
+  dialogs.Tell(u"Aucun programme n’a pu ouvrir «\u00A0" + Text{target} + u"\u00A0»." + place);
 }
 
 Text FenetreHttp(const Documents& documents) {

@@ -10,6 +10,9 @@ namespace talvor {
 // program takes, are told.
 void OuvrirDocument(TextView target, Documents& documents, Dialogs& dialogs);
 
+// Tells that no program has opened the address or the file, and where the file is.
+void TellNotOpened(TextView target, Dialogs& dialogs);
+
 // The title of the first window that holds "http", empty when there is none.
 [[nodiscard]] Text FenetreHttp(const Documents& documents);
 

@@ -84,6 +84,28 @@ TEST(DocumentsAdapter, ATargetReachesTheOpenerWholeAndIsReadByNoShell) {
   EXPECT_TRUE(QtDocuments().ProgramFor(u"/tmp/a.doc").empty());
 }
 
+TEST(DocumentsAdapter, AnOpenerThatFailsAfterItsStartIsHeardAndOneThatGoesOnIsLeftAlone) {
+  const ScratchFolder scratch;
+  WriteProgram("xdg-open",
+               "#!/bin/sh\ncase $1 in\n*.pdf) sleep 0.2; exit 3;;\n*.txt) exit 0;;\n"
+               "*) touch ouvert; sleep 0.6; touch fini;;\nesac\n");
+  const Variable path("PATH", QByteArray::fromStdString(scratch.Path().string()) + ":" + qgetenv("PATH"));
+  std::vector<Text> refused;
+  auto documents = std::make_unique<QtDocuments>();
+  documents->OnRefused = [&](TextView target) { refused.emplace_back(target); };
+  EXPECT_TRUE(documents->Open(u"Mon CV.pdf"));
+  EXPECT_TRUE(documents->Open(u"note.txt"));
+  EXPECT_TRUE(WaitFor([&] { return !refused.empty(); }));
+  EXPECT_EQ(refused, std::vector<Text>{u"Mon CV.pdf"});
+
+  EXPECT_TRUE(documents->Open(u"autre.pdf"));
+  EXPECT_TRUE(documents->Open(u"lettre.doc"));
+  ASSERT_TRUE(WaitFor([] { return fs::exists("ouvert"); }));
+  documents.reset();
+  EXPECT_TRUE(WaitFor([] { return fs::exists("fini"); })) << "what was opened outlives the adapter";
+  EXPECT_EQ(refused.size(), 1u) << "nobody is there to hear it";
+}
+
 TEST(DocumentsAdapter, TheProgramOfAKindIsTheOneTheUserHasChosen) {
   const ScratchFolder scratch;
   fs::create_directories("applications");

@@ -237,6 +237,14 @@ TEST_F(ConvertWindowTest, ThePdfIsThePageOfTheEditorAndCanBeAttached) {
   EXPECT_EQ(list->item(0)->text(), QStringLiteral("Riche.pdf"));
 }
 
+TEST_F(ConvertWindowTest, APdfThatNoProgramOpensIsToldWithItsPlace) {
+  std::ofstream("bin/xdg-open") << "#!/bin/sh\nexit 3\n";
+  Press(ConvertForm, "ConvertirPDF");
+  ASSERT_TRUE(WaitFor([&] { return !dialogs.told.empty(); }));
+  EXPECT_TRUE(ReadBytes(Converted("Riche.pdf")).value_or("").starts_with("%PDF"));
+  EXPECT_TRUE(Contains(dialogs.told.front(), *FromUtf8(Converted("Riche.pdf").string())));
+}
+
 TEST_F(ConvertWindowTest, APdfThatCannotBeWrittenLeavesTheOldOne) {
   std::ofstream(Converted("Riche.pdf")) << "old";
   PagePdf printer;

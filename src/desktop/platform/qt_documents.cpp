@@ -1,5 +1,8 @@
 #include "desktop/platform/qt_documents.h"
 
+#include <unistd.h>
+
+#include <QDeadlineTimer>
 #include <QFile>
 #include <QProcess>
 #include <QStandardPaths>
@@ -42,7 +45,27 @@ QString NameOfProgram(const QString& entry) {
 bool QtDocuments::Open(TextView target) {
   // A file whose name begins like an option is still a file.
   const QString argument = (target.starts_with(u'-') ? QStringLiteral("./") : QString()) + ToQt(target);
-  return QProcess::startDetached(QStringLiteral("xdg-open"), {argument});
+  // The opener may live as long as the program that it has started, and both longer than this one.
+  auto* opener = new QProcess;
+  opener->setStandardInputFile(QProcess::nullDevice());
+  opener->setStandardOutputFile(QProcess::nullDevice());
+  opener->setStandardErrorFile(QProcess::nullDevice());
+  opener->setChildProcessModifier([] { ::setsid(); });
+  opener->start(QStringLiteral("xdg-open"), {argument});
+  if (!opener->waitForStarted()) {
+    delete opener;
+    return false;
+  }
+  // Later it would be the viewer that ends badly, long after the document was seen.
+  constexpr int RefusalMilliseconds = 10000;
+  QObject::connect(opener, &QProcess::finished, opener, &QObject::deleteLater);
+  QObject::connect(opener, &QProcess::finished, &life_,
+                   [this, target = Text{target}, limit = QDeadlineTimer(RefusalMilliseconds)](
+                       int code, QProcess::ExitStatus status) {
+                     const bool refused = code != 0 || status != QProcess::NormalExit;
+                     if (refused && !limit.hasExpired() && OnRefused) OnRefused(target);
+                   });
+  return true;
 }
 
 Text QtDocuments::ProgramFor(TextView file) const {

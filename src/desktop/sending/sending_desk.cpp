@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 
 #include "desktop/widgets/text_edge.h"
+#include "workspace/systeme.h"
 
 namespace talvor {
 namespace {
@@ -19,6 +20,7 @@ void ShowWaitCursor(bool shown) {
 
 SendingDesk::SendingDesk(Program program) : program_(std::move(program)), mail_(program_.environment) {
   wordProcessor_.whileWaiting = [] { QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); };
+  documents_.OnRefused = [this](TextView target) { TellNotOpened(target, program_.dialogs); };
 }
 
 void SendingDesk::MakeApply() {
