@@ -121,8 +121,10 @@ QLineEdit* CvPagePane::MakeChoice(const char16_t* name, const QString& image, co
                                   std::function<void()> CvPagePane::*open, QWidget* bar) {
   auto* field = new QLineEdit(bar);
   field->setObjectName(QString::fromUtf16(name));
-  field->setMinimumWidth(70);
-  field->setMaximumWidth(130);
+  constexpr int Least = 70;
+  field->setMinimumWidth(Least);
+  field->setMaximumWidth(Least);  // until its entries are known
+  field->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
   field->setCursorPosition(0);
   field->installEventFilter(this);
   auto* opener = field->addAction(QIcon(), QLineEdit::TrailingPosition);
@@ -139,6 +141,13 @@ QLineEdit* CvPagePane::MakeChoice(const char16_t* name, const QString& image, co
   return field;
 }
 
+// As wide as its longest entry, where the pane has that room.
+void CvPagePane::GiveRoom(QLineEdit& field, const QString& entry) {
+  constexpr int SignAndEdges = 50;
+  const int wanted = field.fontMetrics().horizontalAdvance(entry) + SignAndEdges;
+  if (field.maximumWidth() < wanted) field.setMaximumWidth(wanted);
+}
+
 QWidget* CvPagePane::MakeOptions() {
   auto* bar = new QWidget(this);
   bar->setFixedHeight(39);
@@ -153,10 +162,11 @@ QWidget* CvPagePane::MakeOptions() {
       MakeChoice(u"Police", QStringLiteral("Image3"), tr("Choisir une police"), &CvPagePane::OnFonts, bar);
   captions_ = {MakeLabel(tr("Modèle"), template_, bar), MakeLabel(tr("Police"), font_, bar)};
   row->addWidget(captions_[0]);
-  row->addWidget(template_, 1);
+  row->addWidget(template_, 3);  // the names of templates are the users' own
   row->addWidget(captions_[1]);
   row->addWidget(font_, 1);
-  row->addStretch(1);
+  row->addStretch(0);
+  for (const TextView font : editor_texts::Fonts) GiveRoom(*font_, ToQt(font));
   for (std::size_t i = 0; i < dispositions_.size(); ++i) {
     auto* box = new QCheckBox(QLatin1Char('&') + ToQt(editor_texts::DispositionLabels[i]), bar);
     box->setObjectName(QStringLiteral("CheckDisposition%1").arg(i));
@@ -175,6 +185,7 @@ void CvPagePane::Show(const FormRédigerCV& form) {
   entries_[1]->setChecked(form.openPanel == Panel::CadreCouleur);
   for (std::size_t i = 0; i < dispositions_.size(); ++i)
     dispositions_[i]->setChecked(form.CheckDisposition[i]);
+  for (const Text& name : form.templateRows) GiveRoom(*template_, ToQt(name));
   panels_->Show(form);
 }
 
