@@ -54,6 +54,8 @@ class DesktopTest : public testing::Test {
     desktop = std::make_unique<Desktop>(theme, environment, clock, dialogs, &pickers);
     App().OnFailure = [this](const std::string& report) { failures.push_back(report); };
     ASSERT_TRUE(desktop->StartAtOnce());
+    // The screen of the tests is smaller than the window.
+    desktop->Main().resize(1280, 800);
     desktop->Windows().Show(u"FormCand");
     QApplication::setActiveWindow(&desktop->Main());
   }

@@ -1,8 +1,11 @@
 #include <QElapsedTimer>
 #include <QLabel>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTextBlock>
 #include <QTextBrowser>
 #include <QTimer>
+#include <QWebEngineView>
 #include <fstream>
 
 #include "desktop/platform/qt_dialogs.h"
@@ -184,6 +187,28 @@ TEST_F(MainWindowTest, TheGuideOpensFromTheAboutBoxWithItsPicturesAndChapters) {
   EXPECT_GE(chapters, 9);
   EXPECT_GE(pictures, 7);
   EXPECT_EQ(links, chapters);
+}
+
+TEST_F(MainWindowTest, InASmallWindowNoFieldIsCutOrTooNarrowToBeRead) {
+  desktop->Main().resize(1024, 768);
+  Click("Action4");
+  Wait(50);
+  auto* title = Find("Intitule");
+  QWidget* around = title;
+  while (around != nullptr && qobject_cast<QScrollArea*>(around) == nullptr) around = around->parentWidget();
+  ASSERT_NE(around, nullptr);
+  EXPECT_TRUE(Find("FormCand")->findChild<QWebEngineView*>()->isVisible());
+  EXPECT_EQ(static_cast<QScrollArea*>(around)->horizontalScrollBar()->maximum(), 0);
+
+  desktop->Cv().OpenNew();
+  Click("SaiseDetaillee");
+  Wait(50);
+  for (const char* name : {"LieuNaissance", "Ville"}) EXPECT_GE(Find(name)->width(), 56) << name;
+  for (const int wide : {1280, 1024}) {
+    desktop->Main().resize(wide, 768);
+    Wait(50);
+    EXPECT_EQ(Find("LieuNaissance")->y() > Find("DateNaissance")->y(), wide == 1024);
+  }
 }
 
 }  // namespace

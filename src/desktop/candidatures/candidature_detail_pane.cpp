@@ -8,6 +8,7 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <array>
 
 #include "desktop/widgets/pane.h"
 #include "desktop/widgets/status_dot.h"
@@ -23,7 +24,9 @@ constexpr int ShortField = 102;
 constexpr int ShortLabel = 98;
 constexpr int ColumnWidth = 420;  // two columns from twice that on
 constexpr int RowGap = 5;
-const QString FirstColumn = QStringLiteral("libelle");  // name of the labels in it
+constexpr int Any = QWIDGETSIZE_MAX;
+const QString FirstColumn = QStringLiteral("libelle");  // names of the labels in them
+const QString SecondColumn = QStringLiteral("libelle2");
 
 QGridLayout* MakeGrid(QWidget* block) {
   auto* grid = new QGridLayout(block);
@@ -37,6 +40,7 @@ QGridLayout* MakeGrid(QWidget* block) {
 QLabel* MakeFirstLabel(const QString& caption, QWidget* field) {
   QLabel* label = MakeLabel(caption, field, field->parentWidget());
   label->setObjectName(FirstColumn);
+  label->setToolTip(QString(caption).remove(QLatin1Char('&')));
   return label;
 }
 
@@ -73,7 +77,8 @@ void AddPair(QGridLayout* grid, const QString& first, QWidget* left, const QStri
     field->setMinimumWidth(field->objectName().startsWith(QStringLiteral("Date")) ? date : Least);
   pair->addWidget(left, ShortField);
   QLabel* label = MakeLabel(second, right, right->parentWidget());
-  label->setMinimumWidth(std::max(ShortLabel, label->sizeHint().width()));
+  label->setObjectName(SecondColumn);
+  label->setToolTip(second);
   pair->addWidget(label);
   pair->addWidget(right, ShortField);
   grid->addLayout(pair, row, 1);
@@ -109,16 +114,18 @@ CandidatureDetailPane::CandidatureDetailPane(const Theme& theme, QWidget* parent
   for (int i = 0; i < 3; ++i) lines_.append(MakeLine(theme, content));
   for (QWidget* part : {MakePostBlock(), MakeCompanyBlock(), MakeAdvertisementBlock(), MakeFollowUpBlock()})
     parts_.append(part);
-  AlignLabels();
   Arrange(false);
   scroll_->setWidget(content);
+  AlignLabels({Any, ShortLabel, Any});
+  roomyWidth_ = PartWidth() + EdgesWidth();
   column->addWidget(scroll_, 1);
   FillChoices();
   ChainTabs();
 }
 
-int CandidatureDetailPane::RoomyWidth() const {
-  return scroll_->widget()->minimumSizeHint().width() + scroll_->verticalScrollBar()->sizeHint().width();
+int CandidatureDetailPane::EdgesWidth() const {
+  const QMargins margins = columns_->contentsMargins();
+  return margins.left() + margins.right() + scroll_->verticalScrollBar()->sizeHint().width();
 }
 
 QWidget* CandidatureDetailPane::MakeActionBar() {
@@ -277,13 +284,48 @@ void CandidatureDetailPane::ChainTabs() {
   for (qsizetype i = 1; i < fields_.size(); ++i) setTabOrder(fields_[i - 1], fields_[i]);
 }
 
-// Every label has the width of the widest, so that the fields of all blocks stand in one line.
-void CandidatureDetailPane::AlignLabels() {
+// Every label of the first column has the width of the widest, so that the fields of all blocks stand in one
+// line.
+void CandidatureDetailPane::AlignLabels(const LabelWidths& most) {
   int widest = LabelColumn;
   for (const QWidget* part : parts_)
     for (const QLabel* label : part->findChildren<QLabel*>(FirstColumn))
       widest = std::max(widest, label->sizeHint().width());
-  for (QWidget* part : parts_) static_cast<QGridLayout*>(part->layout())->setColumnMinimumWidth(0, widest);
+  widest = std::min(widest, most.first);
+  for (QWidget* part : parts_) {
+    for (QLabel* label : part->findChildren<QLabel*>(FirstColumn)) label->setFixedWidth(widest);
+    for (QLabel* label : part->findChildren<QLabel*>(SecondColumn))
+      label->setMinimumWidth(std::min(most.second, std::max(most.secondLeast, label->sizeHint().width())));
+    static_cast<QGridLayout*>(part->layout())->setColumnMinimumWidth(0, widest);
+  }
+}
+
+// What the widest block asks for.
+int CandidatureDetailPane::PartWidth() const {
+  int width = 0;
+  for (const QWidget* part : parts_) {
+    part->layout()->activate();
+    width = std::max(width, part->layout()->minimumSize().width());
+  }
+  return width;
+}
+
+// Nothing of the form slides out of sight sideways: where the pane is narrow the labels lose their alignment
+// first, then their ends.
+void CandidatureDetailPane::FitLabels() {
+  constexpr int LeastFirst = 70;
+  constexpr int LeastSecond = 45;
+  constexpr std::array<LabelWidths, 5> Steps{{{Any, ShortLabel, Any},
+                                              {Any, 0, Any},
+                                              {LabelColumn, 0, Any},
+                                              {LabelColumn, 0, LeastSecond},
+                                              {LeastFirst, 0, LeastSecond}}};
+  const int columns = twoColumns_ ? 2 : 1;
+  const int room = (width() - EdgesWidth() - (columns - 1) * columns_->spacing()) / columns;
+  for (const LabelWidths& most : Steps) {
+    AlignLabels(most);
+    if (PartWidth() <= room) return;
+  }
 }
 
 // One column, or post and advertisement on the left, company and follow-up on the right.
@@ -318,6 +360,7 @@ void CandidatureDetailPane::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
   const bool twoColumns = width() >= 2 * ColumnWidth;
   if (twoColumns != twoColumns_) Arrange(twoColumns);
+  FitLabels();
 }
 
 void CandidatureDetailPane::ShowInternet(bool shown) { internet_->setChecked(shown); }

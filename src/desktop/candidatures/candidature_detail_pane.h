@@ -33,7 +33,7 @@ class CandidatureDetailPane : public QWidget {
   void ShowStatusDot(TextView status);
 
   // The width at which no field of the single column is cut.
-  [[nodiscard]] int RoomyWidth() const;
+  [[nodiscard]] int RoomyWidth() const { return roomyWidth_; }
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
@@ -45,7 +45,15 @@ class CandidatureDetailPane : public QWidget {
   QWidget* MakeAdvertisementBlock();
   QWidget* MakeFollowUpBlock();
   void FillChoices();
-  void AlignLabels();
+  // How far the labels are narrowed: the widest of the first column, the least that those of the second
+  // are given to stand in one line, and the most that they ask for.
+  struct LabelWidths {
+    int first, secondLeast, second;
+  };
+  void AlignLabels(const LabelWidths& most);
+  [[nodiscard]] int PartWidth() const;
+  [[nodiscard]] int EdgesWidth() const;
+  void FitLabels();
   void Arrange(bool twoColumns);
   void ChainTabs();
   QLineEdit* Line(const QString& name, QWidget* parent);
@@ -64,6 +72,7 @@ class CandidatureDetailPane : public QWidget {
   QList<QWidget*> fields_;  // in reading order
   QList<QWidget*> parts_;   // post, company, advertisement, follow-up
   bool twoColumns_ = false;
+  int roomyWidth_ = 0;
   QAction* statusDot_ = nullptr;
   QString dotOf_;
 };

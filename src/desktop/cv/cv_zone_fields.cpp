@@ -18,7 +18,7 @@ QLineEdit* MakeLineField(TextView field, QWidget* parent) {
   auto* line = new QLineEdit(parent);
   line->setObjectName(ToQt(field));
   line->setAccessibleName(ZoneCaption(field));
-  line->setMinimumWidth(24);
+  line->setMinimumWidth(LeastField);
   return line;
 }
 

@@ -11,6 +11,9 @@ class QHBoxLayout;
 
 namespace talvor {
 
+// The width below which no field of the identity falls.
+inline constexpr int LeastField = 24;
+
 // The label of a zone by its field, as the model gives it, with its mnemonic on the first `key` in it;
 // without one for a null key.
 [[nodiscard]] QString ZoneCaption(TextView field, QChar key = {});

@@ -158,7 +158,7 @@ QWidget* CvZonesPane::MakeIdentity() {
   auto* row = new QHBoxLayout(block);
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(ColumnGap);
-  auto* grid = new QGridLayout;
+  auto* grid = identity_ = new QGridLayout;
   grid->setHorizontalSpacing(6);
   grid->setVerticalSpacing(RowGap);
   grid->setColumnStretch(1, 1);
@@ -186,6 +186,8 @@ void CvZonesPane::AddAddress(QGridLayout& grid, QWidget* block) {
   QLineEdit* code = MakeLineField(u"CP", block);
   QLineEdit* town = MakeLineField(u"Ville", block);
   QLineEdit* country = MakeLineField(u"Pays", block);
+  constexpr int LeastTown = 56;
+  town->setMinimumWidth(LeastTown);
   const int digits = fontMetrics().horizontalAdvance(QStringLiteral("00000")) + 20;
   AddFields(&grid, 2, 0, MakeZoneLabel(u"CP", {}, code, block), code, town, digits);
   AddFields(&grid, 2, 3, MakeZoneLabel(u"Pays", {}, country, block), country);
@@ -222,6 +224,9 @@ void CvZonesPane::AddBirthAndFamily(QGridLayout& grid, QWidget* block) {
   QLineEdit* place = MakeLineField(u"LieuNaissance", block);
   const int date = fontMetrics().horizontalAdvance(QStringLiteral("00/00/0000")) + 24;
   AddFields(&grid, 5, 0, MakeZoneLabel(u"DateNaissance", {}, birth, block), birth, place, date);
+  birthRow_ = static_cast<QHBoxLayout*>(grid.itemAtPosition(5, 1)->layout());
+  birthplace_ = place;
+  place->setPlaceholderText(tr("Lieu"));
   birth->setAccessibleName(tr("Date de naissance"));
   place->setAccessibleName(tr("Lieu de naissance"));
   QLineEdit* age = MakeLineField(u"Age", block);
@@ -399,6 +404,32 @@ void CvZonesPane::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
   constexpr int ScrollBar = 12;
   setMinimumWidth(std::max(LeastPane, content_->minimumSizeHint().width() + ScrollBar));
+  PlaceBirthplace();
+}
+
+// Beside its date, or on a row of its own where too little of the row is left.
+void CvZonesPane::PlaceBirthplace() {
+  constexpr int Row = 6;
+  constexpr int Column = 1;
+  constexpr int LeastPlace = 60;
+  // What the pane has beyond its least width goes to both columns of fields alike.
+  const bool below = width() < minimumWidth() + 2 * (LeastPlace - LeastField);
+  if (below == birthplaceBelow_) return;
+  birthplaceBelow_ = below;
+  if (below) {
+    birthRow_->removeWidget(birthplace_);
+    birthRow_->addStretch(1);
+    identity_->addWidget(birthplace_, Row, Column);
+  } else {
+    identity_->removeWidget(birthplace_);
+    delete birthRow_->takeAt(1);
+    birthRow_->addWidget(birthplace_, 1);
+  }
+}
+
+void CvZonesPane::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  PlaceBirthplace();
 }
 
 bool CvZonesPane::eventFilter(QObject* watched, QEvent* event) {

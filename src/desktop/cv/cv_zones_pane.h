@@ -11,7 +11,9 @@
 
 class QComboBox;
 class QGridLayout;
+class QHBoxLayout;
 class QLabel;
+class QLineEdit;
 class QPlainTextEdit;
 class QScrollArea;
 class QToolButton;
@@ -42,6 +44,7 @@ class CvZonesPane : public QWidget {
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
   void showEvent(QShowEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   QWidget* MakeTitleBar();
@@ -56,12 +59,17 @@ class CvZonesPane : public QWidget {
   QToolButton* MakeHelp(TextView field, QWidget* parent);
   void MakeZones();
   void PlaceZones();
+  void PlaceBirthplace();
 
   const Theme& theme_;
   QLabel* title_;
   QScrollArea* scroll_;
   QWidget* content_;
   QWidget* identityBox_;
+  QGridLayout* identity_;
+  QHBoxLayout* birthRow_;
+  QLineEdit* birthplace_;
+  bool birthplaceBelow_ = false;
   QGridLayout* zones_;
   std::array<QWidget*, 7> zoneOf_{};
   CvLanguageGrid* languages_;
