@@ -309,6 +309,7 @@ void Desktop::RegisterReports() {
 
 void Desktop::RegisterCv() {
   ownPickers_.SetFrame(main_.get());
+  ownPickers_.CurrentColour = [this] { return QColor(ToQt(cv_.Form().Couleur)); };
   cv_.Register();
   cv_.OnActed = [this] { RefreshMain(); };
   assistantTexte_.commands.ouvrirCv = [this](TextView file) { cv_.OpenFile(file); };

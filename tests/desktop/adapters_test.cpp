@@ -225,6 +225,15 @@ TEST(Pickers, AFileIsPickedAmongItsKindsAndTheCurrentFolderStays) {
     dialog.accept();
   });
   EXPECT_EQ(pickers.PickColour(), (Colour{1, 128, 255}));
+  for (const auto& [now, start] :
+       {std::pair{"#0369A1", QColor(3, 105, 161)}, {"rouille", QColor(Qt::white)}}) {
+    pickers.CurrentColour = [text = now] { return QColor(QString::fromUtf8(text)); };
+    Once<QColorDialog>([expected = start](QColorDialog& dialog) {
+      EXPECT_EQ(dialog.currentColor(), expected);
+      dialog.accept();
+    });
+    EXPECT_TRUE(pickers.PickColour());
+  }
   Once<QColorDialog>([](QColorDialog& dialog) { dialog.reject(); });
   EXPECT_FALSE(pickers.PickColour());
 }

@@ -90,7 +90,8 @@ std::optional<std::filesystem::path> QtPickers::SaveFile(const FileQuestion& que
 }
 
 std::optional<Colour> QtPickers::PickColour() {
-  const QColor colour = QColorDialog::getColor(Qt::white, frame_);
+  const QColor now = CurrentColour ? CurrentColour() : QColor();
+  const QColor colour = QColorDialog::getColor(now.isValid() ? now : QColor(Qt::white), frame_);
   if (!colour.isValid()) return std::nullopt;
   const auto part = [](int value) { return static_cast<std::uint8_t>(value); };
   return Colour{part(colour.red()), part(colour.green()), part(colour.blue())};

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <QColor>
 #include <QPointer>
 #include <QStringList>
 #include <QWidget>
+#include <functional>
 
 #include "platform/dialogs.h"
 #include "platform/pickers.h"
@@ -31,6 +33,9 @@ class QtPickers : public Pickers {
   std::optional<std::filesystem::path> OpenFile(const FileQuestion& question) override;
   std::optional<std::filesystem::path> SaveFile(const FileQuestion& question) override;
   std::optional<Colour> PickColour() override;
+
+  // Where the colour dialog starts; an invalid colour is white.
+  std::function<QColor()> CurrentColour;
 
  private:
   QPointer<QWidget> frame_;
