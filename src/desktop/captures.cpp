@@ -35,7 +35,9 @@ class SampleClock : public Clock {
 class SampleEnvironment : public Environment {
  public:
   explicit SampleEnvironment(Text folder) : folder_(std::move(folder)) {}
-  Text Variable(TextView name) const override { return name == u"AppData" ? folder_ : Text{}; }
+  Text Variable(TextView name) const override {
+    return name == u"AppData" || name == u"temp" ? folder_ : Text{};
+  }
 
  private:
   Text folder_;
@@ -216,6 +218,10 @@ void PhotographCv(Desktop& desktop, Photographer& photographer) {
   cv.Window()->Do([&] { cv.Form().MouseOverImage6(14); });
   photographer.Take(u"cv-aide");
   desktop.Windows().Unload(u"Aide");
+  cv.Preview();
+  desktop.Windows().Wait(UntilThePageStands);
+  photographer.Take(u"cv-apercu", cv.PreviewWindow());
+  delete cv.PreviewWindow();
   desktop.Windows().Unload(EditorForm);
   desktop.Main().resize(1024, 768);
   cv.OpenFile(u"Marchand Julie.dat");
@@ -391,6 +397,11 @@ void PhotographForms(Desktop& desktop, const Theme& theme, Photographer photogra
   shell.Show(u"FormStat");
   photographer.Take(u"statistiques", shell.WindowOf(u"FormStat"));
   shell.Unload(u"FormStat");
+  desktop.Main().Header().OnPrint();
+  constexpr int UntilThePageStands = 1500;
+  shell.Wait(UntilThePageStands);
+  photographer.Take(u"liste-apercu", desktop.Preview().Window());
+  delete desktop.Preview().Window();
   PhotographCv(desktop, photographer);
   PhotographSmallForms(desktop, theme, photographer);
 }

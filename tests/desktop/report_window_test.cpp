@@ -9,6 +9,7 @@
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTcpServer>
+#include <QWebEngineScript>
 #include <QWebEngineView>
 #include <fstream>
 
@@ -48,6 +49,17 @@ TEST_F(ReportWindowTest, TheListIsPreviewedAndItsPdfHoldsTheRows) {
   ASSERT_NE(desktop->Preview().Window(), nullptr);
   EXPECT_TRUE(desktop->Preview().Window()->isVisible());
   EXPECT_TRUE(PageText().contains(QStringLiteral("Éclusier de nuit")));
+  QString sheet;
+  EXPECT_TRUE(WaitFor([&] {
+    desktop->Preview().Window()->View().page()->runJavaScript(
+        QStringLiteral("(s => s.offsetWidth + ' ' + s.offsetHeight + ' ' + "
+                       "getComputedStyle(s).backgroundColor)(document.documentElement)"),
+        QWebEngineScript::ApplicationWorld, [&](const QVariant& answer) { sheet = answer.toString(); });
+    Wait(50);
+    return sheet == QStringLiteral("1123 794 rgb(231, 237, 239)");
+  })) << sheet.toStdString()
+      << ": an A4 sheet on its side lies on a grey desk";
+
   bool saved = false;
   bool done = false;
   desktop->Preview().Window()->SavePdf(QStringLiteral("liste.pdf"), [&](bool stands) {

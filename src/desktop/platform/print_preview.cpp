@@ -9,16 +9,20 @@
 #include <QProgressBar>
 #include <QStandardPaths>
 #include <QVBoxLayout>
+#include <QWebEngineScript>
 #include <QWebEngineView>
 
 #include "desktop/platform/file_dialog.h"
 #include "desktop/platform/printing.h"
+#include "desktop/platform/sheet_script.h"
 #include "desktop/widgets/bouton_tlv.h"
 #include "desktop/widgets/pane.h"
 #include "desktop/widgets/text_edge.h"
 
 namespace talvor {
 namespace {
+
+constexpr qreal SmallestZoom = 0.3;
 
 // The file in its folder, or in another of the user's where that one does not exist.
 QString ProposedFile(const QString& file) {
@@ -33,6 +37,7 @@ QString ProposedFile(const QString& file) {
 
 PrintPreviewWindow::PrintPreviewWindow(const Theme& theme, PrintedPage page, QWidget* parent)
     : QDialog(parent),
+      theme_(theme),
       printed_(std::move(page)),
       view_(new QWebEngineView(this)),
       progress_(new QProgressBar(this)),
@@ -52,7 +57,9 @@ PrintPreviewWindow::PrintPreviewWindow(const Theme& theme, PrintedPage page, QWi
   connect(view_, &QWebEngineView::loadFinished, this, [this] {
     complete_ = true;
     progress_->setVisible(false);
+    LayOnDesk();
   });
+  connect(&theme, &Theme::Changed, this, &PrintPreviewWindow::LayOnDesk);
 
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
@@ -103,12 +110,28 @@ void PrintPreviewWindow::Print() {
   });
 }
 
-void PrintPreviewWindow::SetUpPage() { QPageSetupDialog(printer_.get(), this).exec(); }
+void PrintPreviewWindow::SetUpPage() {
+  QPageSetupDialog(printer_.get(), this).exec();
+  LayOnDesk();
+}
+
+// The sheet as it lies now, as wide as the window at most.
+void PrintPreviewWindow::LayOnDesk() {
+  if (!complete_) return;
+  constexpr int PixelsAnInch = 96;
+  constexpr int ScrollBar = 16;
+  const QPageLayout sheet = printer_->pageLayout();
+  view_->page()->runJavaScript(SheetScript(sheet, {.desk = theme_.Color(QStringLiteral("sunken")).name(),
+                                                   .edge = theme_.Color(QStringLiteral("edge")).name()}),
+                               QWebEngineScript::ApplicationWorld);
+  const qreal wide = sheet.fullRect(QPageLayout::Inch).width() * PixelsAnInch + 2 * DeskMargin;
+  // The page may stand before the window is shown and its view has a size.
+  view_->setZoomFactor(qBound(SmallestZoom, (width() - ScrollBar) / wide, 1.0));
+}
 
 void PrintPreviewWindow::Zoom(qreal factor) {
-  constexpr qreal Smallest = 0.3;
   constexpr qreal Largest = 3;
-  view_->setZoomFactor(qBound(Smallest, view_->zoomFactor() * factor, Largest));
+  view_->setZoomFactor(qBound(SmallestZoom, view_->zoomFactor() * factor, Largest));
 }
 
 void PrintPreviewWindow::Tell(const QString& text) { QMessageBox::warning(this, windowTitle(), text); }

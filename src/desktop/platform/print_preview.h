@@ -41,12 +41,14 @@ class PrintPreviewWindow : public QDialog {
   QLayout* MakeTools(const Theme& theme);
   void Print();
   void SetUpPage();
+  void LayOnDesk();
   void AskForPdf();
   [[nodiscard]] QString PickPdf();
   [[nodiscard]] bool MayReplace(const QString& file);
   void Zoom(qreal factor);
   void Tell(const QString& text);
 
+  const Theme& theme_;
   PrintedPage printed_;
   QWebEngineView* view_;
   QProgressBar* progress_;
