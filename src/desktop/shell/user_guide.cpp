@@ -38,17 +38,22 @@ void LayOut(QTextDocument& guide) {
       format.setTopMargin(heading ? AirAboveHeading : 0);
       format.setBottomMargin(Air);
     }
-    format.setLineHeight(120, QTextBlockFormat::ProportionalHeight);
+    // A picture is a line as well: the fifth of its height would be left blank below it.
+    constexpr int Spaced = 120;
+    constexpr int Single = 100;
+    const bool picture =
+        block.begin() != block.end() && block.begin().fragment().charFormat().isImageFormat();
+    format.setLineHeight(picture ? Single : Spaced, QTextBlockFormat::ProportionalHeight);
     cursor.setBlockFormat(format);
     for (auto it = block.begin(); !it.atEnd(); ++it) {
       const QTextFragment fragment = it.fragment();
       if (!fragment.charFormat().isImageFormat()) continue;
-      QTextImageFormat picture = fragment.charFormat().toImageFormat();
-      const QImage file(QStringLiteral(":/guide/") + picture.name());
-      picture.setWidth(qMin(file.width(), PictureWidth));
+      QTextImageFormat image = fragment.charFormat().toImageFormat();
+      const QImage file(QStringLiteral(":/guide/") + image.name());
+      image.setWidth(qMin(file.width(), PictureWidth));
       cursor.setPosition(fragment.position());
       cursor.setPosition(fragment.position() + fragment.length(), QTextCursor::KeepAnchor);
-      cursor.setCharFormat(picture);
+      cursor.setCharFormat(image);
       break;  // the fragments have changed; a picture stands alone in its paragraph
     }
   }
