@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QScreen>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -18,7 +19,7 @@ MainWindow::MainWindow(Principale& principale, QtShell& shell, const Theme& them
   setWindowTitle(QStringLiteral("Talvor"));
   setWindowIcon(QIcon(QStringLiteral(":/icons/logo.svg")));
   setMinimumSize(LeastSize);
-  resize(FirstSize);
+  resize(FirstSizeOn(screen()->availableSize()));
 
   auto* centre = new QWidget(this);
   auto* column = new QVBoxLayout(centre);
@@ -39,6 +40,11 @@ MainWindow::MainWindow(Principale& principale, QtShell& shell, const Theme& them
   header_->OnMenu = [this] { menu_.ClicMenu(); };
   header_->OnSave = [this] { menu_.ClicSauver(); };
   AddShortcuts();
+}
+
+QSize MainWindow::FirstSizeOn(QSize available) {
+  constexpr int TitleBar = 40;  // about: the system draws it
+  return FirstSize.boundedTo(available - QSize(0, TitleBar)).expandedTo(LeastSize);
 }
 
 void MainWindow::Refresh() { header_->Refresh(page_); }

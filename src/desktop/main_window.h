@@ -13,6 +13,9 @@ class MainWindow : public QMainWindow {
  public:
   MainWindow(Principale& principale, QtShell& shell, const Theme& theme);
 
+  // The size of the first window where the screen leaves that room, never below the least.
+  [[nodiscard]] static QSize FirstSizeOn(QSize available);
+
   // Shows what the view models say.
   void Refresh();
   [[nodiscard]] HeaderBar& Header() { return *header_; }
