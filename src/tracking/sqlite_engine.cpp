@@ -9,6 +9,9 @@ namespace {
 
 constexpr int BusyMilliseconds = 2000;
 
+// The code of a row or column that was asked for and is not there.
+constexpr int MissingInBase = -1;
+
 // Takes one code point off UTF-8 that the store itself has written; a stray byte stands for itself.
 char32_t TakeCodePoint(std::string_view& bytes) {
   const auto at = [&](std::size_t i) -> char32_t { return static_cast<unsigned char>(bytes[i]); };
@@ -63,8 +66,12 @@ std::string Cause(const SQLite::Exception& failure) {
       return "la mémoire est insuffisante.";
     case SQLITE_TOOBIG:
       return "un texte est trop long pour la base.";
+    case SQLITE_ERROR:
+    case MissingInBase:
+      return "la base n’a pas la structure attendue.";
     default:
-      return std::string{"le moteur de base de données signale «\u00A0"} + failure.what() + "\u00A0».";
+      return "le moteur de base de données signale l’erreur n°\u00A0" +
+             std::to_string(failure.getErrorCode()) + ".";
   }
 }
 

@@ -177,6 +177,18 @@ TEST_F(StoreTest, AFileThatIsNoBaseOfOursIsRefusedAndLeftUntouched) {
   EXPECT_NE(Refusal([&] { static_cast<void>(Open()); }).find("ouverte"), std::string::npos);
 }
 
+TEST_F(StoreTest, WhatAnotherProgramHasTakenOutOfTheBaseIsToldInFrench) {
+  SQLite::Database("Talvor.mdb", SQLite::OPEN_READWRITE).exec("delete from sqlite_sequence");
+  const std::string told = "Talvor.mdb\u00A0: la base n’a pas la structure attendue.";
+  EXPECT_TRUE(Refusal([&] { Insert({}); }).ends_with(told)) << "no last number";
+  SQLite::Database("Talvor.mdb", SQLite::OPEN_READWRITE)
+      .exec(
+          "create trigger t before delete on Candidatures begin select raise(abort, 'no'); end;"
+          "insert into Candidatures (Num) values (1)");
+  const std::string refused = Refusal([&] { Open().DeleteRow(1); });
+  EXPECT_TRUE(refused.ends_with("le moteur de base de données signale l’erreur n°\u00A019.")) << refused;
+}
+
 TEST_F(StoreTest, ASecondProgramThatHoldsTheBaseIsNamed) {
   SQLite::Database other("Talvor.mdb", SQLite::OPEN_READWRITE);
   other.exec("begin exclusive");
