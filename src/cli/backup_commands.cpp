@@ -44,7 +44,8 @@ ExitCode Sauvegarder(const std::string& workspace, const std::string& folder, Co
   const fs::path target = fs::absolute(folder).lexically_normal();
   BackupForm backup(workspace, console);
   if (!backup.form.SauverDans(target / "Talvor.mdb")) return Refused;
-  console.out << backup.form.progress.files << " fichiers copiés dans "
+  console.out << backup.form.progress.files
+              << (backup.form.progress.files < 2 ? " fichier copié dans " : " fichiers copiés dans ")
               << LandingOf(fs::current_path(), target).string() << '\n';
   return Done;
 }
@@ -59,7 +60,9 @@ ExitCode Restaurer(const std::string& workspace, const std::string& folder, Cons
   const bool itself =
       fs::exists(given / "Talvor.mdb", missing) || !fs::exists(inside / "Talvor.mdb", missing);
   if (!backup.form.Restaurer(itself ? given : inside, data)) return Refused;
-  console.out << backup.form.progress.files << " fichiers restaurés dans " << data.string() << '\n';
+  console.out << backup.form.progress.files
+              << (backup.form.progress.files < 2 ? " fichier restauré dans " : " fichiers restaurés dans ")
+              << data.string() << '\n';
   return Done;
 }
 
