@@ -192,7 +192,7 @@ bool FormLoadSave::Restaurer(const fs::path& source, const fs::path& destination
     CopyOptions options = Options();
     options.kept = KeptFolder();
     options.beforeReplacing = [this](const fs::path& arrived) {
-      static_cast<void>(Database::OpenFile(arrived / DatabaseName, around_.clock));
+      Database::OpenFile(arrived / DatabaseName, around_.clock).CheckSound();
       if (fermerDocuments) fermerDocuments();
     };
     CopyContents(source, destination, options, *steps_);
@@ -230,7 +230,7 @@ bool FormLoadSave::Nouvel() {
   if (!answer) return false;
   const bool done = Try(LoadProblem, [&] {
     const fs::path folder = FolderOfAnswer(*answer);
-    static_cast<void>(Database::OpenFile(folder / DatabaseName, around_.clock));
+    Database::OpenFile(folder / DatabaseName, around_.clock).CheckSound();
     if (fermerDocuments) fermerDocuments();
     std::error_code error;
     fs::current_path(folder, error);

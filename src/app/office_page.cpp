@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdint>
 #include <optional>
+#include <vector>
 
 #include "app/picture.h"
 #include "base/fonctionnel.h"
@@ -18,6 +19,13 @@ namespace {
 constexpr std::array<TextView, 17> LeftOut{u"applet", u"audio", u"base",  u"bgsound", u"embed",   u"frame",
                                            u"iframe", u"image", u"input", u"link",    u"meta",    u"object",
                                            u"source", u"svg",   u"track", u"video",   u"frameset"};
+
+// The attributes that say how a text looks or where it leads; any other may fetch or run something.
+constexpr std::array<TextView, 27> Kept{
+    u"align", u"bgcolor", u"border",  u"bordercolor", u"cellpadding", u"cellspacing", u"class",
+    u"color", u"colspan", u"dir",     u"face",        u"height",      u"href",        u"id",
+    u"lang",  u"name",    u"noshade", u"nowrap",      u"rowspan",     u"rules",       u"size",
+    u"start", u"style",   u"title",   u"type",        u"valign",      u"width"};
 
 bool IsAsciiLetter(char16_t c) { return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z'); }
 bool IsBlank(char16_t c) { return c == u' ' || c == u'\t' || c == u'\r' || c == u'\n' || c == u'\f'; }
@@ -35,7 +43,7 @@ void BlankOut(Text& text, TextView what, TextView by) {
     text.replace(at, what.size(), by);
 }
 
-// A style fetches what stands in url(...) and behind @import, a tag by its background.
+// A style fetches what stands in url(...) and behind @import.
 void Disarm(Text& styled) {
   BlankOut(styled, u"url(", u"non(");
   BlankOut(styled, u"@import", u"@ignore");
@@ -74,25 +82,69 @@ Text TagName(TextView tag) {
   return LowerCase(tag.substr(1, end - 1));
 }
 
-// The value of an attribute, `name` in lower case; nothing without one.
-std::optional<Text> Attribute(TextView tag, TextView name) {
-  std::size_t at = 1;
-  while (at < tag.size()) {
-    while (at < tag.size() && !IsBlank(tag[at])) ++at;
+// «h1», «/p»; declarations and what another reader might divide otherwise are none.
+bool IsElementName(TextView name) {
+  if (name.starts_with(u'/')) name.remove_prefix(1);
+  return !name.empty() && std::all_of(name.begin(), name.end(), [](char16_t c) {
+    return IsAsciiLetter(c) || (c >= u'0' && c <= u'9');
+  });
+}
+
+struct Attribute {
+  Text name;  // in lower case
+  std::optional<Text> value;
+};
+
+std::vector<Attribute> AttributesOf(TextView tag) {
+  std::vector<Attribute> found;
+  std::size_t at = 1 + TagName(tag).size();
+  const auto skipBlanks = [&] {
     while (at < tag.size() && IsBlank(tag[at])) ++at;
+  };
+  while (at < tag.size()) {
     const std::size_t begin = at;
     while (at < tag.size() && (IsAsciiLetter(tag[at]) || tag[at] == u'-')) ++at;
-    const Text found = LowerCase(tag.substr(begin, at - begin));
-    if (at >= tag.size() || tag[at] != u'=') continue;
+    if (at == begin) {
+      ++at;
+      continue;
+    }
+    found.push_back({LowerCase(tag.substr(begin, at - begin)), std::nullopt});
+    skipBlanks();
+    if (at == tag.size() || tag[at] != u'=') continue;
     ++at;
+    skipBlanks();
     const bool quoted = at < tag.size() && (tag[at] == u'"' || tag[at] == u'\'');
     const std::size_t value = at + (quoted ? 1 : 0);
     std::size_t end = value;
     while (end < tag.size() && (quoted ? tag[end] != tag[at] : !IsBlank(tag[end]) && tag[end] != u'>')) ++end;
-    if (found == name) return Text{tag.substr(value, end - value)};
-    at = quoted ? std::min(end + 1, tag.size()) : end;
+    found.back().value = tag.substr(value, end - value);
+    at = quoted ? end + 1 : end;
   }
+  return found;
+}
+
+// The value of an attribute, `name` in lower case; nothing without one.
+std::optional<Text> ValueOf(const std::vector<Attribute>& attributes, TextView name) {
+  for (const Attribute& attribute : attributes)
+    if (attribute.name == name && attribute.value) return attribute.value;
   return std::nullopt;
+}
+
+// As it stands in the copy; empty for a value that would end before its time.
+Text Written(const Attribute& attribute) {
+  if (!attribute.value) return u' ' + attribute.name;
+  if (Contains(*attribute.value, u"\"")) return {};
+  Text disarmed = *attribute.value;
+  Disarm(disarmed);
+  return u' ' + attribute.name + u"=\"" + disarmed + u'"';
+}
+
+// The tag anew, with what may stay of it.
+Text HarmlessTag(TextView tag, const Text& name) {
+  Text copy = u'<' + name;
+  for (const Attribute& attribute : AttributesOf(tag))
+    if (std::find(Kept.begin(), Kept.end(), attribute.name) != Kept.end()) copy += Written(attribute);
+  return copy + u'>';
 }
 
 std::string Base64(std::string_view bytes) {
@@ -109,29 +161,23 @@ std::string Base64(std::string_view bytes) {
   return text;
 }
 
-// A style keeps its border and its colour; nothing in it can end the attribute.
-Text StyleAttribute(TextView tag) {
-  const auto style = Attribute(tag, u"style");
-  if (!style || Contains(*style, u"\"")) return {};
-  Text disarmed = *style;
-  Disarm(disarmed);
-  return u" style=\"" + disarmed + u"\"";
-}
-
 // The picture inside the page with both its measures; empty for one that does not lie in the folder.
 Text EmbeddedPicture(TextView tag, const std::filesystem::path& folder) {
   constexpr double WidestWidth = 2000;
-  const auto name = Attribute(tag, u"src");
+  const auto attributes = AttributesOf(tag);
+  const auto name = ValueOf(attributes, u"src");
   if (!name || !IsBareName(*name)) return {};
   const auto file = ExistingFile(FileIn(folder, *name));
   const auto bytes = file ? ReadBytes(*file) : std::nullopt;
   const auto kind = bytes ? PictureKindOf(*bytes) : std::nullopt;
   if (!kind) return {};
-  double width = ValeurNumerique(Attribute(tag, u"width").value_or(Text{}));
+  double width = ValeurNumerique(ValueOf(attributes, u"width").value_or(Text{}));
   if (width < 1 || width > WidestWidth) width = std::min<double>(kind->width, WidestWidth);
   const double height = std::max(1.0, width * kind->height / kind->width);
-  return u"<img" + StyleAttribute(tag) + u" src=\"data:" + *FromUtf8(kind->mimeType) + u";base64," +
-         *FromUtf8(Base64(*bytes)) + u"\" width=" + NumberText(static_cast<long long>(width)) + u" height=" +
+  const auto style = ValueOf(attributes, u"style");
+  return u"<img" + (style ? Written({u"style", style}) : Text{}) + u" src=\"data:" +
+         *FromUtf8(kind->mimeType) + u";base64," + *FromUtf8(Base64(*bytes)) + u"\" width=" +
+         NumberText(static_cast<long long>(width)) + u" height=" +
          NumberText(static_cast<long long>(height + 0.5)) + u">";
 }
 
@@ -167,10 +213,8 @@ class PageCopy {
       return;
     }
     if (std::find(LeftOut.begin(), LeftOut.end(), name) != LeftOut.end()) return;
-    Text kept{tag.substr(1)};
-    Disarm(kept);
-    BlankOut(kept, u"background=", u"bg-ignored=");
-    copy_ += u'<' + kept;
+    if (!IsElementName(name)) return;
+    copy_ += HarmlessTag(tag, name);
     if (name == u"style") TakeStyleSheet();
   }
 

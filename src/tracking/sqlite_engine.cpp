@@ -9,9 +9,6 @@ namespace {
 
 constexpr int BusyMilliseconds = 2000;
 
-// The code of a row or column that was asked for and is not there.
-constexpr int MissingInBase = -1;
-
 // Takes one code point off UTF-8 that the store itself has written; a stray byte stands for itself.
 char32_t TakeCodePoint(std::string_view& bytes) {
   const auto at = [&](std::size_t i) -> char32_t { return static_cast<unsigned char>(bytes[i]); };
@@ -67,7 +64,6 @@ std::string Cause(const SQLite::Exception& failure) {
     case SQLITE_TOOBIG:
       return "un texte est trop long pour la base.";
     case SQLITE_ERROR:
-    case MissingInBase:
       return "la base n’a pas la structure attendue.";
     default:
       return "le moteur de base de données signale l’erreur n°\u00A0" +
@@ -94,9 +90,16 @@ void RegisterCollation(SQLite::Database& connection) {
                                                 Collate, nullptr));
 }
 
-void PrepareConnection(SQLite::Database& connection, const Clock& clock) {
+void RestrictConnection(SQLite::Database& connection) {
   connection.setBusyTimeout(BusyMilliseconds);
-  RegisterCollation(connection);
+  constexpr int Off = 0;
+  for (const int freedom :
+       {SQLITE_DBCONFIG_ENABLE_TRIGGER, SQLITE_DBCONFIG_ENABLE_VIEW, SQLITE_DBCONFIG_TRUSTED_SCHEMA})
+    Check(connection, sqlite3_db_config(connection.getHandle(), freedom, Off, nullptr));
+  Check(connection, sqlite3_db_config(connection.getHandle(), SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr));
+}
+
+void PrepareConnection(SQLite::Database& connection, const Clock& clock) {
   // SQLite hands the pointer back as it got it, and AnswerToday only reads through it.
   void* const user = const_cast<Clock*>(&clock);
   Check(connection, sqlite3_create_function_v2(connection.getHandle(), "date", 0, SQLITE_UTF8, user,

@@ -14,9 +14,11 @@ namespace talvor {
 // The name under which the schema's text columns ask for the collation.
 inline constexpr const char* CollationName = "SansCasse";
 
-// Registers the collation and the function date(), which answers today's serial from the clock.
-void PrepareConnection(SQLite::Database& connection, const Clock& clock);
+// Takes from the schema of the file what it could do by itself: triggers, views, functions of the program.
+void RestrictConnection(SQLite::Database& connection);
 void RegisterCollation(SQLite::Database& connection);
+// Registers the function date(), which answers today's serial from the clock, and the way of writing.
+void PrepareConnection(SQLite::Database& connection, const Clock& clock);
 
 // Orders two UTF-8 texts without regard to case.
 int CompareUtf8IgnoringCase(std::string_view a, std::string_view b) noexcept;

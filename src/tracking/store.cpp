@@ -164,8 +164,11 @@ class Database::Engine {
  public:
   Engine(fs::path path, const Clock& clock) : file(std::move(path)), connection(OpenConnection(file)) {
     Reporting(file, [&] {
-      PrepareConnection(connection, clock);
+      RestrictConnection(connection);
+      RegisterCollation(connection);
       CheckVersion();
+      CheckColumns();
+      PrepareConnection(connection, clock);
     });
   }
 
@@ -191,8 +194,22 @@ class Database::Engine {
     if (version > SchemaVersion)
       throw StoreError(file.string() +
                        "\u00A0: la base a été écrite par une version plus récente de Talvor.");
-    if (version < SchemaVersion || !connection.tableExists("Candidatures"))
-      throw StoreError(file.string() + "\u00A0: ce fichier n’est pas une base de candidatures.");
+    if (version < SchemaVersion || !connection.tableExists("Candidatures")) throw NoSuchBase();
+  }
+
+  // Compiled only: a name that the table lacks is refused there.
+  void CheckColumns() {
+    const std::string columns = ForEachColumn(0, [](const auto& name) { return name; });
+    try {
+      const SQLite::Statement all(connection, "select " + columns + " from Candidatures");
+    } catch (const SQLite::Exception& failure) {
+      if (failure.getErrorCode() != SQLITE_ERROR) throw;
+      throw NoSuchBase();
+    }
+  }
+
+  StoreError NoSuchBase() const {
+    return StoreError(file.string() + "\u00A0: ce fichier n’est pas une base de candidatures.");
   }
 };
 
@@ -222,6 +239,15 @@ void Database::Create(const fs::path& file) {
   });
   fs::rename(draft, file, error);
   if (error) throw StoreError(file.string() + "\u00A0: la base ne peut pas être créée.");
+}
+
+void Database::CheckSound() {
+  Engine& engine = Opened();
+  Reporting(engine.file, [&] {
+    // One row, « ok », or a row for each fault.
+    const std::string found = engine.connection.execAndGet("PRAGMA quick_check").getString();
+    if (found != "ok") throw SQLite::Exception(found, SQLITE_CORRUPT);
+  });
 }
 
 bool Database::IsOpen() const noexcept { return engine_ != nullptr; }
@@ -270,7 +296,10 @@ PendingRow Database::BeginRow() {
   Engine& engine = Opened();
   const auto next = Reporting(engine.file, [&] {
     SQLite::Transaction transaction(engine.connection, SQLite::TransactionBehavior::IMMEDIATE);
-    engine.connection.exec("update sqlite_sequence set seq = seq + 1 where name = 'Candidatures'");
+    // Another program may have emptied the table of the numbers given.
+    if (engine.connection.exec("update sqlite_sequence set seq = seq + 1 where name = 'Candidatures'") == 0)
+      engine.connection.exec(
+          "insert into sqlite_sequence select 'Candidatures', coalesce(max(Num), 0) + 1 from Candidatures");
     const auto number =
         engine.connection.execAndGet("select seq from sqlite_sequence where name = 'Candidatures'")
             .getInt64();

@@ -55,6 +55,9 @@ class Database {
   // Makes an empty database in `file`; one that stands there is left alone.
   static void Create(const std::filesystem::path& file);
 
+  // Reads the whole file; throws when it is damaged anywhere. For a file that comes from elsewhere.
+  void CheckSound();
+
   [[nodiscard]] bool IsOpen() const noexcept;
   void Close() noexcept;
 

@@ -189,6 +189,8 @@ TEST_F(FormLoadSaveTest, WhatIsNoWorkspaceIsRefusedBeforeAnythingChanges) {
   newer.at(63) = 2;  // the last byte of the version of the schema
   std::string torn = whole;
   torn.replace(100, 400, 400, '\xFF');
+  std::string worn = whole;
+  worn.replace(worn.size() - 4096, 4096, 4096, 'Z');  // opens, and fails at the rows
   const auto before = Snapshot(Home());
   form->fermerDocuments = [] { ADD_FAILURE() << "the documents close for a base that is not taken"; };
   // The folder around each of these bases is one that could be restored.
@@ -196,6 +198,7 @@ TEST_F(FormLoadSaveTest, WhatIsNoWorkspaceIsRefusedBeforeAnythingChanges) {
                                    {"nothing"s, ""s},
                                    {"newer"s, newer},
                                    {"torn"s, torn},
+                                   {"worn"s, worn},
                                    {"half"s, whole.substr(0, whole.size() / 2)}}) {
     const fs::path copy = Key() / name / "Talvor";
     fs::create_directory(copy.parent_path());

@@ -167,8 +167,15 @@ TEST_F(StoreTest, AFileThatIsNoBaseOfOursIsRefusedAndLeftUntouched) {
     EXPECT_NE(Refusal([&] { static_cast<void>(Open()); }).find(cause), std::string::npos) << cause;
     EXPECT_EQ(ReadBytes("Talvor.mdb"), bytes) << cause;
   };
-  SQLite::Database("Talvor.mdb", SQLite::OPEN_READWRITE).exec("PRAGMA user_version = 2");
+  SQLite::Database("Talvor.mdb", SQLite::OPEN_READWRITE)
+      .exec("PRAGMA user_version = 2; PRAGMA journal_mode = WAL");
   refused(*ReadBytes("Talvor.mdb"), "plus récente");
+  SQLite::Database("Talvor.mdb", SQLite::OPEN_READWRITE)
+      .exec("PRAGMA user_version = 1; alter table Candidatures rename column Lettre to Courrier");
+  refused(*ReadBytes("Talvor.mdb"), "n’est pas une base de candidatures");
+  SQLite::Database("Talvor.mdb", SQLite::OPEN_READWRITE)
+      .exec("drop table Candidatures; create view Candidatures as select 1 as Num");
+  refused(*ReadBytes("Talvor.mdb"), "n’est pas une base de candidatures");
   refused(std::string(5000, 'x'), "n’est pas une base de données");
   refused("", "n’est pas une base de candidatures");
   std::filesystem::remove("Talvor.mdb");
@@ -177,16 +184,47 @@ TEST_F(StoreTest, AFileThatIsNoBaseOfOursIsRefusedAndLeftUntouched) {
   EXPECT_NE(Refusal([&] { static_cast<void>(Open()); }).find("ouverte"), std::string::npos);
 }
 
-TEST_F(StoreTest, WhatAnotherProgramHasTakenOutOfTheBaseIsToldInFrench) {
-  SQLite::Database("Talvor.mdb", SQLite::OPEN_READWRITE).exec("delete from sqlite_sequence");
-  const std::string told = "Talvor.mdb\u00A0: la base n’a pas la structure attendue.";
-  EXPECT_TRUE(Refusal([&] { Insert({}); }).ends_with(told)) << "no last number";
+TEST_F(StoreTest, ARefusalOfTheEngineIsToldInFrenchAlone) {
+  const auto change = [](const char* order) {
+    SQLite::Database base("Talvor.mdb", SQLite::OPEN_READWRITE);
+    RegisterCollation(base);
+    base.exec(order);
+  };
+  change("create unique index Seule on Candidatures (Lieu)");
+  Insert({});
+  const std::string refused = Refusal([&] { Insert({}); });
+  EXPECT_TRUE(
+      refused.ends_with("Talvor.mdb\u00A0: le moteur de base de données signale l’erreur n°\u00A019."))
+      << refused;
+  Database opened = Open();
+  const PendingRow row = opened.BeginRow();
+  change("alter table Candidatures rename column Ville to Bourg");
+  const std::string other = Refusal([&] { opened.Save(row, {}); });
+  EXPECT_TRUE(other.ends_with("Talvor.mdb\u00A0: la base n’a pas la structure attendue.")) << other;
+}
+
+TEST_F(StoreTest, AForeignSchemaDoesNothingByItself) {
   SQLite::Database("Talvor.mdb", SQLite::OPEN_READWRITE)
       .exec(
-          "create trigger t before delete on Candidatures begin select raise(abort, 'no'); end;"
-          "insert into Candidatures (Num) values (1)");
-  const std::string refused = Refusal([&] { Open().DeleteRow(1); });
-  EXPECT_TRUE(refused.ends_with("le moteur de base de données signale l’erreur n°\u00A019.")) << refused;
+          "create trigger Gone after insert on Candidatures begin delete from Candidatures; end;"
+          "create trigger Endless before update on Candidatures begin select (with recursive n(x) as "
+          "(select 1 union all select x from n) select count(*) from n); end;");
+  EXPECT_EQ(Insert({.DateEnvoi = DaysAgo(40), .Statut = Text{ListeStatuts[1]}}), 1);
+  Open().AgeStatuses();
+  EXPECT_EQ(Read(1).Statut, ListeStatuts[2]);
+
+  SQLite::Database("Talvor.mdb", SQLite::OPEN_READWRITE).exec("delete from sqlite_sequence");
+  EXPECT_EQ(Insert({.Intitule = u"deux"}), 2) << "the numbers go on behind the rows";
+}
+
+TEST_F(StoreTest, ADamagedPageIsFoundBeforeItIsNeeded) {
+  for (int i = 0; i < 200; ++i) Insert({.Description = Text(300, u'x')});
+  EXPECT_NO_THROW(Open().CheckSound());
+  std::string bytes = *ReadBytes("Talvor.mdb");
+  const std::size_t behind = bytes.size() / 2 / 4096 * 4096;
+  bytes.replace(behind, 4096, std::string(4096, '\x5A'));
+  std::ofstream{"Talvor.mdb", std::ios::binary} << bytes;
+  EXPECT_NE(Refusal([&] { Open().CheckSound(); }).find("endommagée"), std::string::npos);
 }
 
 TEST_F(StoreTest, ASecondProgramThatHoldsTheBaseIsNamed) {
