@@ -186,6 +186,11 @@ TEST_F(CommandLineTest, ADataFolderIsCopiedAndTakenBackEvenOverADamagedBase) {
   EXPECT_EQ(saved.code, Done) << saved.err;
   EXPECT_NE(saved.out.find("sous-dossier/d\n"), std::string::npos) << saved.out;
 
+  // A copy into what is a data folder itself would take its base away.
+  const auto base = ReadBytes("clé/sous-dossier/d/Talvor.mdb");
+  EXPECT_EQ(Talvorctl({"--espace", "d", "sauvegarder", "clé/sous-dossier/d"}).code, Refused);
+  EXPECT_EQ(ReadBytes("clé/sous-dossier/d/Talvor.mdb"), base);
+
   std::ofstream{"d/Talvor.mdb"} << std::string(2000, 'x');
   for (const char* given : {"clé/sous-dossier", "clé/sous-dossier/d"}) {
     const Result restored = Talvorctl({"--espace", "d", "restaurer", given});
