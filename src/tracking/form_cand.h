@@ -133,6 +133,7 @@ class FormCand : public CandidatureDetail {
   [[nodiscard]] Text Today() const;
   [[nodiscard]] std::optional<std::int32_t> Key() const;
   void EnregistrerLigne();
+  void DeleteAllRows();
   bool RefuseDate(TextView field, const Text& value);
   void TellBadDate(TextView field, TextView value);
   void MontrerCadreWeb();
