@@ -136,8 +136,8 @@ class Copy {
       return NumberText(static_cast<long long>(bytes / Megabyte));
     };
     throw CopyFailure(u"Il n’y a pas assez de place dans " + Quoted(disk) + u"\u00A0: la copie demande " +
-                      megabytes(progress_.byteCount) + u" Mo, il en reste " + megabytes(space.available) +
-                      u".");
+                      megabytes(progress_.byteCount) + u"\u00A0Mo, il en reste " +
+                      megabytes(space.available) + u".");
   }
 
   bool Report() const { return !options_.onProgress || options_.onProgress(progress_); }

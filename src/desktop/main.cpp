@@ -8,6 +8,7 @@
 
 #include "app/host.h"
 #include "app/installation.h"
+#include "base/failure_cause.h"
 #include "desktop/application.h"
 #include "desktop/desktop.h"
 #include "desktop/platform/qt_dialogs.h"
@@ -74,6 +75,6 @@ int main(int argc, char** argv) {
     if (!desktop.Start()) return EXIT_FAILURE;
     return Application::exec();
   } catch (const std::exception& failure) {
-    EndWith(failure.what());
+    EndWith(ToUtf8(ReportOf(failure)));
   }
 }

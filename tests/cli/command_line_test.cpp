@@ -35,7 +35,7 @@ TEST_F(CommandLineTest, AnAdvertisementBecomesARowThatTheListShows) {
   EXPECT_EQ(detail.size(), 25u);
   EXPECT_EQ(detail["Societe"], "ACME");
   EXPECT_EQ(detail["Description"], "Caissier\r\nSociété : Acme\r\nfin\r\n");
-  EXPECT_NE(Talvorctl({"--espace", "d", "candidature", "1"}).out.find("\nStatut : NON EMISE\n"),
+  EXPECT_NE(Talvorctl({"--espace", "d", "candidature", "1"}).out.find("\nStatut\u00A0: NON EMISE\n"),
             std::string::npos);
 }
 
@@ -197,6 +197,10 @@ TEST_F(CommandLineTest, ADataFolderIsCopiedAndTakenBackEvenOverADamagedBase) {
     EXPECT_EQ(restored.code, Done) << restored.err;
     EXPECT_EQ(Talvorctl({"--espace", "d", "candidatures"}).out, before);
   }
+  std::filesystem::create_directory("seule");
+  std::filesystem::copy("clé/sous-dossier/d/Talvor.mdb", "seule");
+  const std::string told = Talvorctl({"--espace", "d", "restaurer", "seule"}).out;
+  EXPECT_TRUE(told.starts_with("1 fichier restauré dans ")) << told;
   EXPECT_EQ(Talvorctl({"--espace", "d", "restaurer", "clé"}).code, Refused);
   EXPECT_EQ(Talvorctl({"--espace", "absent", "sauvegarder", "x"}).code, Refused);
 }
