@@ -3,6 +3,7 @@
 #include <fstream>
 #include <nlohmann/json.hpp>
 
+#include "base/line_file.h"
 #include "tests/cli/talvorctl.h"
 #include "tests/fakes/scratch_folder.h"
 
