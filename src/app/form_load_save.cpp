@@ -148,7 +148,9 @@ bool FormLoadSave::SauverDans(const fs::path& answer) {
     WorkspaceSteps steps(*steps_, around_.clock);
     steps.SettleCrash();
     try {
-      CopierDossier(source, answer.parent_path(), Options(), steps);
+      CopyOptions options = Options();
+      options.linksInDestination = false;
+      CopierDossier(source, answer.parent_path(), options, steps);
     } catch (const std::runtime_error& failure) {
       if (!removed) throw;
       throw CopyFailure(MessageOf(failure) + u" L’ancienne base «\u00A0" + TextOf(answer).value_or(Text{}) +
@@ -191,6 +193,7 @@ bool FormLoadSave::Restaurer(const fs::path& source, const fs::path& destination
     CheckDatabase(source);
     CopyOptions options = Options();
     options.kept = KeptFolder();
+    options.linksInSource = false;
     options.beforeReplacing = [this](const fs::path& arrived) {
       Database::OpenFile(arrived / DatabaseName, around_.clock).CheckSound();
       if (fermerDocuments) fermerDocuments();

@@ -43,6 +43,11 @@ ExitCode Sauvegarder(const std::string& workspace, const std::string& folder, Co
   // Before the process moves: the folder is relative to where the user stands.
   const fs::path target = fs::absolute(folder).lexically_normal();
   BackupForm backup(workspace, console);
+  std::error_code missing;
+  if (fs::exists(target / "Talvor.mdb", missing))
+    throw CommandError(
+        "«\u00A0" + target.string() +
+        "\u00A0» est lui-même un dossier de données\u00A0: choisissez celui qui doit le contenir");
   if (!backup.form.SauverDans(target / "Talvor.mdb")) return Refused;
   console.out << backup.form.progress.files
               << (backup.form.progress.files < 2 ? " fichier copié dans " : " fichiers copiés dans ")

@@ -253,6 +253,28 @@ TEST_F(FormLoadSaveTest, AFolderThatCannotBeCopiedIntoIsRefused) {
   EXPECT_EQ(Snapshot(Home()), before);
 }
 
+TEST_F(FormLoadSaveTest, ALinkOnAKeyLeadsNowhere) {
+  ASSERT_TRUE(Save()) << ToUtf8(Told());
+  const auto before = Snapshot(Home());
+  Write(scratch.Path() / "secret", "secret");
+  fs::create_symlink(scratch.Path() / "secret", Key() / "Talvor/CV/x.dat");
+  EXPECT_FALSE(Load(Key() / "Talvor/Talvor.mdb"));
+  EXPECT_TRUE(Contains(Told(), u"est un lien")) << ToUtf8(Told());
+  EXPECT_EQ(Snapshot(Home()), before);
+
+  fs::remove_all(Key() / "Talvor/CV");
+  fs::create_directory(scratch.Path() / "ailleurs");
+  fs::create_directory_symlink(scratch.Path() / "ailleurs", Key() / "Talvor/CV");
+  EXPECT_FALSE(Save());
+  EXPECT_TRUE(fs::is_empty(scratch.Path() / "ailleurs"));
+  // The user's own folder may stand on another disk.
+  fs::remove(Key() / "Talvor/CV");
+  fs::rename(Home() / "CV", scratch.Path() / "autre disque");
+  fs::create_directory_symlink(scratch.Path() / "autre disque", Home() / "CV");
+  EXPECT_TRUE(Save()) << ToUtf8(Told());
+  EXPECT_TRUE(Load(Key() / "Talvor/Talvor.mdb")) << ToUtf8(Told());
+}
+
 TEST_F(FormLoadSaveTest, TheFirstFolderOfTheNameEndsThePath) {
   ASSERT_TRUE(Save());
   const fs::path inner = Home() / "dossier" / "Talvor";

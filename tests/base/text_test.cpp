@@ -118,6 +118,9 @@ TEST(Files, WritingReplacesTheOldFileAndAFailureSaysSo) {
   EXPECT_TRUE(WriteBytes("absent/a.dat", "x"));
   EXPECT_FALSE(ReadBytes("absent").has_value());
   EXPECT_FALSE(ReadBytes(".").has_value()) << "a folder is no file";
+  std::filesystem::resize_file("a.dat", LargestFile + 1);
+  EXPECT_FALSE(ReadBytes("a.dat").has_value());
+  EXPECT_EQ(ReadFailure("a.dat"), std::errc::file_too_large);
 }
 
 TEST(Files, APipeOfThatNameIsNoFileAndHoldsNobodyUp) {

@@ -3,6 +3,7 @@
 #include <fstream>
 #include <nlohmann/json.hpp>
 
+#include "base/line_file.h"
 #include "tests/cli/talvorctl.h"
 #include "tests/fakes/scratch_folder.h"
 
@@ -185,6 +186,11 @@ TEST_F(CommandLineTest, ADataFolderIsCopiedAndTakenBackEvenOverADamagedBase) {
   const Result saved = Talvorctl({"--espace", "d", "sauvegarder", "clé/sous-dossier"});
   EXPECT_EQ(saved.code, Done) << saved.err;
   EXPECT_NE(saved.out.find("sous-dossier/d\n"), std::string::npos) << saved.out;
+
+  // A copy into what is a data folder itself would take its base away.
+  const auto base = ReadBytes("clé/sous-dossier/d/Talvor.mdb");
+  EXPECT_EQ(Talvorctl({"--espace", "d", "sauvegarder", "clé/sous-dossier/d"}).code, Refused);
+  EXPECT_EQ(ReadBytes("clé/sous-dossier/d/Talvor.mdb"), base);
 
   std::ofstream{"d/Talvor.mdb"} << std::string(2000, 'x');
   for (const char* given : {"clé/sous-dossier", "clé/sous-dossier/d"}) {
