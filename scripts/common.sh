@@ -112,7 +112,7 @@ install_packages() {
   mapfile -t missing < <(missing_packages "$@")
   [ "${#missing[@]}" -gt 0 ] || return 0
   for package in "${missing[@]}"; do say "   à installer : $package"; done
-  advice="Installez ces paquets en administrateur, puis relancez : apt-get install ${missing[*]}"
+  advice="Installez ces paquets en administrateur, puis relancez : apt-get install ${missing[*]}"
   logged apt-update as_root apt-get update -qq ||
     say "   la liste des paquets n’a pas pu être mise à jour ; essai avec celle qui est là"
   logged apt-install as_root apt-get install -y --no-install-recommends \

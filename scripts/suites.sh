@@ -55,7 +55,7 @@ fetch_react() {
     mkdir -p "$folder"
     if ! command -v npm >/dev/null || ! (cd "$folder" && logged "npm-$name" npm pack --silent "$name@$version") ||
       ! tar -xzOf "$folder/$name-$version.tgz" "package/umd/$name.production.min.js" >"$folder/$name.js"; then
-      say "   $name $version n’a pas pu être téléchargé avec npm : le test des formulaires React sera sauté"
+      say "   $name $version n’a pas pu être téléchargé avec npm : le test des formulaires React sera sauté"
       return 0
     fi
     mv "$folder/$name.js" "$folder/$name.production.min.js"
@@ -118,7 +118,7 @@ run_house_rules() {
 check_format() {
   local files=()
   mapfile -t files < <(sources '*.cpp' '*.h')
-  advice='Mettez en forme : clang-format -i sur les fichiers ci-dessus, puis relancez ./check.'
+  advice='Mettez en forme : clang-format -i sur les fichiers ci-dessus, puis relancez ./check.'
   clang-format --dry-run -Werror "${files[@]}" || count 0 1
   count 1 0
 }

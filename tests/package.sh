@@ -24,7 +24,11 @@ if [ -x "$work/usr/bin/talvor" ]; then
   export QT_QPA_PLATFORM=offscreen
   [ "$(id -u)" -ne 0 ] || export QTWEBENGINE_DISABLE_SANDBOX=1
   status=0
-  timeout 10 "$work/usr/bin/talvor" 2>"$work/errors" || status=$?
+  timeout 10 "$work/usr/bin/talvor" 2>"$work/errors" &
+  sleep 5
+  second=$(timeout 3 "$work/usr/bin/talvor" 2>&1) || true
+  wait $! || status=$?
+  grep -q 'déjà ouvert' <<<"$second" || fault "a second program has opened the same folder: $second"
   [ "$status" -eq 124 ] || fault "talvor ended with $status: $(cat "$work/errors")"
   share=$work/usr/share
   desktop-file-validate "$share/applications/talvor.desktop" || fault 'desktop entry'

@@ -102,6 +102,7 @@ class Copy {
 
   void Take(const fs::directory_entry& entry, const fs::path& name, const std::vector<fs::path>& ancestors) {
     std::error_code error;
+    if (!options_.linksInSource) RefuseLink(entry.path());
     if (entry.is_directory(error)) return Collect(entry.path(), name, ancestors);
     if (!entry.is_regular_file(error)) {
       if (!entry.exists(error)) throw CopyFailure(entry.path(), LinkToNothing());
@@ -111,6 +112,12 @@ class Copy {
     Require(error, entry.path());
     files_.push_back({name, size});
     progress_.byteCount += size;
+  }
+
+  static void RefuseLink(const fs::path& file) {
+    std::error_code error;
+    if (fs::is_symlink(file, error))
+      throw CopyFailure(Quoted(file) + u" est un lien vers un autre endroit\u00A0: il n’est pas suivi.");
   }
 
   static std::error_code LinkToNothing() {
@@ -129,8 +136,8 @@ class Copy {
       return NumberText(static_cast<long long>(bytes / Megabyte));
     };
     throw CopyFailure(u"Il n’y a pas assez de place dans " + Quoted(disk) + u"\u00A0: la copie demande " +
-                      megabytes(progress_.byteCount) + u" Mo, il en reste " + megabytes(space.available) +
-                      u".");
+                      megabytes(progress_.byteCount) + u"\u00A0Mo, il en reste " +
+                      megabytes(space.available) + u".");
   }
 
   bool Report() const { return !options_.onProgress || options_.onProgress(progress_); }
@@ -183,6 +190,7 @@ class Copy {
 
   void MakeFolder(const fs::path& folder) {
     std::error_code error;
+    if (!options_.linksInDestination && folder != destination_) RefuseLink(folder);
     if (fs::is_directory(folder, error)) return;
     fs::create_directory(folder, error);
     Require(error, folder);

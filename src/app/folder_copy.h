@@ -50,10 +50,14 @@ struct CopyOptions {
   std::function<void(const std::filesystem::path& arrived)> beforeReplacing;
   // Where the files that are replaced stay, made when there are any; empty to let them go.
   std::filesystem::path kept;
+  // False for a folder that comes from elsewhere, a key: a link there may lead to any file of the user's,
+  // so it ends the copy. Elsewhere links are followed.
+  bool linksInSource = true;
+  bool linksInDestination = true;
 };
 
 // Copies what the folder `source` holds into the folder `destination`, made when it is missing; files of
-// the same name are replaced, the others stay. Links are followed. Throws CopyFailure when it cannot be
+// the same name are replaced, the others stay. Throws CopyFailure when it cannot be
 // done, when the user has stopped it, and when the one folder is the other or `destination` lies in
 // `source`.
 void CopyContents(const std::filesystem::path& source, const std::filesystem::path& destination,

@@ -55,8 +55,11 @@ class WorkspaceSteps : public CopySteps {
   std::error_code Put(const fs::path& from, const fs::path& to) override { return steps_.Put(from, to); }
   std::error_code Settle(const fs::path& folder) override { return steps_.Settle(folder); }
 
-  // False for a base that the engine refuses: its file is copied as it stands. Opening it also settles
-  // what a crash has left beside it.
+  // Rolls back what a crash has left beside the base, which opening it does.
+  void SettleCrash() const { static_cast<void>(Readable()); }
+
+ private:
+  // False for a base that the engine refuses: its file is copied as it stands.
   bool Readable() const {
     try {
       return Database::Open(clock_).IsOpen();
@@ -65,7 +68,6 @@ class WorkspaceSteps : public CopySteps {
     }
   }
 
- private:
   CopySteps& steps_;
   const Clock& clock_;
 };
@@ -144,9 +146,11 @@ bool FormLoadSave::SauverDans(const fs::path& answer) {
     CheckFolders(source, LandingOf(source, answer.parent_path()));
     const bool removed = RemoveOldDatabase(answer);
     WorkspaceSteps steps(*steps_, around_.clock);
-    static_cast<void>(steps.Readable());
+    steps.SettleCrash();
     try {
-      CopierDossier(source, answer.parent_path(), Options(), steps);
+      CopyOptions options = Options();
+      options.linksInDestination = false;
+      CopierDossier(source, answer.parent_path(), options, steps);
     } catch (const std::runtime_error& failure) {
       if (!removed) throw;
       throw CopyFailure(MessageOf(failure) + u" L’ancienne base «\u00A0" + TextOf(answer).value_or(Text{}) +
@@ -189,6 +193,7 @@ bool FormLoadSave::Restaurer(const fs::path& source, const fs::path& destination
     CheckDatabase(source);
     CopyOptions options = Options();
     options.kept = KeptFolder();
+    options.linksInSource = false;
     options.beforeReplacing = [this](const fs::path& arrived) {
       Database::OpenFile(arrived / DatabaseName, around_.clock).CheckSound();
       if (fermerDocuments) fermerDocuments();

@@ -24,8 +24,11 @@ Text ApplicationData() {
   return home.empty() ? Text{} : home + u"/.local/share";
 }
 
+// Where the session has a folder of the user's own, no other user comes first with a file's name.
 Text TemporaryFiles() {
   std::error_code error;
+  const Text own = Set("XDG_RUNTIME_DIR");
+  if (own.starts_with(u'/') && std::filesystem::is_directory(PathOf(own), error)) return own;
   const auto folder = std::filesystem::temp_directory_path(error);
   return error ? Text{u"/tmp"} : TextOf(folder).value_or(Text{});
 }

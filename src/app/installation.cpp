@@ -1,5 +1,7 @@
 #include "app/installation.h"
 
+#include <algorithm>
+
 #include "tracking/store.h"
 
 namespace talvor {
@@ -20,6 +22,13 @@ void InstallerDossier(const fs::path& folder, const fs::path& delivered) {
   for (const char* name : {"Modeles", "propositions.txt", "Listesites.txt", "listesites.htm", "DocWord.doc"})
     CopyMissing(delivered / name, folder / name);
   Database::Create(folder / "Talvor.mdb");
+}
+
+bool DatabaseIsLost(const fs::path& folder) {
+  std::error_code missing;
+  if (fs::exists(folder / "Talvor.mdb", missing)) return false;
+  return std::any_of(fs::directory_iterator{folder / "Sauvegardes", missing}, {},
+                     [](const auto& entry) { return entry.path().extension() == ".mdb"; });
 }
 
 fs::path DeliveredFiles() {

@@ -12,6 +12,9 @@ namespace talvor {
 // the database, and std::filesystem::filesystem_error when a folder or file cannot be made.
 void InstallerDossier(const std::filesystem::path& folder, const std::filesystem::path& delivered);
 
+// True where copies of a database stand while the database itself is gone.
+[[nodiscard]] bool DatabaseIsLost(const std::filesystem::path& folder);
+
 // Where the files delivered with the program stand: beside an installed program, or in the sources of a
 // build that has not been installed.
 [[nodiscard]] std::filesystem::path DeliveredFiles();

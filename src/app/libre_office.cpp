@@ -8,28 +8,13 @@
 #include "app/temporary_folder.h"
 #include "base/code_page.h"
 #include "base/failure_cause.h"
+#include "base/file_address.h"
 #include "base/line_file.h"
 
 namespace talvor {
 namespace {
 
 namespace fs = std::filesystem;
-
-// The address of a folder: every byte outside the plain ones is told by its number.
-std::string FileAddress(const fs::path& folder) {
-  constexpr std::string_view Plain = "/-._~";
-  constexpr std::string_view Digits = "0123456789ABCDEF";
-  std::string address = "file://";
-  for (const char c : folder.string()) {
-    const auto byte = static_cast<unsigned char>(c);
-    const bool letter = (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9');
-    if (letter || Plain.find(c) != std::string_view::npos)
-      address += c;
-    else
-      address.append({'%', Digits[byte >> 4], Digits[byte & 15]});
-  }
-  return address;
-}
 
 // What the program said, without the lines that it says each time.
 Text Said(const std::string& output) {
@@ -89,9 +74,9 @@ Text LibreOffice::Convert(const fs::path& page, const fs::path& target) const {
   const TemporaryFolder outcome(folder);
   const std::string ending = ToUtf8(LowerCase(TextOf(target.extension()).value_or(Text{})));
   const ProcessEnd end =
-      RunProcess({program, "-env:UserInstallation=" + FileAddress(scratch.Path() / "profil"), "--headless",
-                  "--norestore", "--infilter=HTML (StarWriter)", "--convert-to", ending.substr(1), "--outdir",
-                  outcome.Path().string(), copy.string()},
+      RunProcess({program, "-env:UserInstallation=" + ToUtf8(FileAddress(scratch.Path() / "profil")),
+                  "--headless", "--norestore", "--infilter=HTML (StarWriter)", "--convert-to",
+                  ending.substr(1), "--outdir", outcome.Path().string(), copy.string()},
                  limit, whileWaiting);
   const fs::path made = outcome.Path() / ("cv" + ending);
   if (end.kind != ProcessEnd::Kind::Exited || end.exitCode != 0 || !fs::exists(made)) return FaultOf(end);

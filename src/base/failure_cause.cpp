@@ -1,6 +1,8 @@
 #include "base/failure_cause.h"
 
 #include <array>
+#include <new>
+#include <stdexcept>
 
 namespace talvor {
 namespace {
@@ -38,7 +40,7 @@ constexpr std::array<Cause, 20> Causes{{
 Text CauseOf(const std::error_code& failure) {
   for (const Cause& cause : Causes)
     if (failure == cause.condition) return Text{cause.words};
-  return u"erreur n° " + NumberText(failure.value());
+  return u"erreur n°\u00A0" + NumberText(failure.value());
 }
 
 Text ReportOf(const std::filesystem::filesystem_error& failure) {
@@ -47,6 +49,17 @@ Text ReportOf(const std::filesystem::filesystem_error& failure) {
   const Text what =
       path.empty() ? Text{u"Le dossier de travail ou le dossier temporaire"} : u"«\u00A0" + path + u"\u00A0»";
   return what + u"\u00A0: " + CauseOf(failure.code()) + u".";
+}
+
+Text ReportOf(const std::exception& failure) {
+  if (const auto* ofFile = dynamic_cast<const std::filesystem::filesystem_error*>(&failure))
+    return ReportOf(*ofFile);
+  if (dynamic_cast<const std::bad_alloc*>(&failure)) return u"La mémoire est insuffisante.";
+  if (const auto* ofSystem = dynamic_cast<const std::system_error*>(&failure))
+    return u"Le système a refusé une opération\u00A0: " + CauseOf(ofSystem->code()) + u".";
+  const Text said = FromUtf8(failure.what()).value_or(Text{});
+  if (dynamic_cast<const std::runtime_error*>(&failure)) return said;
+  return u"Erreur interne du programme\u00A0: «\u00A0" + said + u"\u00A0».";
 }
 
 }  // namespace talvor

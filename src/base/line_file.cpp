@@ -33,6 +33,7 @@ std::optional<Text> TextOf(const std::filesystem::path& path) { return FromUtf8(
 std::optional<std::string> ReadBytes(const std::filesystem::path& file) {
   std::error_code error;
   if (!std::filesystem::is_regular_file(file, error)) return std::nullopt;
+  if (std::filesystem::file_size(file, error) > LargestFile) return std::nullopt;
   std::ifstream stream{file, std::ios::binary};
   std::string bytes;
   std::array<char, 65536> block{};
@@ -47,6 +48,8 @@ std::error_code ReadFailure(const std::filesystem::path& file) {
   const int descriptor = ::open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
   if (descriptor < 0) return LastError();
   ::close(descriptor);
+  if (std::filesystem::file_size(file, error) > LargestFile && !error)
+    return std::make_error_code(std::errc::file_too_large);
   return std::make_error_code(std::errc::io_error);
 }
 

@@ -1,6 +1,7 @@
 // The text files of the workspace: lines of code page 1252 that end in CR LF.
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -15,6 +16,9 @@ namespace talvor {
 // The path of a name or path given as a text, and back; a path that is not UTF-8 has no text.
 [[nodiscard]] std::filesystem::path PathOf(TextView text);
 [[nodiscard]] std::optional<Text> TextOf(const std::filesystem::path& path);
+
+// Documents and pictures are far smaller; a file beyond that, which a key may hold, is not read.
+inline constexpr std::uintmax_t LargestFile = 256U << 20;
 
 // The bytes of a regular file, nothing when it cannot be read to its end.
 [[nodiscard]] std::optional<std::string> ReadBytes(const std::filesystem::path& file);

@@ -43,8 +43,14 @@ ExitCode Sauvegarder(const std::string& workspace, const std::string& folder, Co
   // Before the process moves: the folder is relative to where the user stands.
   const fs::path target = fs::absolute(folder).lexically_normal();
   BackupForm backup(workspace, console);
+  std::error_code missing;
+  if (fs::exists(target / "Talvor.mdb", missing))
+    throw CommandError(
+        "«\u00A0" + target.string() +
+        "\u00A0» est lui-même un dossier de données\u00A0: choisissez celui qui doit le contenir");
   if (!backup.form.SauverDans(target / "Talvor.mdb")) return Refused;
-  console.out << backup.form.progress.files << " fichiers copiés dans "
+  console.out << backup.form.progress.files
+              << (backup.form.progress.files < 2 ? " fichier copié dans " : " fichiers copiés dans ")
               << LandingOf(fs::current_path(), target).string() << '\n';
   return Done;
 }
@@ -59,7 +65,9 @@ ExitCode Restaurer(const std::string& workspace, const std::string& folder, Cons
   const bool itself =
       fs::exists(given / "Talvor.mdb", missing) || !fs::exists(inside / "Talvor.mdb", missing);
   if (!backup.form.Restaurer(itself ? given : inside, data)) return Refused;
-  console.out << backup.form.progress.files << " fichiers restaurés dans " << data.string() << '\n';
+  console.out << backup.form.progress.files
+              << (backup.form.progress.files < 2 ? " fichier restauré dans " : " fichiers restaurés dans ")
+              << data.string() << '\n';
   return Done;
 }
 

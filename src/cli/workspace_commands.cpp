@@ -96,7 +96,7 @@ ExitCode UneCandidature(const std::string& workspace, std::int32_t num, bool jso
     // The lines of a long text stand under its name, one step in.
     const Text shown =
         Contains(value, LineEnd) ? u"\n    " + ReplaceAll(value, LineEnd, u"\n    ") : u" " + value;
-    console.out << ToUtf8(field.name) << " :" << ToUtf8(shown) << '\n';
+    console.out << ToUtf8(field.name) << "\u00A0:" << ToUtf8(shown) << '\n';
   }
   return Done;
 }

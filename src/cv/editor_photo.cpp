@@ -32,7 +32,7 @@ void FormRédigerCV::RattacherPhoto() {
   if (!chosen) return;
   auto picture = ReadBytes(*chosen);
   // The bytes are copied as they stand, whatever kind of picture they are.
-  const auto failure = picture ? WriteBytes(PhotoFile(NomCV), *picture) : ReadFailure(*chosen);
+  const auto failure = picture ? SaveDocument(PhotoFile(NomCV), *picture) : ReadFailure(*chosen);
   if (failure)
     return around_.dialogs.Tell(u"La photographie «\u00A0" + TextOf(*chosen).value_or(Text{}) +
                                 u"\u00A0» n’a pas pu être copiée\u00A0: " + CauseOf(failure) + u".");
@@ -50,7 +50,7 @@ void FormRédigerCV::CollerPhoto() {
 
 void FormRédigerCV::SupprimerPhoto() {
   std::error_code ignored;  // a photo that is not there is gone already
-  std::filesystem::remove(PhotoFile(NomCV), ignored);
+  static_cast<void>(DeleteDocument(PhotoFile(NomCV)));
   std::filesystem::remove(PhotoFile(u"Photo"), ignored);
   Photo.clear();
   VisualisationCV();

@@ -32,12 +32,9 @@ Application::Application(int& argc, char** argv) : QApplication(WithSchemes(argc
 bool Application::notify(QObject* receiver, QEvent* event) {
   try {
     return QApplication::notify(receiver, event);
-  } catch (const std::filesystem::filesystem_error& failure) {
-    if (!OnFailure) throw;
-    OnFailure(ToUtf8(ReportOf(failure)));
   } catch (const std::exception& failure) {
     if (!OnFailure) throw;
-    OnFailure(failure.what());
+    OnFailure(ToUtf8(ReportOf(failure)));
   }
   return false;
 }

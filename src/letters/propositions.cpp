@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/code_page.h"
 #include "base/fonctionnel.h"
 #include "base/line_file.h"
 
@@ -21,7 +22,14 @@ void Propositions::Take(std::span<const Text> lines) {
   std::copy_n(lines.begin(), std::min(lines.size(), Positions), lines_.begin());
 }
 
-void Propositions::Load() { Take(ReadLines(PropositionsFile()).value_or(std::vector<Text>{})); }
+// The user opens the file in an editor of choice, and most of today's leave it in UTF-8.
+void Propositions::Load() {
+  const std::string bytes = ReadBytes(PropositionsFile()).value_or(std::string());
+  constexpr std::string_view Mark = "\xEF\xBB\xBF";
+  const std::string_view text = std::string_view{bytes}.substr(bytes.starts_with(Mark) ? Mark.size() : 0);
+  const auto utf8 = FromUtf8(text);
+  Take(SplitLines(utf8 ? *utf8 : FromCodePage(text)));
+}
 
 void Propositions::FillEmpty(std::array<Text, CorpsCount>& corps) const {
   for (std::size_t p = 0; p + 1 < Positions; ++p)

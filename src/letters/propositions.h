@@ -24,7 +24,8 @@ class Propositions {
 
   // Takes the first 31 lines; what they do not fill is empty.
   void Take(std::span<const Text> lines);
-  // Takes the lines of PropositionsFile(); without the file the table is empty.
+  // Takes the lines of PropositionsFile(), in UTF-8 or, when its bytes are none, in the code page; without
+  // the file the table is empty.
   void Load();
 
   // Puts the first sentence of each group, of those at positions 0 to 29, where `Corps` is empty.

@@ -1,6 +1,7 @@
 #include "reports/printed_reports.h"
 
 #include "base/code_page.h"
+#include "base/file_address.h"
 #include "base/line_file.h"
 
 namespace talvor {
@@ -76,23 +77,6 @@ void InterviewRow(Text& page, const RowView& row) {
               u"SIZE=2>-</td><td valign=top><FONT SIZE=2>-</td><td><font size=1>-</font></td><td><font "
               u"size=2>-</font>"
               u"</td><td><font size=2>-</font></td></tr>"});
-}
-
-// The address of a file: bytes that mean something in an address are written as percent codes.
-Text FileAddress(const std::filesystem::path& file) {
-  static constexpr TextView Hexadecimal = u"0123456789ABCDEF";
-  static constexpr std::string_view Plain = "-._~/";
-  Text address = u"file://";
-  for (const char byte : std::filesystem::absolute(file).string()) {
-    const auto code = static_cast<unsigned char>(byte);
-    const bool letterOrDigit =
-        (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z') || (byte >= '0' && byte <= '9');
-    if (letterOrDigit || Plain.find(byte) != std::string_view::npos)
-      address += static_cast<char16_t>(code);
-    else
-      address.append({u'%', Hexadecimal[code / 16], Hexadecimal[code % 16]});
-  }
-  return address;
 }
 
 }  // namespace

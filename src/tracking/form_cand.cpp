@@ -56,10 +56,16 @@ void FormCand::ValeursParDefaut() {
 bool FormCand::RefuseDate(TextView field, const Text& value) {
   if (DateValide(value)) return false;
   shell_.Focus(FormName, field);
-  Refus = {Text{field}, value, Text{messages::BadDate}};
-  dialogs_.Tell(messages::BadDate);
+  TellBadDate(field, value);
   return true;
 }
+
+void FormCand::TellBadDate(TextView field, TextView value) {
+  Refus = {Text{field}, Text{value}, Text{messages::BadDate}};
+  dialogs_.Tell(messages::BadDate);
+}
+
+void FormCand::RefuserDateRDV(TextView typed) { TellBadDate(u"DateRDV", typed); }
 
 bool FormCand::ControleSaisie() {
   Refus.reset();

@@ -100,6 +100,8 @@ class FormCand : public CandidatureDetail {
   // True if the fields can be saved; the first fault is told, stands in `Refus` and, being a date, takes
   // the focus. `DateRDV` is not looked at.
   [[nodiscard]] bool ControleSaisie();
+  // What a text field keeps from `DateRDV` because it is no date: told, and in `Refus`.
+  void RefuserDateRDV(TextView typed);
   // Saves the detail as a new row or over its own; the only writer of rows. Throws StoreError when the
   // engine refuses, a `DateRDV` that is no date included.
   void Valider();
@@ -131,7 +133,9 @@ class FormCand : public CandidatureDetail {
   [[nodiscard]] Text Today() const;
   [[nodiscard]] std::optional<std::int32_t> Key() const;
   void EnregistrerLigne();
+  void DeleteAllRows();
   bool RefuseDate(TextView field, const Text& value);
+  void TellBadDate(TextView field, TextView value);
   void MontrerCadreWeb();
   void ViderControles();
   void DeleteOn(Database& database);

@@ -1,11 +1,13 @@
 // `FormCand`: the tree of the candidatures, its sort options, its clicks and the search panel.
 
 #include <algorithm>
+#include <filesystem>
 #include <limits>
 
 #include "base/fonctionnel.h"
 #include "tracking/form_cand.h"
 #include "tracking/form_cand_messages.h"
+#include "workspace/workspace_paths.h"
 
 namespace talvor {
 namespace {
@@ -60,16 +62,27 @@ void FormCand::ClicNoeud(TextView key) {
   if (OuvrirMenuItemCand) OuvrirMenuItemCand();
 }
 
+// The rows go only once a copy of them stands.
+void FormCand::DeleteAllRows() {
+  Database database = Database::Open(clock_);
+  if (database.CountRows() > 0) {
+    std::error_code exists;
+    std::filesystem::create_directories(workspace_paths::BackupFolder(), exists);
+    database.BackUp(workspace_paths::BackupFolder() / "Avant suppression.mdb");
+  }
+  database.DeleteAllRows();
+}
+
 void FormCand::ToutSupprimer() {
   if (!dialogs_.Confirm(messages::ConfirmDeleteAll)) return;
-  Database::Open(clock_).DeleteAllRows();
+  DeleteAllRows();
   principale_.ImageMenu[Principale::CandidatureSlot].picture = SlotPicture::ImageNew;
   InitListe();
 }
 
 void FormCand::MenuSupprimer() {
   if (!dialogs_.Confirm(messages::ConfirmDeleteAllFromMenu)) return;
-  Database::Open(clock_).DeleteAllRows();
+  DeleteAllRows();
   principale_.ImageMenu[Principale::CandidatureSlot].picture = SlotPicture::ImageNew;
   Liste = {};
   ++ListeVersion;

@@ -63,8 +63,11 @@ std::string Cause(const SQLite::Exception& failure) {
       return "la mémoire est insuffisante.";
     case SQLITE_TOOBIG:
       return "un texte est trop long pour la base.";
+    case SQLITE_ERROR:
+      return "la base n’a pas la structure attendue.";
     default:
-      return std::string{"le moteur de base de données signale «\u00A0"} + failure.what() + "\u00A0».";
+      return "le moteur de base de données signale l’erreur n°\u00A0" +
+             std::to_string(failure.getErrorCode()) + ".";
   }
 }
 

@@ -154,7 +154,8 @@ void BindColumn(SQLite::Statement& statement, const fs::path& file, std::size_t 
 }
 
 StoreError NoSuchRow(const fs::path& file, std::int32_t num) {
-  return StoreError(file.string() + "\u00A0: la candidature n° " + std::to_string(num) + " n’existe plus.");
+  return StoreError(file.string() + "\u00A0: la candidature n°\u00A0" + std::to_string(num) +
+                    " n’existe plus.");
 }
 
 }  // namespace

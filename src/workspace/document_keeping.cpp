@@ -14,9 +14,19 @@ bool IsFile(const fs::path& file) {
   return fs::is_regular_file(file, unreadable);
 }
 
-// Moves each kept version one place on; the newest place is free afterwards.
+// A clock that was set back makes no version recent.
+bool IsRecent(const fs::path& version) {
+  std::error_code error;
+  const auto written = fs::last_write_time(version, error);
+  const auto now = fs::file_time_type::clock::now();
+  return !error && written <= now && now - written < KeptVersionsApart;
+}
+
+// Moves each kept version one place on; the newest place is free afterwards. While the second one is
+// recent, the newest gives way instead, so that a run of saves does not push out what stood before it.
 std::error_code MakePlaceForNewest(const fs::path& document) {
   std::error_code error;
+  if (IsFile(KeptVersion(document, 2)) && IsRecent(KeptVersion(document, 2))) return error;
   for (int age = KeptVersions - 1; age >= 1 && !error; --age)
     if (IsFile(KeptVersion(document, age)))
       fs::rename(KeptVersion(document, age), KeptVersion(document, age + 1), error);

@@ -1,6 +1,7 @@
 // How documents of the workspace (CVs, letter models) are found, kept and saved.
 #pragma once
 
+#include <chrono>
 #include <filesystem>
 #include <optional>
 #include <string_view>
@@ -11,6 +12,8 @@
 namespace talvor {
 
 inline constexpr int KeptVersions = 5;
+// The last version is always kept; the four before it lie at least so far apart.
+inline constexpr std::chrono::minutes KeptVersionsApart{10};
 
 // The path of a file in a folder. The two are joined as texts, so that a name that begins with "/"
 // stays inside.
@@ -25,7 +28,7 @@ inline constexpr int KeptVersions = 5;
 [[nodiscard]] std::filesystem::path KeptVersion(const std::filesystem::path& document, int age);
 
 // Writes a document anew in the place of the old file, whatever the case of its name. Before that the
-// old version joins the five kept ones and pushes the oldest out; one that is kept already is not kept
+// old version joins the five kept ones and pushes one of them out; one that is kept already is not kept
 // twice. The error, if any step failed: the old file then stands as it was.
 [[nodiscard]] std::error_code SaveDocument(const std::filesystem::path& document, std::string_view bytes);
 

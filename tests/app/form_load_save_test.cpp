@@ -4,6 +4,7 @@
 
 #include <fstream>
 #include <map>
+#include <set>
 
 #include "app/installation.h"
 #include "app/start_up.h"
@@ -17,12 +18,14 @@ namespace talvor {
 namespace {
 
 namespace fs = std::filesystem;
+using namespace std::string_literals;
 
 // The real steps, one of which fails: the `failAt`-th copy or, counted on from there, renaming.
 class FailingSteps : public CopySteps {
  public:
   std::error_code CopyFile(const fs::path& from, const fs::path& to,
                            const std::function<bool(std::uintmax_t)>& onBytes) override {
+    copied.insert(from);
     if (Fails()) return Failure();
     if (!byLinks) return CopySteps::CopyFile(from, to, onBytes);
     std::error_code error;
@@ -36,7 +39,8 @@ class FailingSteps : public CopySteps {
 
   int failAt = 0;
   int step = 0;
-  bool byLinks = false;  // the names without the bytes, for copies that are going to fail
+  std::set<fs::path> copied;  // what was copied as a file
+  bool byLinks = false;       // the names without the bytes, for copies that are going to fail
 
  private:
   bool Fails() { return ++step == failAt; }
@@ -178,20 +182,66 @@ TEST_F(FormLoadSaveTest, AFailedRestoreLeavesTheLiveDataAsItStood) {
 }
 
 TEST_F(FormLoadSaveTest, WhatIsNoWorkspaceIsRefusedBeforeAnythingChanges) {
+  ASSERT_TRUE(Save()) << ToUtf8(Told());
+  Write("CV/Été.dat", "retouché");
+  const std::string whole = *ReadBytes(Key() / "Talvor/Talvor.mdb");
+  std::string newer = whole;
+  newer.at(63) = 2;  // the last byte of the version of the schema
+  std::string torn = whole;
+  torn.replace(100, 400, 400, '\xFF');
+  std::string worn = whole;
+  worn.replace(worn.size() - 4096, 4096, 4096, 'Z');  // opens, and fails at the rows
   const auto before = Snapshot(Home());
-  fs::create_directory(Key() / "Talvor");
-  Write(Key() / "Talvor/CV", "a file where a folder stands");
-  EXPECT_FALSE(Load(Key() / "Talvor/Talvor.mdb")) << "no database there";
+  form->fermerDocuments = [] { ADD_FAILURE() << "the documents close for a base that is not taken"; };
+  // The folder around each of these bases is one that could be restored.
+  for (const auto& [name, base] : {std::pair{"text"s, "ceci n’est pas une base"s},
+                                   {"nothing"s, ""s},
+                                   {"newer"s, newer},
+                                   {"torn"s, torn},
+                                   {"worn"s, worn},
+                                   {"half"s, whole.substr(0, whole.size() / 2)}}) {
+    const fs::path copy = Key() / name / "Talvor";
+    fs::create_directory(copy.parent_path());
+    fs::copy(Key() / "Talvor", copy, fs::copy_options::recursive);
+    Write(copy / "Talvor.mdb", base);
+    EXPECT_FALSE(Load(copy / "Talvor.mdb")) << name;
+    EXPECT_TRUE(Told().starts_with(u"Problème lors du chargement. ")) << name << ' ' << ToUtf8(Told());
+    EXPECT_EQ(Snapshot(Home()), before) << name;
+  }
   EXPECT_FALSE(Load(Key() / "Talvor/Autre.mdb"));
   EXPECT_TRUE(Contains(Told(), u"Talvor.mdb"));
-  Write(Key() / "Talvor/Talvor.mdb", "ceci n’est pas une base");
-  EXPECT_FALSE(Load(Key() / "Talvor/Talvor.mdb"));
-  Database::Create(Key() / "autre.mdb");
-  fs::rename(Key() / "autre.mdb", Key() / "Talvor/Talvor.mdb");
-  EXPECT_FALSE(Load(Key() / "Talvor/Talvor.mdb")) << "a file cannot replace a folder";
   EXPECT_FALSE(Load(Home() / "Talvor.mdb")) << "the workspace over itself";
+  fs::remove(Key() / "Talvor/Talvor.mdb");
+  EXPECT_FALSE(Load(Key() / "Talvor/Talvor.mdb")) << "no database there";
   EXPECT_EQ(Snapshot(Home()), before);
+}
 
+TEST_F(FormLoadSaveTest, AFileCannotReplaceAFolderAndLeavesWhatItMet) {
+  ASSERT_TRUE(Save()) << ToUtf8(Told());
+  fs::remove_all(Key() / "Talvor/CV");
+  Write(Key() / "Talvor/CV", "a file where a folder stands");
+  AddRow(u"Après");
+  const auto before = Snapshot(Home());
+  EXPECT_FALSE(Load(Key() / "Talvor/Talvor.mdb"));
+  EXPECT_TRUE(Contains(Told(), u"un dossier se trouve à la place du fichier")) << ToUtf8(Told());
+  EXPECT_EQ(Snapshot(Home()), before);
+}
+
+TEST_F(FormLoadSaveTest, TheEngineCopiesABaseThatItCanReadAndAnyOtherIsCopiedAsItStands) {
+  Write("Talvor.mdb-journal", "left by a crash");
+  ASSERT_TRUE(Save()) << ToUtf8(Told());
+  EXPECT_FALSE(steps->copied.contains(Home() / "Talvor.mdb"));
+  EXPECT_TRUE(steps->copied.contains(Home() / "CV/Été.dat"));
+  EXPECT_FALSE(fs::exists(Key() / "Talvor/Talvor.mdb-journal")) << "settled before the files are listed";
+  EXPECT_EQ(Database::OpenFile(Key() / "Talvor/Talvor.mdb", clock).CountRows(), 1);
+
+  Write("Talvor.mdb", "abîmée");
+  ASSERT_TRUE(Save()) << ToUtf8(Told());
+  EXPECT_EQ(*ReadBytes(Key() / "Talvor/Talvor.mdb"), "abîmée");
+}
+
+TEST_F(FormLoadSaveTest, AFolderThatCannotBeCopiedIntoIsRefused) {
+  const auto before = Snapshot(Home());
   // A copy into the folder that is being copied would never end.
   for (const fs::path& inside : {Home(), Home() / "Sauvegardes", Home() / "CV/neuf"}) {
     pickers.file = inside / "Talvor.mdb";
@@ -201,6 +251,28 @@ TEST_F(FormLoadSaveTest, WhatIsNoWorkspaceIsRefusedBeforeAnythingChanges) {
   pickers.file = scratch.Path() / "Talvor.mdb";
   EXPECT_FALSE(form->Sauver()) << "the copy would be the workspace itself";
   EXPECT_EQ(Snapshot(Home()), before);
+}
+
+TEST_F(FormLoadSaveTest, ALinkOnAKeyLeadsNowhere) {
+  ASSERT_TRUE(Save()) << ToUtf8(Told());
+  const auto before = Snapshot(Home());
+  Write(scratch.Path() / "secret", "secret");
+  fs::create_symlink(scratch.Path() / "secret", Key() / "Talvor/CV/x.dat");
+  EXPECT_FALSE(Load(Key() / "Talvor/Talvor.mdb"));
+  EXPECT_TRUE(Contains(Told(), u"est un lien")) << ToUtf8(Told());
+  EXPECT_EQ(Snapshot(Home()), before);
+
+  fs::remove_all(Key() / "Talvor/CV");
+  fs::create_directory(scratch.Path() / "ailleurs");
+  fs::create_directory_symlink(scratch.Path() / "ailleurs", Key() / "Talvor/CV");
+  EXPECT_FALSE(Save());
+  EXPECT_TRUE(fs::is_empty(scratch.Path() / "ailleurs"));
+  // The user's own folder may stand on another disk.
+  fs::remove(Key() / "Talvor/CV");
+  fs::rename(Home() / "CV", scratch.Path() / "autre disque");
+  fs::create_directory_symlink(scratch.Path() / "autre disque", Home() / "CV");
+  EXPECT_TRUE(Save()) << ToUtf8(Told());
+  EXPECT_TRUE(Load(Key() / "Talvor/Talvor.mdb")) << ToUtf8(Told());
 }
 
 TEST_F(FormLoadSaveTest, TheFirstFolderOfTheNameEndsThePath) {

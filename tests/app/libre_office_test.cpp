@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <fstream>
+#include <set>
 
 #include "app/office_page.h"
 #include "app/picture.h"
@@ -87,6 +88,18 @@ TEST_F(OfficePageTest, NothingElseIsReadFromDiskOrNetwork) {
   }
 }
 
+TEST_F(OfficePageTest, APictureOutsideTheFolderOfThePageStaysOut) {
+  fs::create_directories("Modeles/Autre");
+  for (const char* file :
+       {"Photo.jpg", "Modeles/Photo.jpg", "Modeles/Autre/Photo.jpg", "Modeles/.\\Photo.jpg"})
+    ASSERT_FALSE(WriteBytes(file, Png));
+  const auto page = [](const Text& source) { return OfficePage(u"<img src='" + source + u"'>", "Modeles"); };
+  EXPECT_NE(page(u"Photo.jpg"), "");
+  for (const Text& source : {Text{u"../Photo.jpg"}, Text{u"Autre/../../Photo.jpg"}, Text{u"Autre/Photo.jpg"},
+                             Text{u".\\Photo.jpg"}, *TextOf(scratch.Path() / "Photo.jpg")})
+    EXPECT_EQ(page(source), "") << ToUtf8(source);
+}
+
 TEST_F(OfficePageTest, TextsStayAndCharactersOutsideAsciiBecomeReferences) {
   EXPECT_EQ(Page(u"<p title='a > b'>1 < 2 & é € \U0001F600 url(x) \\ &#128515;</p>"),
             "<p title=\"a > b\">1 < 2 & &#233; &#8364; &#128512; url(x) \\ &#128515;</p>");
@@ -165,6 +178,27 @@ TEST_F(LibreOfficeTest, AFailureOfAnyKindIsToldInFrenchAndLeavesTheOldDocument) 
   EXPECT_EQ(office.Export("page.html", "absent/cv.doc"),
             u"Le document n’a pas pu être écrit dans le dossier «\u00A0absent\u00A0»\u00A0: ce fichier ou ce "
             u"dossier n’existe pas.");
+}
+
+// A window of it that is open already would take the conversion over, and its settings would change.
+TEST_F(LibreOfficeTest, ItRunsWithoutWindowOnAProfileOfItsOwnEachTime) {
+  fs::create_directory("à part");
+  ::setenv("TMPDIR", "à part", 1);
+  office.program = Script("printf '%s\\n' \"$@\" > arguments; exit 1");
+  const std::string profile =
+      "-env:UserInstallation=file://" + scratch.Path().string() + "/%C3%A0%20part/.talvor-";
+  std::set<std::string> profiles;
+  for (int run = 0; run < 2; ++run) {
+    EXPECT_FALSE(Export().empty());
+    const auto arguments = SplitLines(*FromUtf8(ReadBytes("arguments").value_or("")));
+    EXPECT_NE(std::find(arguments.begin(), arguments.end(), u"--headless"), arguments.end());
+    const std::string first = arguments.empty() ? "" : ToUtf8(arguments[0]);
+    EXPECT_EQ(first.substr(0, profile.size()), profile);
+    profiles.insert(first);
+  }
+  EXPECT_EQ(profiles.size(), 2u);
+  EXPECT_TRUE(fs::is_empty("à part")) << "the profile goes with the conversion";
+  ::unsetenv("TMPDIR");
 }
 
 TEST_F(LibreOfficeTest, ADocumentWrittenHalfwayNeverBearsTheName) {

@@ -146,5 +146,16 @@ TEST(Installation, LaysDownWhatIsMissingAndNothingElse) {
     EXPECT_TRUE(fs::exists(fs::path{"d"} / name)) << name;
 }
 
+TEST(Installation, ABaseThatHasGoneFromAFolderInUseIsNoticed) {
+  const ScratchFolder scratch;
+  EXPECT_FALSE(DatabaseIsLost("d")) << "a first start";
+  InstallerDossier("d", "livraison");
+  EXPECT_FALSE(DatabaseIsLost("d"));
+  std::ofstream{"d/Sauvegardes/Talvor-2026-03-01.mdb"} << "x";
+  EXPECT_FALSE(DatabaseIsLost("d"));
+  fs::remove("d/Talvor.mdb");
+  EXPECT_TRUE(DatabaseIsLost("d"));
+}
+
 }  // namespace
 }  // namespace talvor

@@ -1,6 +1,11 @@
 #include "base/text.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <future>
 
 #include "base/code_page.h"
 #include "base/line_file.h"
@@ -113,6 +118,19 @@ TEST(Files, WritingReplacesTheOldFileAndAFailureSaysSo) {
   EXPECT_TRUE(WriteBytes("absent/a.dat", "x"));
   EXPECT_FALSE(ReadBytes("absent").has_value());
   EXPECT_FALSE(ReadBytes(".").has_value()) << "a folder is no file";
+  std::filesystem::resize_file("a.dat", LargestFile + 1);
+  EXPECT_FALSE(ReadBytes("a.dat").has_value());
+  EXPECT_EQ(ReadFailure("a.dat"), std::errc::file_too_large);
+}
+
+TEST(Files, APipeOfThatNameIsNoFileAndHoldsNobodyUp) {
+  const ScratchFolder scratch;
+  ASSERT_EQ(::mkfifo("tube", 0600), 0);
+  auto reading = std::async(std::launch::async, [] { return ReadBytes("tube"); });
+  const auto end = reading.wait_for(std::chrono::seconds(5));
+  ::close(::open("tube", O_RDWR | O_NONBLOCK));  // lets go of one who waits for the other end
+  EXPECT_EQ(end, std::future_status::ready);
+  EXPECT_FALSE(reading.get().has_value());
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <fstream>
 #include <nlohmann/json.hpp>
 
+#include "base/line_file.h"
 #include "tests/cli/talvorctl.h"
 #include "tests/fakes/scratch_folder.h"
 
@@ -35,7 +36,7 @@ TEST_F(CommandLineTest, AnAdvertisementBecomesARowThatTheListShows) {
   EXPECT_EQ(detail.size(), 25u);
   EXPECT_EQ(detail["Societe"], "ACME");
   EXPECT_EQ(detail["Description"], "Caissier\r\nSociété : Acme\r\nfin\r\n");
-  EXPECT_NE(Talvorctl({"--espace", "d", "candidature", "1"}).out.find("\nStatut : NON EMISE\n"),
+  EXPECT_NE(Talvorctl({"--espace", "d", "candidature", "1"}).out.find("\nStatut\u00A0: NON EMISE\n"),
             std::string::npos);
 }
 
@@ -186,12 +187,21 @@ TEST_F(CommandLineTest, ADataFolderIsCopiedAndTakenBackEvenOverADamagedBase) {
   EXPECT_EQ(saved.code, Done) << saved.err;
   EXPECT_NE(saved.out.find("sous-dossier/d\n"), std::string::npos) << saved.out;
 
+  // A copy into what is a data folder itself would take its base away.
+  const auto base = ReadBytes("clé/sous-dossier/d/Talvor.mdb");
+  EXPECT_EQ(Talvorctl({"--espace", "d", "sauvegarder", "clé/sous-dossier/d"}).code, Refused);
+  EXPECT_EQ(ReadBytes("clé/sous-dossier/d/Talvor.mdb"), base);
+
   std::ofstream{"d/Talvor.mdb"} << std::string(2000, 'x');
   for (const char* given : {"clé/sous-dossier", "clé/sous-dossier/d"}) {
     const Result restored = Talvorctl({"--espace", "d", "restaurer", given});
     EXPECT_EQ(restored.code, Done) << restored.err;
     EXPECT_EQ(Talvorctl({"--espace", "d", "candidatures"}).out, before);
   }
+  std::filesystem::create_directory("seule");
+  std::filesystem::copy("clé/sous-dossier/d/Talvor.mdb", "seule");
+  const std::string told = Talvorctl({"--espace", "d", "restaurer", "seule"}).out;
+  EXPECT_TRUE(told.starts_with("1 fichier restauré dans ")) << told;
   EXPECT_EQ(Talvorctl({"--espace", "d", "restaurer", "clé"}).code, Refused);
   EXPECT_EQ(Talvorctl({"--espace", "absent", "sauvegarder", "x"}).code, Refused);
 }

@@ -115,6 +115,8 @@ TEST_F(ConvertCommandTest, FaultsAreToldInFrenchAndLeaveTheDocument) {
   std::ofstream{"cv.doc"} << "old";
   std::ofstream{".~lock.cv.doc#"} << "x";
   const std::string cv = "CV/Zo\xC3\xA9 Roy.dat";
+  fs::copy_file("Modeles/M.htm", "M.htm");
+  std::ofstream{"CV/x.dat"} << "Nom=ROY\r\nMod\xE8le=../M.htm\r\n";
   for (const auto& [arguments, code, said] :
        std::vector<std::tuple<std::vector<std::string>, int, std::string>>{
            {{cv, "--vers", "cv.rtf"},
@@ -126,6 +128,9 @@ TEST_F(ConvertCommandTest, FaultsAreToldInFrenchAndLeaveTheDocument) {
            {{"absent.dat", "--vers", "cv.doc"},
             Refused,
             "le CV «\u00A0absent.dat\u00A0» est introuvable ou illisible"},
+           {{"CV/x.dat", "--vers", "a.doc"},
+            Refused,
+            "le modèle «\u00A0../M.htm\u00A0» est introuvable ou illisible"},
            {{cv, "--vers", "cv.doc"},
             Refused,
             "«\u00A0cv.doc\u00A0»\u00A0: Le fichier est en cours d'utilisation. Conversion impossible"},

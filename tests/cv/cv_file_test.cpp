@@ -209,9 +209,14 @@ TEST_F(CvFiles, SavingListsTheCvInTheMenuAndLeavesTheMirrorsAlone) {
 TEST_F(CvFiles, FiveVersionsAreKeptTheNewestFirstAndNoneTwice) {
   CvDocument cv;
   cv.NomCV = u"Essai";
+  const auto later = [] {  // the kept versions have become old
+    for (const auto& kept : fs::directory_iterator{"Sauvegardes/CV"})
+      fs::last_write_time(kept.path(), kept.last_write_time() - KeptVersionsApart);
+  };
   for (int version = 0; version < 8; ++version) {
     cv.Age = NumberText(version);
     ASSERT_TRUE(Save(cv));
+    later();
   }
   ASSERT_TRUE(Save(cv)) << "version 7 joins the kept ones";
   ASSERT_TRUE(Save(cv)) << "and does not join them twice";
@@ -221,6 +226,21 @@ TEST_F(CvFiles, FiveVersionsAreKeptTheNewestFirstAndNoneTwice) {
     EXPECT_EQ(kept.Age, NumberText(8 - age));
   }
   EXPECT_EQ(std::distance(fs::directory_iterator{"Sauvegardes/CV"}, {}), KeptVersions);
+}
+
+TEST_F(CvFiles, ARunOfSavesDoesNotPushOutWhatStoodBeforeIt) {
+  CvDocument cv;
+  cv.NomCV = u"Essai";
+  for (int version = 0; version < 20; ++version) {
+    cv.Age = NumberText(version);
+    ASSERT_TRUE(Save(cv));
+  }
+  for (const auto& [age, version] : {std::pair{1, 18}, std::pair{2, 0}}) {
+    CvDocument kept;
+    ASSERT_TRUE(ReadCv(fs::path{"Sauvegardes/CV"} / ("Essai." + std::to_string(age) + ".dat"), kept));
+    EXPECT_EQ(kept.Age, NumberText(version));
+  }
+  EXPECT_EQ(std::distance(fs::directory_iterator{"Sauvegardes/CV"}, {}), 2);
 }
 
 TEST_F(CvFiles, AnotherCaseOfTheNameIsTheSameFile) {

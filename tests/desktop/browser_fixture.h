@@ -1,6 +1,7 @@
 // The pane of the browser over the sites of the tests, which stand on the loopback address.
 #pragma once
 
+#include <QWebEngineFindTextResult>
 #include <QWebEngineView>
 
 #include "tests/desktop/desktop_fixture.h"
@@ -52,6 +53,14 @@ class BrowserTest : public DesktopTest {
     });
     EXPECT_TRUE(WaitFor([&] { return come; }, Patience));
     return answer;
+  }
+  // How often a text stands on the page, its frames of whatever origin among it.
+  int Found(const QString& text) {
+    int matches = -1;
+    Pages().View()->page()->findText(
+        text, {}, [&](const QWebEngineFindTextResult& result) { matches = result.numberOfMatches(); });
+    EXPECT_TRUE(WaitFor([&] { return matches >= 0; }, Patience));
+    return matches;
   }
   QString Value(const QString& selector) {
     return Inside(QStringLiteral("document.querySelector('%1').value").arg(selector));

@@ -295,6 +295,33 @@ TEST_F(CvWindowTest, WhatIsTypedIsKeptWhenAnotherCvOpensAndWhenTheEditorCloses) 
   EXPECT_TRUE(failures.empty());
 }
 
+TEST_F(CvWindowTest, WhatIsTypedIsSavedBeforeItsFieldIsLeft) {
+  desktop->Cv().OpenFile(u"Ancien.dat");
+  Type("Etudes", QStringLiteral("Licence"));
+  EXPECT_TRUE(
+      WaitFor([&] { return Bytes("CV/Ancien.dat").find("Etudes=Licence") != std::string::npos; }, Patience));
+  EXPECT_TRUE(Find("Etudes")->hasFocus());
+  // A name that is half typed makes no file.
+  Type("Nom", QStringLiteral("Du"));
+  Wait(4000);
+  EXPECT_EQ(Bytes("CV/Du.dat"), "");
+}
+
+TEST_F(CvWindowTest, AnOldIdentityBlockDoesNotUndoWhatWasCorrected) {
+  Find<QPlainTextEdit>("Identite")
+      ->setPlainText(QStringLiteral("Julie Marchand\n12 rue des Lilas\n69003 Lyon"));
+  Find("Fonction")->setFocus();
+  Find<QLineEdit>("Adresse1")->setText(QStringLiteral("77 Rue Longue"));
+  QTest::keyClick(&desktop->Main(), Qt::Key_M, Qt::AltModifier);
+  ASSERT_TRUE(WaitFor([&] { return desktop->Cv().Window() == nullptr; }, Patience));
+  desktop->Cv().OpenNew();
+  ASSERT_TRUE(Find("Identite")->hasFocus());
+  desktop->Cv().OpenFile(u"Marchand Julie.dat");
+  ASSERT_FALSE(Find<QPlainTextEdit>("Identite")->toPlainText().isEmpty());
+  Find("Fonction")->setFocus();
+  EXPECT_EQ(Line("Adresse1"), QStringLiteral("77 Rue Longue"));
+}
+
 TEST_F(CvWindowTest, TheKeyOfAnEntryLeavesTheFieldThatIsTypedIn) {
   Click("SaiseDetaillee");
   Type("Nom", QStringLiteral("Marchand"));

@@ -109,6 +109,28 @@ TEST_F(FormCandWindowTest, ARefusedSaveIsToldOnce) {
   EXPECT_EQ(Read(2).DateEnvoi, u"") << "the refused first save has lost its number";
 }
 
+TEST_F(FormCandWindowTest, AnInterviewTypedSlowlyWaitsForItsDate) {
+  SaveRow(QStringLiteral("Maçon"));
+  auto* interview = Find<QLineEdit>("DateRDV");
+  Type("DateRDV", QStringLiteral("24"));
+  Find<QLineEdit>("Societe")->setText(QStringLiteral("ACME"));
+  Window().Tick3000();
+  EXPECT_EQ(interview->text(), QStringLiteral("24"));
+  EXPECT_EQ(Read(1).Societe, u"ACME") << "the rest is saved";
+  TypeKeys(interview, QStringLiteral("/11/2026 14:30"));
+  Find("Remarques")->setFocus();
+  EXPECT_EQ(dialogs.told, (std::vector<Text>{Text{messages::BadDate}}));
+  EXPECT_TRUE(interview->property("invalid").toBool());
+  interview->setText(QStringLiteral("24/11/2026"));
+  Window().Tick3000();
+  EXPECT_EQ(Read(1).DateRDV, u"24/11/2026");
+
+  interview->setText(QStringLiteral("mardi"));
+  Click("Action0");
+  EXPECT_EQ(interview->text(), QString());
+  EXPECT_TRUE(failures.empty());
+}
+
 TEST_F(FormCandWindowTest, ADeleteOnAStaleHandleIsReportedAndThePopupDeletes) {
   SaveRow(QStringLiteral("Maçon"));
   Click("Action1");

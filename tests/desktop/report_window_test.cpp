@@ -1,4 +1,6 @@
+#include <sys/inotify.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <QDir>
 #include <QFileDialog>
@@ -11,8 +13,10 @@
 #include <QTcpServer>
 #include <QWebEngineScript>
 #include <QWebEngineView>
+#include <array>
 #include <fstream>
 
+#include "base/file_address.h"
 #include "base/line_file.h"
 #include "desktop/platform/print_preview.h"
 #include "tests/desktop/desktop_fixture.h"
@@ -30,8 +34,9 @@ class ReportWindowTest : public DesktopTest {
     base.Save(base.BeginRow(), row);
   }
 
-  // The text of the page on show, once it has come.
+  // The text of the page on show, once it has come with all it fetches.
   QString PageText() {
+    EXPECT_TRUE(WaitFor([&] { return !desktop->Preview().Window()->View().page()->isLoading(); }, 20000));
     QString text;
     bool come = false;
     desktop->Preview().Window()->View().page()->toPlainText([&](const QString& answer) {
@@ -150,15 +155,33 @@ TEST_F(ReportWindowTest, WithoutAPrinterTheSheetIsProposedAmongTheDocumentsOfThe
   qputenv("HOME", before);
 }
 
-TEST_F(ReportWindowTest, AHostileRowReachesNeitherScriptsNorNetworkNorDisk) {
+// A folder that tells whether a file of it has been opened.
+class WatchedFolder {
+ public:
+  explicit WatchedFolder(const std::filesystem::path& folder) {
+    std::filesystem::create_directory(folder);
+    EXPECT_GE(::inotify_add_watch(watch_, folder.c_str(), IN_OPEN), 0);
+  }
+  ~WatchedFolder() { ::close(watch_); }
+  WatchedFolder(const WatchedFolder&) = delete;
+  WatchedFolder& operator=(const WatchedFolder&) = delete;
+
+  // Since the last question.
+  bool Opened() {
+    std::array<char, 4096> events;
+    return ::read(watch_, events.data(), events.size()) > 0;
+  }
+
+ private:
+  int watch_ = ::inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
+};
+
+TEST_F(ReportWindowTest, AHostileRowReachesNeitherScriptsNorNetwork) {
   QTcpServer server;
   ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
   const Text address = u"http://127.0.0.1:" + NumberText(server.serverPort()) + u"/";
-  std::ofstream{"secret.txt"} << "SECRET-DU-DISQUE";
-  const Text disk = u"file://" + *FromUtf8(scratch.Path().string()) + u"/secret.txt";
   Insert({.Intitule = u"<script>document.body.textContent='SCRIPT'</script>",
           .Societe = u"<img src='" + address + u"i.png'><link rel=stylesheet href='" + address + u"s.css'>",
-          .Origine = u"<iframe src='" + disk + u"'></iframe>",
           .Reference = u"<meta http-equiv=refresh content=\"0;url=" + address + u"\">",
           .Statut = u"<body onload=\"location='" + address + u"'\">reste"});
   Click("Image7");
@@ -166,8 +189,24 @@ TEST_F(ReportWindowTest, AHostileRowReachesNeitherScriptsNorNetworkNorDisk) {
   const QString text = PageText();
   EXPECT_TRUE(text.contains(QStringLiteral("Liste des candidatures"))) << text.toStdString();
   EXPECT_TRUE(text.contains(QStringLiteral("reste")));
-  EXPECT_FALSE(text.contains(QStringLiteral("SECRET-DU-DISQUE")));
   EXPECT_FALSE(server.hasPendingConnections());
+}
+
+TEST_F(ReportWindowTest, AHostileRowReachesNoOtherFile) {
+  WatchedFolder folder("disque");
+  for (const char* file : {"disque/f.htm", "disque/i.png", "disque/s.css", "disque/o.txt"})
+    std::ofstream{file} << "td { display: none }";
+  ASSERT_TRUE(folder.Opened()) << "the watch sees an opening";
+  const Text disk = FileAddress("disque") + u"/";
+  Insert({.Origine = u"<img src='" + disk + u"i.png'><iframe src='" + disk + u"f.htm'></iframe>",
+          .Reference = u"<link rel=stylesheet href='" + disk + u"s.css'><object data='" + disk +
+                       u"o.txt'></object><embed src='" + disk + u"o.txt'>",
+          .Statut = u"reste"});
+  Click("Image7");
+  Wait(500);  // what was to be read would have been read by now
+  const QString text = PageText();
+  EXPECT_TRUE(text.contains(QStringLiteral("reste"))) << text.toStdString();
+  EXPECT_FALSE(folder.Opened());
 }
 
 TEST_F(ReportWindowTest, TheStatisticsShowTheRowsAsTheyStandAtOpening) {

@@ -123,5 +123,19 @@ TEST_F(Delivered, LeaveNoTagAndNoTokenInAnyLetter) {
     }
 }
 
+TEST(PropositionsOfAnEditor, AreReadInUtf8AsWell) {
+  const ScratchFolder scratch;
+  for (const std::string bytes : {"1;prêt\r\n1;à l’œuvre\r\n",
+                                  "\xEF\xBB\xBF"
+                                  "1;prêt\n1;à l’œuvre\n",
+                                  "1;pr\xEAt\r\n1;\xE0 l\x92\x9Cuvre\r\n"}) {
+    ASSERT_FALSE(WriteBytes("propositions.txt", bytes));
+    Propositions table;
+    table.Load();
+    EXPECT_EQ(table.Next(0, u""), u"à l’œuvre") << bytes;
+    EXPECT_EQ(table.Previous(0, u"à l’œuvre"), u"prêt") << bytes;
+  }
+}
+
 }  // namespace
 }  // namespace talvor

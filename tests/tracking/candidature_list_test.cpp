@@ -154,6 +154,9 @@ TEST_F(ListTest, DeletingAllAsksFirstAndTheMenuAsksInItsOwnWords) {
   EXPECT_EQ(Count(), 0);
   EXPECT_TRUE(form.Liste.Empty());
   EXPECT_EQ(principale.ImageMenu[10].picture, SlotPicture::ImageNew);
+  // The rows stand in a copy, which a second deletion does not empty.
+  form.ToutSupprimer();
+  EXPECT_EQ(Database::OpenFile("Sauvegardes/Avant suppression.mdb", clock).CountRows(), 1);
 }
 
 TEST_F(ListTest, TheSearchPanelOpensTheStartPageOnce) {

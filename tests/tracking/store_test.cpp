@@ -184,6 +184,25 @@ TEST_F(StoreTest, AFileThatIsNoBaseOfOursIsRefusedAndLeftUntouched) {
   EXPECT_NE(Refusal([&] { static_cast<void>(Open()); }).find("ouverte"), std::string::npos);
 }
 
+TEST_F(StoreTest, ARefusalOfTheEngineIsToldInFrenchAlone) {
+  const auto change = [](const char* order) {
+    SQLite::Database base("Talvor.mdb", SQLite::OPEN_READWRITE);
+    RegisterCollation(base);
+    base.exec(order);
+  };
+  change("create unique index Seule on Candidatures (Lieu)");
+  Insert({});
+  const std::string refused = Refusal([&] { Insert({}); });
+  EXPECT_TRUE(
+      refused.ends_with("Talvor.mdb\u00A0: le moteur de base de données signale l’erreur n°\u00A019."))
+      << refused;
+  Database opened = Open();
+  const PendingRow row = opened.BeginRow();
+  change("alter table Candidatures rename column Ville to Bourg");
+  const std::string other = Refusal([&] { opened.Save(row, {}); });
+  EXPECT_TRUE(other.ends_with("Talvor.mdb\u00A0: la base n’a pas la structure attendue.")) << other;
+}
+
 TEST_F(StoreTest, AForeignSchemaDoesNothingByItself) {
   SQLite::Database("Talvor.mdb", SQLite::OPEN_READWRITE)
       .exec(

@@ -68,7 +68,8 @@ QString BodyText(std::size_t characters) {
 }
 
 QString BodyMarkup() {
-  return Script(QStringLiteral("const body = bodyOf(document); return body ? body.innerHTML : '';"));
+  return Script(
+      QStringLiteral("const body = bodyOf(document); return body ? body.innerHTML.slice(0, 10000000) : '';"));
 }
 
 QString Elements(std::size_t count) {

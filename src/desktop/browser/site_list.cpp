@@ -83,7 +83,7 @@ void SiteList::Fill(const SiteDirectory& directory) {
     const QString address = ToQt(SiteDirectory::AddressOf(row));
     auto* item = new QListWidgetItem(ToQt(SiteDirectory::NameOf(row)), rows_);
     item->setData(AddressRole, address);
-    item->setToolTip(address);
+    item->setToolTip(ToolTipText(SiteDirectory::AddressOf(row)));
   }
 }
 

@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QPointer>
+#include <QTimer>
 #include <QWebEngineCertificateError>
 #include <QWebEngineNewWindowRequest>
 #include <QWebEngineSettings>
@@ -16,16 +17,54 @@
 namespace talvor {
 namespace {
 
+// What no page may do.
+void BuildWalls(QWebEnginePage& page) {
+  using Attribute = QWebEngineSettings::WebAttribute;
+  QWebEngineSettings* rules = page.settings();
+  for (const Attribute off :
+       {Attribute::JavascriptCanOpenWindows, Attribute::JavascriptCanAccessClipboard,
+        Attribute::JavascriptCanPaste, Attribute::LocalContentCanAccessFileUrls,
+        Attribute::LocalContentCanAccessRemoteUrls, Attribute::PluginsEnabled,
+        Attribute::FullScreenSupportEnabled, Attribute::ScreenCaptureEnabled,
+        Attribute::HyperlinkAuditingEnabled, Attribute::AutoLoadIconsForPage,
+        Attribute::NavigateOnDropEnabled, Attribute::FocusOnNavigationEnabled, Attribute::ErrorPageEnabled})
+    rules->setAttribute(off, false);
+  for (const Attribute on : {Attribute::PlaybackRequiresUserGesture, Attribute::WebRTCPublicInterfacesOnly})
+    rules->setAttribute(on, true);
+}
+
+void DenyPermissions(QWebEnginePage& page) {
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+  QObject::connect(&page, &QWebEnginePage::permissionRequested, &page,
+                   [](QWebEnginePermission permission) { permission.deny(); });
+#else
+  QObject::connect(&page, &QWebEnginePage::featurePermissionRequested, &page,
+                   [&page](const QUrl& origin, QWebEnginePage::Feature feature) {
+                     page.setFeaturePermission(origin, feature, QWebEnginePage::PermissionDeniedByUser);
+                   });
+#endif
+}
+
+// What a page may open elsewhere than in its own place: the engine keeps it from data: and blob: there.
+bool IsOfTheWeb(const QUrl& address) {
+  return address.scheme() == QStringLiteral("http") || address.scheme() == QStringLiteral("https");
+}
+
 // A page opened in a window of its own often gets its address only afterwards, from the script that
 // has opened it: this one waits for it, hands it on and goes.
 class AddressCatcher : public QWebEnginePage {
  public:
-  AddressCatcher(QWebEngineProfile* profile, WebPage* target) : QWebEnginePage(profile, target) {}
+  AddressCatcher(QWebEngineProfile* profile, WebPage* target) : QWebEnginePage(profile, target) {
+    BuildWalls(*this);
+    DenyPermissions(*this);
+    constexpr int LongestMilliseconds = 10000;
+    QTimer::singleShot(LongestMilliseconds, this, &QObject::deleteLater);
+  }
 
  protected:
   bool acceptNavigationRequest(const QUrl& address, NavigationType, bool isMainFrame) override {
     if (!isMainFrame || address.scheme() == QStringLiteral("about")) return true;
-    if (WebPage::Shows(address)) static_cast<WebPage*>(parent())->load(address);
+    if (IsOfTheWeb(address)) static_cast<WebPage*>(parent())->load(address);
     deleteLater();
     return false;
   }
@@ -41,44 +80,17 @@ Text BoxText(const QUrl& origin, const QString& text) {
 
 WebPage::WebPage(QWebEngineProfile* profile, Dialogs& dialogs, QObject* parent)
     : QWebEnginePage(profile, parent), dialogs_(dialogs) {
-  BuildWalls();
-  DenyPermissions();
+  BuildWalls(*this);
+  DenyPermissions(*this);
   connect(this, &QWebEnginePage::certificateError, this,
           [](QWebEngineCertificateError error) { error.rejectCertificate(); });
   connect(this, &QWebEnginePage::newWindowRequested, this, [this](QWebEngineNewWindowRequest& request) {
     const QUrl address = request.requestedUrl();
     if (address.isEmpty() || address.scheme() == QStringLiteral("about"))
       request.openIn(new AddressCatcher(this->profile(), this));
-    else if (Shows(address))
+    else if (IsOfTheWeb(address))
       load(address);
   });
-}
-
-void WebPage::BuildWalls() {
-  using Attribute = QWebEngineSettings::WebAttribute;
-  QWebEngineSettings* rules = settings();
-  for (const Attribute off :
-       {Attribute::JavascriptCanOpenWindows, Attribute::JavascriptCanAccessClipboard,
-        Attribute::JavascriptCanPaste, Attribute::LocalContentCanAccessFileUrls,
-        Attribute::LocalContentCanAccessRemoteUrls, Attribute::PluginsEnabled,
-        Attribute::FullScreenSupportEnabled, Attribute::ScreenCaptureEnabled,
-        Attribute::HyperlinkAuditingEnabled, Attribute::AutoLoadIconsForPage,
-        Attribute::NavigateOnDropEnabled, Attribute::FocusOnNavigationEnabled, Attribute::ErrorPageEnabled})
-    rules->setAttribute(off, false);
-  for (const Attribute on : {Attribute::PlaybackRequiresUserGesture, Attribute::WebRTCPublicInterfacesOnly})
-    rules->setAttribute(on, true);
-}
-
-void WebPage::DenyPermissions() {
-#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
-  connect(this, &QWebEnginePage::permissionRequested, this,
-          [](QWebEnginePermission permission) { permission.deny(); });
-#else
-  connect(this, &QWebEnginePage::featurePermissionRequested, this,
-          [this](const QUrl& origin, QWebEnginePage::Feature feature) {
-            setFeaturePermission(origin, feature, QWebEnginePage::PermissionDeniedByUser);
-          });
-#endif
 }
 
 bool WebPage::Shows(const QUrl& address) {

@@ -33,8 +33,6 @@ class WebPage : public QWebEnginePage {
   }
 
  private:
-  void BuildWalls();
-  void DenyPermissions();
   [[nodiscard]] bool GrantBox();
 
   Dialogs& dialogs_;

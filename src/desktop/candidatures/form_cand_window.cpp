@@ -8,11 +8,15 @@
 #include <QStyle>
 #include <algorithm>
 
+#include "base/day.h"
+#include "base/raised.h"
+
 namespace talvor {
 namespace {
 
 constexpr int ListWidth = 312;
 constexpr int DetailWidth = 502;
+constexpr TextView InterviewField = u"DateRDV";
 
 }  // namespace
 
@@ -32,13 +36,17 @@ FormCandWindow::FormCandWindow(FormCand& form, FormCandCapture& capture, FormCan
   for (int i = 0; i < splitter_->count(); ++i) splitter_->setStretchFactor(i, i);
   row->addWidget(splitter_);
 
-  binder_.BindByName(*this, DetailFields, form_);
+  for (const auto& field : DetailFields)
+    if (auto* widget = findChild<QWidget*>(ToQt(field.name)))
+      binder_.Bind(*widget, field.name == InterviewField ? interview_ : form_.*(field.text));
   if (auto* address = findChild<QWidget*>(QStringLiteral("AdresseWeb")))
     binder_.Bind(*address, form_.AdresseWeb);
   binder_.OnEdited = [this](QWidget& field) {
     if (&field == &detail_->Statut()) detail_->ShowStatusDot(form_.Statut);
+    if (DateValide(interview_)) form_.DateRDV = interviewTaken_ = interview_;
     ShowRefusal();
   };
+  ConnectInterview();
   ConnectList();
   ConnectDetail();
   ConnectWeb();
@@ -51,6 +59,21 @@ FormCandWindow::FormCandWindow(FormCand& form, FormCandCapture& capture, FormCan
   timer2_.start(SaveMilliseconds);
   shownVersion_ = form_.ListeVersion;
   Refresh();
+}
+
+void FormCandWindow::ConnectInterview() {
+  auto* field = findChild<QLineEdit*>(ToQt(InterviewField));
+  if (field == nullptr) return;
+  connect(field, &QLineEdit::editingFinished, this, [this] {
+    if (refusing_ || DateValide(interview_)) return;
+    const Raised refusing(refusing_);  // the box takes the focus, which ends the editing once more
+    Do([&] { form_.RefuserDateRDV(interview_); });
+  });
+}
+
+void FormCandWindow::ShowInterview() {
+  interview_ = interviewTaken_ = form_.DateRDV;
+  interviewRow_ = form_.Num;
 }
 
 void FormCandWindow::ConnectList() {
@@ -68,7 +91,12 @@ void FormCandWindow::ConnectList() {
 }
 
 void FormCandWindow::ConnectDetail() {
-  detail_->OnAction = [this](std::size_t index) { Do([&] { form_.Action(index); }); };
+  detail_->OnAction = [this](std::size_t index) {
+    Do([&] {
+      form_.Action(index);
+      if (form_.Num.empty()) ShowInterview();
+    });
+  };
   detail_->OnAnalyser = [this] { Do([&] { capture_.Analyser(); }); };
   detail_->OnPostuler = [this] { Do([&] { form_.ClicPicturePostuler(); }); };
   ChoiceField& status = detail_->Statut();
@@ -183,6 +211,7 @@ void FormCandWindow::StopTimers() {
 }
 
 void FormCandWindow::Refresh() {
+  if (form_.DateRDV != interviewTaken_ || form_.Num != interviewRow_) ShowInterview();
   binder_.Refresh();
   if (shownVersion_ != form_.ListeVersion) {
     shownVersion_ = form_.ListeVersion;
@@ -204,8 +233,8 @@ void FormCandWindow::ShowRefusal() {
   for (const auto& field : DetailFields) {
     auto* line = findChild<QLineEdit*>(ToQt(field.name));
     if (line == nullptr) continue;
-    const bool refused =
-        form_.Refus && form_.Refus->field == field.name && form_.Refus->value == form_.*(field.text);
+    const Text& shown = field.name == InterviewField ? interview_ : form_.*(field.text);
+    const bool refused = form_.Refus && form_.Refus->field == field.name && form_.Refus->value == shown;
     if (line->property("invalid").toBool() == refused) continue;
     line->setProperty("invalid", refused);
     line->setAccessibleDescription(refused ? ToQt(form_.Refus->message) : QString());

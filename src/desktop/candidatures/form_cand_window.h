@@ -55,6 +55,8 @@ class FormCandWindow : public QWidget {
   void ConnectList();
   void ConnectDetail();
   void ConnectWeb();
+  void ConnectInterview();
+  void ShowInterview();
   void ShowRefusal();
   // Does that once the event under way is over. To leave a page for another may take a wait, in which the
   // form can be closed, and a field or a list must not go under its own event.
@@ -73,6 +75,12 @@ class FormCandWindow : public QWidget {
   QTimer timer1_;
   QTimer timer2_;
   unsigned shownVersion_ = 0;
+  // What stands in the field of the interview. The form's own date follows while it is one: a save comes
+  // every few seconds, also in the middle of a date, and the database takes no other text there.
+  Text interview_;
+  Text interviewTaken_;  // the form's date when both were last alike
+  Text interviewRow_;    // and its row
+  bool refusing_ = false;
   std::optional<bool> narrow_;  // until the first layout
 };
 

@@ -49,7 +49,18 @@ void CvWindow::BindFields() {
     const Text name = FromQt(widget.objectName());
     if (const auto* field = FindField(CvFields, name))
       Do([&] { form_.Change(name, Text{shown_.*(field->text)}); });
+    saving_.start();
   };
+  constexpr int SaveMilliseconds = 3000;
+  saving_.setSingleShot(true);
+  saving_.setInterval(SaveMilliseconds);
+  connect(&saving_, &QTimer::timeout, this, [this] { SaveWhileTyping(); });
+}
+
+// The name of the file comes from these two fields, so they are waited for.
+void CvWindow::SaveWhileTyping() {
+  if (focused_ == QStringLiteral("Nom") || focused_ == QStringLiteral("Prénom")) return saving_.start();
+  Do([&] { form_.EnregistrerSaisie(); });
 }
 
 void CvWindow::ConnectZones() {
@@ -100,10 +111,17 @@ QString CvWindow::FieldOf(const QWidget* widget) const {
   return ours && FindField(CvFields, FromQt(widget->objectName())) ? widget->objectName() : QString();
 }
 
+// The box of the pasted block is left by the user alone: when it is hidden because the CV has fields
+// already, reading it again would undo what was corrected in them.
+void CvWindow::LeaveField(const QString& name) {
+  const bool hidden = name == QStringLiteral("Identite") && !form_.FrameIdentite;
+  if (!name.isEmpty() && !hidden) form_.Leave(FromQt(name));
+}
+
 void CvWindow::KeepTyping() {
-  const Text left = FromQt(std::exchange(focused_, QString()));
+  const QString left = std::exchange(focused_, QString());
   Do([&] {
-    if (!left.empty()) form_.Leave(left);
+    LeaveField(left);
     form_.EnregistrerSaisie();
   });
   // The field is there still, and will be left again.
@@ -117,9 +135,9 @@ void CvWindow::MoveFocus(QWidget* now) {
   if (page_->Panels().isAncestorOf(now)) return;
   const QString name = FieldOf(now);
   if (name == focused_) return;
-  const Text left = FromQt(std::exchange(focused_, name));
+  const QString left = std::exchange(focused_, name);
   Do([&] {
-    if (!left.empty()) form_.Leave(left);
+    LeaveField(left);
     if (!name.isEmpty()) form_.Enter(FromQt(name));
   });
 }

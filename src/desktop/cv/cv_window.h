@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QPointer>
+#include <QTimer>
 #include <QWidget>
 #include <functional>
 
@@ -46,6 +47,8 @@ class CvWindow : public QWidget {
   void ConnectZones();
   void ConnectPage();
   void MoveFocus(QWidget* now);
+  void LeaveField(const QString& name);
+  void SaveWhileTyping();
   [[nodiscard]] QString FieldOf(const QWidget* widget) const;
 
   FormRédigerCV& form_;
@@ -59,6 +62,7 @@ class CvWindow : public QWidget {
   CvPagePane* page_;
   bool narrow_ = false;
   QString focused_;  // the field that has not been left yet
+  QTimer saving_;    // runs from an edit to its save
 };
 
 }  // namespace talvor

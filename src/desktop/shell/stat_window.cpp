@@ -62,7 +62,7 @@ QWidget* StatWindow::MakeBars() {
     QFont bold = count->font();
     bold.setBold(true);
     count->setFont(bold);
-    count->setAccessibleName(tr("%1 : %2").arg(ToQt(row.Statut), ToQt(row.Nb)));
+    count->setAccessibleName(tr("%1\u00A0: %2").arg(ToQt(row.Statut), ToQt(row.Nb)));
     grid->addWidget(new QLabel(ToQt(row.Statut), bars), i, 0);
     grid->addWidget(count, i, 1, Qt::AlignRight | Qt::AlignVCenter);
     grid->addWidget(new StatBar(theme_, row.Graph, bars), i, 2);
