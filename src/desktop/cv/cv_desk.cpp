@@ -64,6 +64,7 @@ QWidget* CvDesk::MakeWindow(QWidget* parent) {
 }
 
 void CvDesk::Register() {
+  documents_.OnRefused = [this](TextView target) { TellNotOpened(target, program_.dialogs); };
   program_.shell.Register(EditorForm, {.onLoad = QtShell::OnLoad::Shown,
                                        .make = [this](QWidget* parent) { return MakeWindow(parent); },
                                        .loaded =
