@@ -45,7 +45,9 @@ ExitCode RendreCv(const RenderOptions& options, Console& console) {
   if (!page) throw CommandError("le modèle «\u00A0" + options.model + "\u00A0» est introuvable ou illisible");
   cv.Langues = LanguageSummary(cv);
   const auto photo = options.photo ? PhotoOnPage::Picture : PhotoOnPage::None;
-  console.out << ToUtf8(FillTemplate(cv, *std::move(page), photo).append(LineEnd));
+  // The program writes pages in the code page; what a terminal gets says its own character set.
+  const Text filled = FillTemplate(cv, *std::move(page), photo).append(LineEnd);
+  console.out << ToUtf8(ReplaceAll(filled, u"charset=windows-1252", u"charset=utf-8"));
   return Done;
 }
 

@@ -19,10 +19,12 @@ TEST_F(CvCommandsTest, ACvFillsItsTemplate) {
       << "Pr\xE9nom=Zo\xE9\r\nVille=\x8Cuilly &#128515;\r\nNomCV=autre\r\nLangues=perdu\r\n"
          "1:LangueCourant=1\r\nLanguesPlus=Un an<N>\xE0 Bonn\r\nDivers=<b>Voile</b>\r\nCouleur=#123456\r\n";
   std::ofstream{"m.htm", std::ios::binary}
-      << "<p style='font-family:Arial;color:#FF6600'>#Prenom# #Nom##Ville# (#NomCV#) #Photographie#\r\n"
+      << "<meta content='text/html; charset=windows-1252'><p "
+         "style='font-family:Arial;color:#FF6600'>#Prenom# #Nom##Ville# (#NomCV#) #Photographie#\r\n"
          "P01#Etudes#P02#Formations#P03<h2>Vide</h2>P04P05\x95 #Langues#P06#Divers#P07</p>";
   const std::string page =
-      "<p style='font-family:Arial;color:#123456'>Zoé Œuilly 😃 (Zoé Roy) \r\n"
+      "<meta content='text/html; charset=utf-8'><p style='font-family:Arial;color:#123456'>Zoé Œuilly 😃 (Zoé "
+      "Roy) \r\n"
       "• Allemand courant<br><br>Un an<br>à Bonn<b>Voile</b></p>\r\n\r\n";
   const Result rendered = Talvorctl({"cv", "rendre", "Zo\xC3\xA9 Roy.dat", "--modele", "m.htm"});
   EXPECT_EQ(rendered.err, "");
