@@ -194,8 +194,8 @@ bool FormLoadSave::Restaurer(const fs::path& source, const fs::path& destination
     CopyOptions options = Options();
     options.kept = KeptFolder();
     options.linksInSource = false;
-    options.beforeReplacing = [this](const fs::path& arrived) {
-      Database::OpenFile(arrived / DatabaseName, around_.clock).CheckSound();
+    options.beforeReplacing = [&](const fs::path& arrived) {
+      CheckArrived(arrived, source);
       if (fermerDocuments) fermerDocuments();
     };
     CopyContents(source, destination, options, *steps_);
@@ -213,6 +213,16 @@ void FormLoadSave::CheckDatabase(const fs::path& folder) {
   std::error_code missing;
   if (!fs::is_regular_file(folder / DatabaseName, missing))
     throw CopyFailure(folder / DatabaseName, std::make_error_code(std::errc::no_such_file_or_directory));
+}
+
+// A refusal names the file that the user has chosen, not the copy of it that was looked at.
+void FormLoadSave::CheckArrived(const fs::path& arrived, const fs::path& source) const {
+  try {
+    Database::OpenFile(arrived / DatabaseName, around_.clock).CheckSound();
+  } catch (const StoreError& refusal) {
+    const auto text = [](const fs::path& folder) { return TextOf(folder / DatabaseName).value_or(Text{}); };
+    throw CopyFailure(ReplaceAll(MessageOf(refusal), text(arrived), text(source)));
+  }
 }
 
 // Sauvegardes/Restauration 2026-03-01, with a number from the second of a day on.

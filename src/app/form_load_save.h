@@ -63,6 +63,7 @@ class FormLoadSave {
   bool Try(TextView problem, Action&& action);
   [[nodiscard]] CopyOptions Options();
   [[nodiscard]] static bool RemoveOldDatabase(const std::filesystem::path& answer);
+  void CheckArrived(const std::filesystem::path& arrived, const std::filesystem::path& source) const;
   static void CheckDatabase(const std::filesystem::path& folder);
   [[nodiscard]] std::filesystem::path KeptFolder() const;
   void Done(TextView message);

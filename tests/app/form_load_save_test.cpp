@@ -205,7 +205,8 @@ TEST_F(FormLoadSaveTest, WhatIsNoWorkspaceIsRefusedBeforeAnythingChanges) {
     fs::copy(Key() / "Talvor", copy, fs::copy_options::recursive);
     Write(copy / "Talvor.mdb", base);
     EXPECT_FALSE(Load(copy / "Talvor.mdb")) << name;
-    EXPECT_TRUE(Told().starts_with(u"Problème lors du chargement. ")) << name << ' ' << ToUtf8(Told());
+    EXPECT_TRUE(Told().starts_with(u"Problème lors du chargement. " + *TextOf(copy / "Talvor.mdb")))
+        << name << ' ' << ToUtf8(Told());
     EXPECT_EQ(Snapshot(Home()), before) << name;
   }
   EXPECT_FALSE(Load(Key() / "Talvor/Autre.mdb"));
