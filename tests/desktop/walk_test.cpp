@@ -190,6 +190,9 @@ TEST_F(WalkTest, ThePopupOfACandidatureLeadsToItsPageItsSiteAndTheApplication) {
   choose(u"MenuConsulterInternet");
   EXPECT_TRUE(desktop->Candidatures().CadreWebVisible);
   EXPECT_EQ(desktop->Candidatures().AdresseWeb, u"http://emploi.example/offres/4821");
+  // The end of a load writes its own address into the field.
+  ASSERT_TRUE(WaitFor([&] { return desktop->Pages().ReadyState() == DocumentBrowser::Complete; }, Patience));
+  Wait(50);
   choose(u"MenuConsulterOrigine");
   EXPECT_EQ(desktop->Candidatures().AdresseWeb, u"http://emploi.example");
   choose(u"MenuPostuler");
