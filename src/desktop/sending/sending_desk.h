@@ -6,10 +6,10 @@
 
 #include "app/libre_office.h"
 #include "desktop/cv/cv_desk.h"
-#include "desktop/platform/mail_client.h"
 #include "desktop/platform/page_pdf.h"
 #include "desktop/platform/qt_documents.h"
 #include "desktop/platform/qt_shell.h"
+#include "desktop/platform/xdg_mail_client.h"
 #include "desktop/sending/apply_window.h"
 #include "desktop/sending/convert_window.h"
 

@@ -1,4 +1,4 @@
-#include "desktop/platform/mail_client.h"
+#include "desktop/platform/xdg_mail_client.h"
 
 #include <QEventLoop>
 #include <QProcess>
