@@ -22,11 +22,9 @@ using namespace talvor;
 constexpr TextView AlreadyOpen = u"Talvor est déjà ouvert.";
 constexpr TextView DatabaseLost =
     u"La base des candidatures a disparu du dossier de données\u00A0: une base vide la remplace. Pour "
-    u"reprendre "
-    u"la dernière copie, quittez Talvor, puis donnez le nom «\u00A0Talvor.mdb\u00A0» au plus récent des "
-    u"fichiers "
-    u"«\u00A0Talvor-….mdb\u00A0» du dossier «\u00A0Sauvegardes\u00A0» et mettez-le à la place de la base "
-    u"vide.";
+    u"reprendre la dernière copie, quittez Talvor, puis donnez le nom «\u00A0Talvor.mdb\u00A0» au plus "
+    u"récent des fichiers «\u00A0Talvor-….mdb\u00A0» du dossier «\u00A0Sauvegardes\u00A0» et mettez-le à "
+    u"la place de la base vide.";
 
 // The end of a program that cannot go on: the report, then nothing more, not even a clean-up.
 [[noreturn]] void EndWith(const std::string& report) {
