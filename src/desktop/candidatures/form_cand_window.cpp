@@ -43,7 +43,8 @@ FormCandWindow::FormCandWindow(FormCand& form, FormCandCapture& capture, FormCan
     binder_.Bind(*address, form_.AdresseWeb);
   binder_.OnEdited = [this](QWidget& field) {
     if (&field == &detail_->Statut()) detail_->ShowStatusDot(form_.Statut);
-    if (DateValide(interview_)) form_.DateRDV = interviewTaken_ = interview_;
+    if (FromQt(field.objectName()) == InterviewField && DateValide(interview_))
+      form_.DateRDV = interviewTaken_ = interview_;
     ShowRefusal();
   };
   ConnectInterview();
