@@ -37,8 +37,8 @@ const Field<CvDocument>* ApplyCvLine(CvDocument& cv, CvLine line);
 [[nodiscard]] Text CvFileText(const CvDocument& cv);
 
 // Names the CV if needed, puts `NomCV` into its form for file names and writes CV/<NomCV>.dat; then
-// rebuilds the main menu. A failure is told to the user and gives false; the old file then stands among
-// the kept versions.
+// rebuilds the main menu. A failure is told to the user and gives false; the old file then stands in
+// its place.
 bool SauvegarderCV(CvDocument& cv, Dialogs& dialogs, Principale& principale);
 
 }  // namespace talvor

@@ -131,7 +131,7 @@ bool EnregistrerLettre(LetterModel& model, Dialogs& dialogs, Principale& princip
   else if (model.NomLettre.empty())
     model.NomLettre = NameFor(model);
 
-  // The old file goes, the new one comes; a failure is no reason to stop.
+  // The new file takes the place of the old one; a failure is no reason to stop.
   const bool written = WriteLetter(model);
 
   principale.InitMenu();

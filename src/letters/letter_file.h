@@ -29,8 +29,8 @@ void ApplyLetterLine(LetterModel& model, TextView line);
 void TakeFieldsOfCv(const std::filesystem::path& file, LetterModel& model);
 
 // Names the model if needed, writes Lettres/<NomLettre>.dat and rebuilds the main menu. False when the
-// file was not written, of which the user is told nothing here; the old one then stands among the kept
-// versions. A model without any name is told to the user and written all the same.
+// file was not written, of which the user is told nothing here; the old one then stands in its
+// place. A model without any name is told to the user and written all the same.
 bool EnregistrerLettre(LetterModel& model, Dialogs& dialogs, Principale& principale);
 
 }  // namespace talvor

@@ -19,7 +19,7 @@ class WebPage : public QWebEnginePage {
   // Ends the process that runs the page, whatever its scripts are at. False when there is none.
   bool EndProcess();
 
-  // True for an address that the pane shows: of the web, the start page, the blank page. Never a file.
+  // True for an address that the pane shows: of the web, the start page, a page in itself. Never a file.
   [[nodiscard]] static bool Shows(const QUrl& address);
 
  protected:

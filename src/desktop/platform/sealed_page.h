@@ -6,8 +6,8 @@
 
 namespace talvor {
 
-// What a sealed page may read besides its own file: nothing, or what lies in the folder of that file,
-// links followed.
+// What a sealed page may read besides its own file: nothing, or what lies in the folder of that file
+// once every link has been followed.
 enum class Reach { File, Folder };
 
 // Lets through what is within reach of the file on show and blocks every other request.
