@@ -355,28 +355,6 @@ TEST_F(BrowserTest, ALinkToANewWindowOpensInThePane) {
       WaitFor([&] { return Line("AdresseWeb").endsWith(QStringLiteral("formulaire.htm")); }, Patience));
 }
 
-TEST_F(BrowserTest, ADownloadGoesWhereTheUserSays) {
-  Browse(QStringLiteral("tableau.htm"));
-  ASSERT_TRUE(Settled());
-  const QString target = QString::fromStdString((scratch.Path() / "choisi.bin").string());
-  QString proposed;
-  QString answer;
-  Pages().Profile().AskWhere = [&](const QString& name) {
-    proposed = name;
-    return answer;
-  };
-  Browse(QStringLiteral("document.bin"));
-  ASSERT_TRUE(WaitFor([&] { return !proposed.isEmpty(); }, Patience));
-  EXPECT_EQ(proposed, QStringLiteral("annonce.bin"));
-  answer = target;
-  proposed.clear();
-  Browse(QStringLiteral("document.bin"));
-  EXPECT_TRUE(WaitFor([&] { return QFileInfo(target).size() == 7; }, Patience));
-  ASSERT_TRUE(Settled());
-  EXPECT_FALSE(InPane("AvisPage")->isVisible()) << "the page stays";
-  EXPECT_EQ(Pages().BodyText(12), u"EMPLOI-LOIRE");
-}
-
 qint64 ThreadMilliseconds() {
   timespec used{};
   ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &used);

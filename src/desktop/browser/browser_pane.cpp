@@ -50,6 +50,10 @@ BrowserPane::BrowserPane(const Theme& theme, QWidget* parent) : QWidget(parent),
   progress_->hide();
   column->addWidget(progress_);
   column->addWidget(MakeStrip());
+  offer_ = new DownloadBar(theme, this);
+  offer_->OnSave = [this] { Act(&Actions::save); };
+  offer_->OnDismiss = [this] { Act(&Actions::dismiss); };
+  column->addWidget(offer_);
   place_ = new QWidget(this);
   pages_ = new QStackedLayout(place_);
   pages_->addWidget(new QWidget(place_));
@@ -108,6 +112,8 @@ QWidget* BrowserPane::MakeBar() {
                                QLineEdit::LeadingPosition);
   connect(&theme_, &Theme::Changed, globe_,
           [this] { globe_->setIcon(theme_.Icon(QStringLiteral("globe"), QStringLiteral("text2"))); });
+  globe_->setToolTip(tr("Effacer les données des sites"));
+  connect(globe_, &QAction::triggered, this, [this] { Act(&Actions::clear); });
   connect(address_, &QLineEdit::returnPressed, this, [this] { Act(&Actions::enter); });
   connect(new QShortcut(Qt::CTRL | Qt::Key_L, this), &QShortcut::activated, address_, [this] {
     address_->setFocus(Qt::ShortcutFocusReason);
@@ -223,6 +229,7 @@ void BrowserPane::ShowState(const WebState& state) {
   ShowBar();
   back_->setEnabled(state.back);
   forward_->setEnabled(state.forward);
+  offer_->ShowText(state.offer);
   notice_->ShowText(state.notice);
   if (!state.notice.isEmpty())
     pages_->setCurrentWidget(notice_);

@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "ads/form_cand_web.h"
+#include "desktop/browser/download_bar.h"
 #include "desktop/browser/page_notice.h"
 #include "desktop/browser/site_list.h"
 #include "desktop/browser/web_browser.h"
@@ -27,7 +28,7 @@ class BrowserPane : public QWidget {
   // What the user does, by the control: the object names are those of the form.
   struct Actions {
     std::function<void()> enter, address, go, stop, back, forward, start, strip, sites, leaveSites, capture,
-        prefill, bring, reload;
+        prefill, bring, reload, save, dismiss, clear;
     std::function<void(std::size_t)> site;
   };
   Actions on;
@@ -73,6 +74,7 @@ class BrowserPane : public QWidget {
   SiteList* sites_ = nullptr;
   QWidget* place_ = nullptr;
   QStackedLayout* pages_ = nullptr;
+  DownloadBar* offer_ = nullptr;
   PageNotice* notice_ = nullptr;
   QWebEngineView* view_ = nullptr;
   int top_ = FormCandWeb::StripClosed;

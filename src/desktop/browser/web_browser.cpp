@@ -3,7 +3,7 @@
 #include <QClipboard>
 #include <QEventLoop>
 #include <QGuiApplication>
-#include <QTimer>
+#include <QThreadPool>
 #include <QUrl>
 #include <QWebEngineHistory>
 #include <QWebEngineLoadingInfo>
@@ -38,20 +38,112 @@ QString FailureNotice(const QWebEngineLoadingInfo& info) {
   }
 }
 
+QString OfferText(const DownloadOffer& offer) {
+  return offer.runs ? QObject::tr(
+                          "«\u00A0%1\u00A0» est un programme\u00A0: une fois ouvert, il peut lire et "
+                          "changer tous vos fichiers.")
+                          .arg(offer.name)
+                    : QObject::tr("Cette page propose d’enregistrer «\u00A0%1\u00A0».").arg(offer.name);
+}
+
 }  // namespace
 
+WebBrowser::WebBrowser(Dialogs& dialogs) : dialogs_(dialogs) {
+  constexpr int StoreMilliseconds = 2000;
+  storeTimer_.setInterval(StoreMilliseconds);
+  connect(&storeTimer_, &QTimer::timeout, this, &WebBrowser::WatchStore);
+}
+
 WebProfile& WebBrowser::Profile() {
-  if (!profile_) profile_ = std::make_unique<WebProfile>(dialogs_);
+  if (!profile_) {
+    profile_ = std::make_unique<WebProfile>(dialogs_, SiteStore::Beginning::Kept);
+    profile_->Store().DropFormer();
+    Connect(*profile_);
+  }
   return *profile_;
 }
 
 bool WebBrowser::EnsureView() {
   if (view_ || !makeView) return view_;
   view_ = makeView();
+  gesture_.Watch(*view_);
+  MakePage();
+  storeTimer_.start();
+  return true;
+}
+
+void WebBrowser::MakePage() {
   auto* page = new WebPage(&Profile(), dialogs_, view_);
   view_->setPage(page);
   Follow(*page);
-  return true;
+}
+
+void WebBrowser::Connect(WebProfile& profile) {
+  profile.IsAskedByUser = [this](const QUrl& download) { return AskedByUser(download); };
+  profile.OnOffer = [this](const DownloadOffer& offer) {
+    offer_ = offer;
+    state_.offer = OfferText(offer);
+    Changed();
+  };
+}
+
+// A gesture in the page allows a download, and so does the one that has led to an address from which a file
+// comes instead of a page. What a page asks for once it is there needs a gesture of its own.
+bool WebBrowser::AskedByUser(const QUrl& download) {
+  const bool insteadOfPage =
+      download == leadsTo_ && view_ && view_->history()->currentItem().url() != download;
+  return insteadOfPage ? std::exchange(ledByUser_, false) : gesture_.Take();
+}
+
+void WebBrowser::TakeOffer() {
+  const DownloadOffer offer = offer_;
+  DismissOffer();
+  if (view_) Profile().Fetch(*view_->page(), offer);
+}
+
+void WebBrowser::DismissOffer() {
+  offer_ = {};
+  state_.offer.clear();
+  Changed();
+}
+
+void WebBrowser::AskToClearStore() {
+  if (dialogs_.Confirm(
+          u"Effacer ce que les sites ont gardé sur cet ordinateur\u00A0? Ceux qui demandent un compte vous "
+          u"demanderont de nouveau votre mot de passe."))
+    EmptyStore(Cookies::Forgotten, LocationURL());
+}
+
+void WebBrowser::EmptyStore(Cookies cookies, TextView address) {
+  std::unique_ptr<WebProfile> former =
+      std::exchange(profile_, std::make_unique<WebProfile>(dialogs_, SiteStore::Beginning::Fresh));
+  if (cookies == Cookies::Kept) profile_->TakeCookies(*former);
+  Connect(*profile_);
+  if (view_) {
+    const QPointer<QWebEnginePage> page(view_->page());
+    MakePage();
+    delete page.data();  // before its profile
+  }
+  former.reset();
+  profile_->Store().DropFormer();
+  if (view_) Navigate(address);
+}
+
+// In the background: a walk over the folder takes its time on a slow disk.
+void WebBrowser::WatchStore() {
+  if (!view_) return storeTimer_.stop();
+  QThreadPool::globalInstance()->start(
+      [self = QPointer<WebBrowser>(this), folder = Profile().Store().Folder()] {
+        if (SiteStore::SizeOf(folder) <= SiteStore::Bound) return;
+        QMetaObject::invokeMethod(qApp, [self, folder] {
+          // Another store may have begun meanwhile.
+          if (!self || !self->view_ || self->Profile().Store().Folder() != folder) return;
+          self->EmptyStore(Cookies::Kept, BlankPage);
+          self->ShowNotice(
+              tr("Cette page remplissait le disque\u00A0: elle a été arrêtée, et ce que les sites avaient "
+                 "gardé a été effacé. Vous restez connecté à vos sites."));
+        });
+      });
 }
 
 void WebBrowser::Follow(WebPage& page) {
@@ -61,6 +153,11 @@ void WebBrowser::Follow(WebPage& page) {
     Changed();
   });
   connect(&page, &QWebEnginePage::renderProcessTerminated, this, [this] { Terminated(); });
+  page.OnNavigation = [this](const QUrl& address, bool redirected) {
+    leadsTo_ = address;
+    if (!redirected) ledByUser_ = gesture_.Take();
+    if (!state_.offer.isEmpty()) DismissOffer();
+  };
   page.OnEndless = [this] { endless_ = true; };
 }
 
@@ -116,6 +213,7 @@ void WebBrowser::Navigate(TextView address) {
   location_ = address;
   if (!view_ && address == BlankPage) return;
   if (!EnsureView()) return;
+  gesture_.Note();
   const QUrl url = QUrl::fromUserInput(ToQt(address));
   if (!WebPage::Shows(url)) return ShowNotice(tr("Le navigateur n’ouvre que des pages du Web."));
   // A place in the page on show is reached without a load.

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QPointer>
+#include <QTimer>
 #include <QUrl>
 #include <QVariant>
 #include <QWebEngineView>
@@ -9,6 +10,7 @@
 #include <memory>
 #include <optional>
 
+#include "desktop/browser/page_gesture.h"
 #include "desktop/browser/web_page.h"
 #include "desktop/browser/web_profile.h"
 #include "platform/browser.h"
@@ -22,6 +24,7 @@ struct WebState {
   bool loading = false;
   int progress = 0;   // per cent
   QString notice;     // stands in the place of the page, if any
+  QString offer;      // what the page offers to save without having been asked, if anything
   bool back = false;  // whether there is a page to go back to
   bool forward = false;
 };
@@ -31,7 +34,7 @@ struct WebState {
 // the page hangs or has gone, reads as empty.
 class WebBrowser : public QObject, public DocumentBrowser {
  public:
-  explicit WebBrowser(Dialogs& dialogs) : dialogs_(dialogs) {}
+  explicit WebBrowser(Dialogs& dialogs);
 
   // Makes the view in its pane; null while the form is not loaded.
   std::function<QWebEngineView*()> makeView;
@@ -53,6 +56,12 @@ class WebBrowser : public QObject, public DocumentBrowser {
 
   // Loads again the page that a notice has replaced; one that could not be loaded is asked for anew.
   void Reload();
+  // Saves the file that the page offers, or lets it go.
+  void TakeOffer();
+  void DismissOffer();
+  // Once the user has agreed, forgets what all sites have kept here (their cookies, their data, the cache) and
+  // loads the page again.
+  void AskToClearStore();
   // The form is gone, and the view with it.
   void Forget();
   [[nodiscard]] QWebEngineView* View() const { return view_; }
@@ -62,6 +71,13 @@ class WebBrowser : public QObject, public DocumentBrowser {
 
  private:
   bool EnsureView();
+  void MakePage();
+  // Goes on with an empty store, at an address.
+  enum class Cookies { Kept, Forgotten };
+  void EmptyStore(Cookies cookies, TextView address);
+  void WatchStore();
+  void Connect(WebProfile& profile);
+  bool AskedByUser(const QUrl& download);
   void Follow(WebPage& page);
   void LoadingChanged(const QWebEngineLoadingInfo& info);
   void Terminated();
@@ -75,6 +91,11 @@ class WebBrowser : public QObject, public DocumentBrowser {
 
   Dialogs& dialogs_;
   std::unique_ptr<WebProfile> profile_;
+  PageGesture gesture_;
+  QUrl leadsTo_;            // where the page on show was last left for
+  bool ledByUser_ = false;  // at a gesture of the user
+  DownloadOffer offer_;
+  QTimer storeTimer_;
   QPointer<QWebEngineView> view_;
   WebState state_;
   QUrl failed_;        // of the page that could not be loaded, while its notice stands

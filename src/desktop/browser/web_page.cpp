@@ -99,10 +99,12 @@ bool WebPage::Shows(const QUrl& address) {
   return Schemes.contains(address.scheme());
 }
 
-bool WebPage::acceptNavigationRequest(const QUrl& address, NavigationType type, bool) {
+bool WebPage::acceptNavigationRequest(const QUrl& address, NavigationType type, bool isMainFrame) {
   // A link to write a mail goes to the user's own program.
   const bool mail = address.scheme() == QStringLiteral("mailto");
-  return Shows(address) || (mail && type == NavigationTypeLinkClicked);
+  if (!Shows(address)) return mail && type == NavigationTypeLinkClicked;
+  if (isMainFrame && OnNavigation) OnNavigation(address, type == NavigationTypeRedirect);
+  return true;
 }
 
 bool WebPage::EndProcess() {

@@ -15,6 +15,8 @@ class WebPage : public QWebEnginePage {
 
   // The page opens boxes without end and has been ended.
   std::function<void()> OnEndless;
+  // The page is about to make place for another address, or for the one that this leads on to.
+  std::function<void(const QUrl& address, bool redirected)> OnNavigation;
 
   // Ends the process that runs the page, whatever its scripts are at. False when there is none.
   bool EndProcess();

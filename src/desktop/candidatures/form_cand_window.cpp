@@ -130,6 +130,9 @@ void FormCandWindow::ConnectWeb() {
               .prefill = doing(&FormCandWeb::ClicLabel2),
               .bring = doing(&FormCandWeb::ClicLabel3),
               .reload = [this] { browser_.Reload(); },
+              .save = [this] { Later([this] { browser_.TakeOffer(); }); },
+              .dismiss = [this] { browser_.DismissOffer(); },
+              .clear = [this] { Later([this] { browser_.AskToClearStore(); }); },
               .site = [this](std::size_t row) { Later([this, row] { webModel_.ClicList1(row); }); }};
   webModel_.OnChange = [this] { Refresh(); };
   webModel_.OnSignal = [this](TextView key) {
