@@ -108,7 +108,7 @@ as_root() {
 install_packages() {
   local missing=() package
   prepare_build_folder
-  command -v dpkg-query >/dev/null || give_up 'Talvor se construit sur Debian 12 (dpkg est introuvable ici).'
+  command -v dpkg-query >/dev/null || give_up 'Talvor se construit sur Debian 12 ou 13 (dpkg est introuvable ici).'
   mapfile -t missing < <(missing_packages "$@")
   [ "${#missing[@]}" -gt 0 ] || return 0
   for package in "${missing[@]}"; do say "   à installer : $package"; done

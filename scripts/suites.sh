@@ -41,7 +41,7 @@ build_preset() {
 
 configure_preset() {
   forget_moved_build "$root/build/$1"
-  logged "$1-configure" cmake --preset "$1"
+  logged "$1-configure" cmake --preset "$1" -DCMAKE_COMPILE_WARNING_AS_ERROR=ON
 }
 
 # Form framework -------------------------------------------------------------------------------------------
