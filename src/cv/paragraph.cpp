@@ -64,7 +64,7 @@ std::optional<Text> FormatParagraph(TextView text, ParagraphStyle style, std::si
     before = line;
     ++number;
   }
-  if (html.ends_with(Break)) html.resize(html.size() - Break.size());
+  if (html.ends_with(Break)) html.erase(html.size() - Break.size());
   return html;
 }
 

@@ -36,7 +36,7 @@ class SameFolderAfterwards {
 
 void StripOuterLineEnds(Text& texte) {
   if (texte.starts_with(LineEnd)) texte.erase(0, LineEnd.size());
-  if (texte.ends_with(LineEnd)) texte.resize(texte.size() - LineEnd.size());
+  if (texte.ends_with(LineEnd)) texte.erase(texte.size() - LineEnd.size());
 }
 
 // The name of the file that a piece leads to, empty when it leads to none.

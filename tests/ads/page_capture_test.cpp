@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "ads/page_rating.h"
 #include "base/line_file.h"
 #include "tests/ads/web_fixture.h"

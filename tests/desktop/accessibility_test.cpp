@@ -157,7 +157,7 @@ class AccessibilityTest : public DesktopTest {
     ASSERT_NE(window, nullptr);
     ASSERT_TRUE(window->isVisible());
     QApplication::processEvents();
-    QApplication::setActiveWindow(window);
+    Activate(*window);
     const QWidgetList controls = ControlsOf(*window);
     EXPECT_FALSE(controls.isEmpty());
     for (QWidget* control : controls)

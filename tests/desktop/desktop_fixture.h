@@ -57,7 +57,7 @@ class DesktopTest : public testing::Test {
     // The screen of the tests is smaller than the window.
     desktop->Main().resize(1280, 800);
     desktop->Windows().Show(u"FormCand");
-    QApplication::setActiveWindow(&desktop->Main());
+    Activate(desktop->Main());
   }
 
   template <class Widget = QWidget>

@@ -224,7 +224,7 @@ class MonthRunTest : public BrowserTest {
     desktop->Windows().Unload(u"FormCand");
     desktop->Windows().Unload(EditorForm);
     Wait(1);  // the windows are gone with the events that are left
-    QApplication::setActiveWindow(&desktop->Main());
+    Activate(desktop->Main());
     desktop->Cv().OpenNew();
     Click("SaiseDetaillee");
     Type("Nom", QStringLiteral("Marchand"));

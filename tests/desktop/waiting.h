@@ -6,6 +6,7 @@
 #include <QDeadlineTimer>
 #include <QEventLoop>
 #include <QTimer>
+#include <QWidget>
 
 namespace talvor {
 
@@ -27,6 +28,12 @@ bool WaitFor(Predicate predicate, int milliseconds = 5000) {
     Wait(Interval);
   }
   return true;
+}
+
+// Makes a window the active one, as the click of a user does.
+inline void Activate(QWidget& window) {
+  window.activateWindow();
+  WaitFor([&] { return window.isActiveWindow(); });
 }
 
 }  // namespace talvor

@@ -9,6 +9,8 @@
 namespace talvor {
 
 class IconTile : public QAbstractButton {
+  Q_OBJECT
+
  public:
   struct Look {
     QString icon;
