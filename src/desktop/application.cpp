@@ -6,6 +6,7 @@
 
 #include "base/failure_cause.h"
 #include "desktop/browser/start_page.h"
+#include "desktop/platform/sealed_scheme.h"
 
 namespace talvor {
 
@@ -14,6 +15,7 @@ namespace {
 // Schemes are made known before the application is.
 int& WithSchemes(int& argc) {
   RegisterStartPageScheme();
+  RegisterSealedScheme();
   return argc;
 }
 

@@ -140,7 +140,7 @@ void CvDesk::Preview() {
   if (!window_) return;
   const Text folder = program_.environment.Variable(u"userprofile") + u"/Documents/";
   printPreview_ = new PrintPreviewWindow(program_.theme,
-                                         {.file = QUrl::fromLocalFile(ToQt(preview_.LocationURL())),
+                                         {.file = ToQt(preview_.LocationURL()),
                                           .reach = Reach::Folder,
                                           .layout = CvPageLayout(),
                                           .pdf = ToQt(folder + form_->NomCV + u".pdf")},

@@ -1,6 +1,5 @@
 #include "desktop/cv/cv_page_view.h"
 
-#include <QUrl>
 #include <algorithm>
 
 #include "desktop/platform/sealed_page.h"
@@ -33,7 +32,7 @@ void CvPageView::resizeEvent(QResizeEvent* event) {
   FitPage();
 }
 
-void CvPageView::ShowPage(const QString& path) { page_->ShowFile(QUrl::fromLocalFile(path)); }
+void CvPageView::ShowPage(const QString& path) { page_->ShowFile(path); }
 
 void CvPageView::ShowBlank() { page_->ShowBlank(); }
 

@@ -178,7 +178,7 @@ void QtPagePreview::Navigate(TextView address) {
   layout.setPageSize(QPageSize(QPageSize::A4));
   layout.setOrientation(QPageLayout::Landscape);
   window_ = new PrintPreviewWindow(theme_,
-                                   {.file = QUrl(ToQt(address)),
+                                   {.file = QUrl(ToQt(address)).toLocalFile(),
                                     .reach = Reach::File,
                                     .layout = layout,
                                     .pdf = folder + QStringLiteral("/Talvor.pdf")},

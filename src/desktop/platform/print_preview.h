@@ -19,7 +19,7 @@ namespace talvor {
 
 // What is printed, and how it lies on the sheet until the user says otherwise.
 struct PrintedPage {
-  QUrl file;
+  QString file;  // its path
   Reach reach = Reach::File;
   QPageLayout layout;
   QString pdf;  // proposed when the page is kept as PDF: the path of a file

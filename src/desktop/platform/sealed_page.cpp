@@ -1,7 +1,6 @@
 #include "desktop/platform/sealed_page.h"
 
 #include <QColor>
-#include <QFileInfo>
 #include <QWebEngineProfile>
 #include <QWebEngineSettings>
 
@@ -12,24 +11,16 @@ const QUrl Blank(QStringLiteral("about:blank"));
 
 }  // namespace
 
-bool ReachGuard::Allows(const QUrl& address) const {
-  if (address == Blank) return true;
-  if (file_.isEmpty() || !address.isLocalFile() || !address.host().isEmpty()) return false;
-  if (reach_ == Reach::File) return address == file_;
-  const QString file = QFileInfo(address.toLocalFile()).canonicalFilePath();
-  const QString folder = QFileInfo(QFileInfo(file_.toLocalFile()).path()).canonicalFilePath();
-  return !file.isEmpty() && !folder.isEmpty() && file.startsWith(folder + QLatin1Char('/'));
-}
-
 void ReachGuard::interceptRequest(QWebEngineUrlRequestInfo& request) {
-  if (!Allows(request.requestUrl())) request.block(true);
+  if (request.requestUrl() != Blank && !files_.Allows(request.requestUrl())) request.block(true);
 }
 
 SealedPage::SealedPage(Reach reach, QObject* parent) : SealedPage(reach, new QWebEngineProfile(), parent) {}
 
 SealedPage::SealedPage(Reach reach, QWebEngineProfile* profile, QObject* parent)
-    : QWebEnginePage(profile, parent), reach_(reach), guard_(new ReachGuard(reach, profile)) {
-  profile->setUrlRequestInterceptor(guard_);
+    : QWebEnginePage(profile, parent), reach_(reach), files_(new SealedFiles(reach, profile)) {
+  profile->installUrlSchemeHandler(SealedAddress({}).scheme().toLatin1(), files_);
+  profile->setUrlRequestInterceptor(new ReachGuard(*files_, profile));
   profile->setHttpCacheType(QWebEngineProfile::NoCache);
   setBackgroundColor(Qt::white);
   BuildWalls();
@@ -46,26 +37,25 @@ void SealedPage::BuildWalls() {
   for (const Attribute off :
        {Attribute::JavascriptEnabled, Attribute::JavascriptCanOpenWindows,
         Attribute::JavascriptCanAccessClipboard, Attribute::LocalContentCanAccessRemoteUrls,
-        Attribute::LocalStorageEnabled, Attribute::PluginsEnabled, Attribute::PdfViewerEnabled,
-        Attribute::FullScreenSupportEnabled, Attribute::HyperlinkAuditingEnabled,
+        Attribute::LocalContentCanAccessFileUrls, Attribute::LocalStorageEnabled, Attribute::PluginsEnabled,
+        Attribute::PdfViewerEnabled, Attribute::FullScreenSupportEnabled, Attribute::HyperlinkAuditingEnabled,
         Attribute::DnsPrefetchEnabled, Attribute::AutoLoadIconsForPage, Attribute::WebGLEnabled,
         Attribute::NavigateOnDropEnabled, Attribute::FocusOnNavigationEnabled, Attribute::ErrorPageEnabled})
     rules->setAttribute(off, false);
-  // What lies on the disk beside the folder is kept out by the guard.
-  rules->setAttribute(Attribute::LocalContentCanAccessFileUrls, reach_ == Reach::Folder);
   rules->setUnknownUrlSchemePolicy(QWebEngineSettings::DisallowUnknownUrlSchemes);
   rules->setDefaultTextEncoding(QStringLiteral("windows-1252"));
 }
 
-void SealedPage::ShowFile(const QUrl& file) {
-  guard_->SetFile(file);
-  if (url() == file) return triggerAction(QWebEnginePage::ReloadAndBypassCache);
-  file_ = file;
-  load(file);
+void SealedPage::ShowFile(const QString& file) {
+  files_->SetFile(file);
+  const QUrl address = SealedAddress(file);
+  if (url() == address) return triggerAction(QWebEnginePage::ReloadAndBypassCache);
+  file_ = address;
+  load(address);
 }
 
 void SealedPage::ShowBlank() {
-  guard_->SetFile({});
+  files_->SetFile({});
   file_.clear();
   load(Blank);
 }

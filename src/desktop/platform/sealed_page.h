@@ -1,27 +1,23 @@
-// A web page that reaches nothing: no scripts, no network, and of the disk one file or its folder.
+// A web page that reaches nothing: no scripts, no network, and of the disk one file or its folder. It sees
+// files under addresses of its own and never as files of the disk.
 #pragma once
 
 #include <QWebEnginePage>
 #include <QWebEngineUrlRequestInterceptor>
 
+#include "desktop/platform/sealed_scheme.h"
+
 namespace talvor {
 
-// What a sealed page may read besides its own file: nothing, or what lies in the folder of that file
-// once every link has been followed.
-enum class Reach { File, Folder };
-
-// Lets through what is within reach of the file on show and blocks every other request.
+// Lets nothing through but what the files of a sealed page answer for, and the blank page.
 class ReachGuard : public QWebEngineUrlRequestInterceptor {
  public:
-  ReachGuard(Reach reach, QObject* parent) : QWebEngineUrlRequestInterceptor(parent), reach_(reach) {}
-  // An empty address lets the blank page alone through.
-  void SetFile(const QUrl& file) { file_ = file; }
-  [[nodiscard]] bool Allows(const QUrl& address) const;
+  explicit ReachGuard(const SealedFiles& files, QObject* parent)
+      : QWebEngineUrlRequestInterceptor(parent), files_(files) {}
   void interceptRequest(QWebEngineUrlRequestInfo& request) override;
 
  private:
-  Reach reach_;
-  QUrl file_;
+  const SealedFiles& files_;
 };
 
 // For pages whose markup holds texts as foreign hands have written them. Its profile leaves nothing on
@@ -31,8 +27,8 @@ class SealedPage : public QWebEnginePage {
   SealedPage(Reach reach, QObject* parent);
   ~SealedPage() override;
 
-  // Loads a file. One that is on show already is read anew and keeps its scroll position.
-  void ShowFile(const QUrl& file);
+  // Loads a file, given by its path. One that is on show already is read again and keeps its scroll position.
+  void ShowFile(const QString& file);
   void ShowBlank();
 
  protected:
@@ -45,7 +41,7 @@ class SealedPage : public QWebEnginePage {
   void BuildWalls();
 
   Reach reach_;
-  ReachGuard* guard_;
+  SealedFiles* files_;
   QUrl file_;
 };
 
