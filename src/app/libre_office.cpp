@@ -64,7 +64,7 @@ Text LibreOffice::Convert(const fs::path& page, const fs::path& target) const {
   const auto bytes = ReadBytes(page);
   if (!bytes) return u"La page du CV est introuvable ou illisible.";
 
-  const TemporaryFolder scratch(fs::temp_directory_path());
+  const TemporaryFolder scratch;
   const fs::path copy = scratch.Path() / "cv.html";
   if (const auto error = WriteBytes(copy, OfficePage(FromCodePage(*bytes), page.parent_path())))
     throw fs::filesystem_error("page", copy, error);

@@ -68,7 +68,7 @@ ExitCode ConvertirCv(const std::string& workspace, const ConvertOptions& options
   if (office.HasOpen(target))
     throw CommandError("«\u00A0" + options.target +
                        "\u00A0»\u00A0: Le fichier est en cours d'utilisation. Conversion impossible");
-  const TemporaryFolder scratch(fs::temp_directory_path());
+  const TemporaryFolder scratch;
   const fs::path page = WritePage(std::move(cv), ModelFolders(workspace, options.file), scratch.Path());
   const Text fault = office.Export(page, target);
   if (!fault.empty()) throw CommandError(ToUtf8(fault));

@@ -153,9 +153,7 @@ TEST_F(ConvertCommandTest, FaultsAreToldInFrenchAndLeaveTheDocument) {
   ::unsetenv("TMPDIR");
   EXPECT_EQ(noRoom.code, Refused);
   EXPECT_EQ(noRoom.err,
-            "talvorctl\u00A0: Le dossier de travail ou le dossier temporaire\u00A0: un fichier se trouve à "
-            "la place "
-            "d’un dossier.\n");
+            "talvorctl\u00A0: «\u00A0cv.doc\u00A0»\u00A0: un fichier se trouve à la place d’un dossier.\n");
 }
 
 }  // namespace
