@@ -4,6 +4,8 @@
 
 #include <QDeadlineTimer>
 #include <QFile>
+#include <QFileInfo>
+#include <QMimeDatabase>
 #include <QProcess>
 #include <QStandardPaths>
 
@@ -69,11 +71,10 @@ bool QtDocuments::Open(TextView target) {
 }
 
 Text QtDocuments::ProgramFor(TextView file) const {
-  const QString program = QStringLiteral("xdg-mime");
-  const QString query = QStringLiteral("query");
-  const QString kind = AnswerOf(program, {query, QStringLiteral("filetype"), ToQt(file)});
-  if (kind.isEmpty()) return {};
-  const QString entry = AnswerOf(program, {query, QStringLiteral("default"), kind});
+  if (!QFileInfo::exists(ToQt(file))) return {};
+  const QString kind = QMimeDatabase().mimeTypeForFile(ToQt(file)).name();
+  const QString entry =
+      AnswerOf(QStringLiteral("xdg-mime"), {QStringLiteral("query"), QStringLiteral("default"), kind});
   return entry.isEmpty() ? Text{} : FromQt(NameOfProgram(entry));
 }
 
