@@ -368,6 +368,7 @@ void Desktop::RegisterSplash() {
 bool Desktop::LoadPrincipale() {
   if (ChargerPrincipale(principale_, environment_, clock_, dialogs_) != StartOutcome::Ready) return false;
   RefreshMain();
+  placeKnown_ = main_->RestorePlace();
   shell_.Show(u"Principale");
   shell_.PumpEvents();
   return true;
@@ -380,7 +381,10 @@ bool Desktop::Start() {
                          {.prepareFolder = [this] { PreparerDossier(environment_); },
                           .showPrincipale = [this] { return LoadPrincipale(); },
                           .principaleWidth = [this] { return main_->width(); },
-                          .maximise = [this] { main_->showMaximized(); },
+                          .maximise =
+                              [this] {
+                                if (!placeKnown_) main_->showMaximized();
+                              },
                           .onChange =
                               [this] {
                                 if (auto* splash = static_cast<SplashWindow*>(shell_.WindowOf(u"Depart")))

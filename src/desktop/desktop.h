@@ -116,6 +116,7 @@ class Desktop {
   std::optional<SendingDesk> sending_;
 
   std::unique_ptr<MainWindow> main_;
+  bool placeKnown_ = false;  // from the last run
   QPointer<FormCandWindow> formCandWindow_;
   QPointer<HomeWindow> homeWindow_;
   QPointer<LetterWindow> letterWindow_;

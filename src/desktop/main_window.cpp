@@ -2,9 +2,12 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QQuickWidget>
 #include <QScreen>
 #include <QShortcut>
 #include <QVBoxLayout>
+
+#include "desktop/platform/window_place.h"
 
 namespace talvor {
 namespace {
@@ -40,7 +43,15 @@ MainWindow::MainWindow(Principale& principale, QtShell& shell, const Theme& them
   header_->OnMenu = [this] { menu_.ClicMenu(); };
   header_->OnSave = [this] { menu_.ClicSauver(); };
   AddShortcuts();
+  KeepSurface();
 }
+
+// The kind of a window's surface is settled when the window is made. The first page of the web engine would
+// need another kind, and the window would be made again: it would flash, and lose its place and its state. A
+// hidden child of the kind that the page brings asks for the right surface from the start.
+void MainWindow::KeepSurface() { (new QQuickWidget(this))->hide(); }
+
+bool MainWindow::RestorePlace() { return talvor::RestorePlace(*this); }
 
 QSize MainWindow::FirstSizeOn(QSize available) {
   constexpr int TitleBar = 40;  // about: the system draws it
@@ -101,6 +112,7 @@ void MainWindow::resizeEvent(QResizeEvent* event) {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
+  KeepPlace(*this);
   menu_.Decharger();
   event->accept();
   if (OnClosed) OnClosed();

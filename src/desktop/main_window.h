@@ -16,6 +16,8 @@ class MainWindow : public QMainWindow {
   // The size of the first window where the screen leaves that room, never below the least.
   [[nodiscard]] static QSize FirstSizeOn(QSize available);
 
+  // Before the window is shown: as it stood at the end of the last run. False when there was none.
+  [[nodiscard]] bool RestorePlace();
   // Shows what the view models say.
   void Refresh();
   [[nodiscard]] HeaderBar& Header() { return *header_; }
@@ -33,6 +35,7 @@ class MainWindow : public QMainWindow {
 
  private:
   void AddShortcuts();
+  void KeepSurface();
   void StepPane(int step);
 
   MainMenu menu_;

@@ -37,6 +37,7 @@ class DesktopTest : public testing::Test {
     InstallerDossier(scratch.Path() / "Talvor", {});
     // The browser keeps its own folders there.
     qputenv("XDG_DATA_HOME", QByteArray::fromStdString((scratch.Path() / "navigateur").string()));
+    qputenv("XDG_CONFIG_HOME", QByteArray::fromStdString((scratch.Path() / "config").string()));
     qputenv("XDG_CACHE_HOME", QByteArray::fromStdString((scratch.Path() / "cache").string()));
     theme.Apply(Theme::Palette::Light);
     Restart();
