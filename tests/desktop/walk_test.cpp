@@ -66,6 +66,8 @@ class WalkTest : public DesktopTest {
   // The menu that opens under a slot.
   QMenu* OpenMenu(std::size_t slot, bool byKeyboard) {
     Slot(slot).setFocus();
+    // A menu takes no click as long as Qt has never heard of the pointer.
+    QTest::mouseMove(desktop->Main().windowHandle(), QPoint(1, 1));
     if (byKeyboard)
       QTest::keyClick(&Slot(slot), Qt::Key_Space);
     else
@@ -73,13 +75,6 @@ class WalkTest : public DesktopTest {
     const auto open = [] { return qobject_cast<QMenu*>(QApplication::activePopupWidget()); };
     EXPECT_TRUE(WaitFor([&] { return open() != nullptr; }, Patience));
     return open();
-  }
-  // As a hand does it: a menu takes no click from a pointer that has not moved since it opened.
-  static void ClickItem(QMenu& menu, QAction& action) {
-    const QPoint item = menu.actionGeometry(&action).center();
-    QTest::mouseMove(&menu, item - QPoint(1, 1));
-    QTest::mouseMove(&menu, item);
-    QTest::mouseClick(&menu, Qt::LeftButton, {}, item);
   }
   void ChooseItem(std::size_t slot, const char16_t* item, bool byKeyboard = false) {
     QMenu* menu = OpenMenu(slot, byKeyboard);
@@ -91,7 +86,7 @@ class WalkTest : public DesktopTest {
     if (byKeyboard)
       QTest::keyClick(menu, Qt::Key_Return);
     else
-      ClickItem(*menu, *action);
+      QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(action).center());
   }
   QDialog* Window(TextView form) { return qobject_cast<QDialog*>(desktop->Windows().WindowOf(form)); }
 };
