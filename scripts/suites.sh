@@ -118,8 +118,8 @@ run_house_rules() {
 check_format() {
   local files=()
   mapfile -t files < <(sources '*.cpp' '*.h')
-  advice='Mettez en forme : clang-format -i sur les fichiers ci-dessus, puis relancez ./check.'
-  clang-format --dry-run -Werror "${files[@]}" || count 0 1
+  advice='Mettez en forme : clang-format-19 -i sur les fichiers ci-dessus, puis relancez ./check.'
+  clang-format-19 --dry-run -Werror "${files[@]}" || count 0 1
   count 1 0
 }
 
