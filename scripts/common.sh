@@ -9,6 +9,9 @@ advice=
 
 say() { printf '%s\n' "$*"; }
 
+# Where there is a compiler cache, what another clone has compiled serves this one.
+export CCACHE_BASEDIR=$root CCACHE_NOHASHDIR=1 CCACHE_SLOPPINESS=pch_defines,time_macros
+
 # give_up ADVICE: ends the current stage; the advice says what to do.
 give_up() {
   advice=$1

@@ -126,14 +126,27 @@ check_format() {
 # Fuzz targets ---------------------------------------------------------------------------------------------
 
 run_fuzz_targets() {
-  local targets=() target faults=0
+  local targets=() shares=() share faults=0
   mapfile -t targets < <(sources 'tests/fuzz/fuzz_*.cpp' | xargs -r -n 1 basename -s .cpp)
   [ "${#targets[@]}" -gt 0 ] || give_up 'tests/fuzz ne contient aucun fichier fuzz_*.cpp.'
   configure_preset fuzz
   live fuzz-build cmake --build build/fuzz -j "$jobs" --target "${targets[@]}"
-  for target in "${targets[@]}"; do run_fuzz_target "$target" || faults=$((faults + 1)); done
+  # Each one for its whole time, as many at once as there are cores.
+  for ((share = 0; share < jobs; ++share)); do
+    run_fuzz_share "$share" "${targets[@]}" &
+    shares+=($!)
+  done
+  for share in "${shares[@]}"; do wait "$share" || faults=$((faults + $?)); done
   advice='Chaque entrée fautive est gardée sous build/fuzz/corpus ; corrigez, puis relancez ./check.'
   count $((${#targets[@]} - faults)) "$faults"
+}
+
+# run_fuzz_share SHARE TARGET ...: the targets that one core takes on; returns how many of them failed.
+run_fuzz_share() {
+  local share=$1 faults=0 i
+  shift
+  for ((i = share + 1; i <= $#; i += jobs)); do run_fuzz_target "${!i}" || faults=$((faults + 1)); done
+  return "$faults"
 }
 
 # run_fuzz_target NAME: a new program searches for a while; an unchanged one runs again all that it had found.
