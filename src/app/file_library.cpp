@@ -10,6 +10,7 @@
 #include "cv/editor.h"
 #include "letters/form_lettre.h"
 #include "workspace/document_keeping.h"
+#include "workspace/documents_folder.h"
 #include "workspace/systeme.h"
 
 namespace talvor {
@@ -254,7 +255,8 @@ void FileLibrary::MenuDuppliquerLettre() { Dupliquer(workspace_paths::LetterFold
 void FileLibrary::MenuConvertirCV() { around_.shell.Show(u"FormConvert"); }
 
 void FileLibrary::MenuOuvrirWord() {
-  OuvrirDocument(LastWordVersion(Name(), around_.environment), around_.documents, around_.dialogs);
+  const auto version = LastWordVersion(around_.environment, DocumentsLayout::OfTheSystem, Name());
+  OuvrirDocument(TextOf(version).value_or(Text{}), around_.documents, around_.dialogs);
 }
 
 void FileLibrary::MenuImprimerCV() {

@@ -3,7 +3,7 @@
 #include <array>
 #include <filesystem>
 
-#include "base/line_file.h"
+#include "workspace/documents_folder.h"
 
 namespace talvor {
 namespace {
@@ -134,9 +134,10 @@ bool HoldsFile(const MenuSlot& slot, bool letter) {
          slot.picture == SlotPicture::CVPDF;
 }
 
-bool FileExists(const Text& path) {
+bool HasWordVersion(const Environment& environment, TextView cvFile) {
   std::error_code unreadable;
-  return std::filesystem::is_regular_file(PathOf(path), unreadable);
+  return std::filesystem::is_regular_file(LastWordVersion(environment, DocumentsLayout::OfTheSystem, cvFile),
+                                          unreadable);
 }
 
 }  // namespace
@@ -146,12 +147,6 @@ std::span<const MenuTree> MenuTrees() { return Trees; }
 TextView MenuOfSlot(std::size_t slot) {
   if (slot < Principale::FirstLetterSlot) return Trees[0].name;
   return slot < Principale::CandidatureSlot ? Trees[1].name : Trees[2].name;
-}
-
-Text LastWordVersion(TextView cv, const Environment& environment) {
-  return environment.Variable(u"userprofile") +
-         (EstProgramData(environment) ? u"/Documents/" : u"/Mes Documents/") +
-         ReplaceAll(cv, u".dat", u".doc");
 }
 
 void EnableSlotMenu(Menus& menus, const Principale& principale, std::size_t slot, bool cvOpen,
@@ -164,7 +159,7 @@ void EnableSlotMenu(Menus& menus, const Principale& principale, std::size_t slot
     constexpr std::size_t MostFiles = 5;
     if (state == State::FewFiles) return principale.File1.Count() < MostFiles;
     if (state == State::OpenDocument) return cvOpen && Contains(clicked.toolTip, u".dat");
-    if (state == State::LastWordVersion) return FileExists(LastWordVersion(clicked.toolTip, environment));
+    if (state == State::LastWordVersion) return HasWordVersion(environment, clicked.toolTip);
     return state == State::Enabled;
   };
   const std::span<const Rule> rules = letter ? std::span<const Rule>{LetterRules} : CvRules;

@@ -33,7 +33,4 @@ void EnableSlotMenu(Menus& menus, const Principale& principale, std::size_t slot
 // The menu that opens under a slot.
 [[nodiscard]] TextView MenuOfSlot(std::size_t slot);
 
-// The last word-processor version of the CV of that file name, in the user's documents folder.
-[[nodiscard]] Text LastWordVersion(TextView cv, const Environment& environment);
-
 }  // namespace talvor

@@ -1,11 +1,11 @@
 // The part of the editor that sets how the page looks, and its menus and help.
 #include <algorithm>
 
-#include "base/line_file.h"
 #include "cv/colours.h"
 #include "cv/editor.h"
 #include "cv/editor_texts.h"
 #include "workspace/document_keeping.h"
+#include "workspace/documents_folder.h"
 
 namespace talvor {
 
@@ -91,8 +91,8 @@ void FormRédigerCV::OpenPanelFocusing(Panel panel, TextView field) {
 }
 
 void FormRédigerCV::OfferLastWordVersion() {
-  const Text documents = around_.environment.Variable(u"userprofile") + u"/Documents/";
-  around_.menus.Enable(u"ConsulterWord", ExistingFile(PathOf(documents + NomCV + u".doc")).has_value());
+  const auto version = ConvertedCv(around_.environment, DocumentsLayout::Newer, NomCV, u".doc");
+  around_.menus.Enable(u"ConsulterWord", ExistingFile(version).has_value());
   around_.menus.Open(u"MenuConvertirWord");
 }
 

@@ -4,6 +4,7 @@
 #include "cv/editor.h"
 #include "cv/model_files.h"
 #include "workspace/document_keeping.h"
+#include "workspace/documents_folder.h"
 #include "workspace/systeme.h"
 
 namespace talvor {
@@ -43,13 +44,8 @@ class OldVersion {
 
 }  // namespace
 
-Text DocumentsFolder(const Environment& environment) {
-  return environment.Variable(u"userprofile") +
-         (EstProgramData(environment) ? u"/Documents/" : u"/Mes documents/");
-}
-
-fs::path ConvertedCv(const Environment& environment, TextView nomCV, TextView ending) {
-  return PathOf(DocumentsFolder(environment).append(nomCV).append(ending));
+fs::path CvConversion::Target(TextView ending) const {
+  return ConvertedCv(around_.environment, DocumentsLayout::OfTheSystem, around_.editor.NomCV, ending);
 }
 
 // A target in use or without a folder, a CV without a name or without a page: told, and not converted.
@@ -79,7 +75,7 @@ Text CvConversion::Export(PageExporter& exporter, const fs::path& target) const 
 void CvConversion::ConvertirWord() {
   if (!around_.shell.FormeVisible(EditorForm)) return;
 
-  const fs::path target = ConvertedCv(around_.environment, around_.editor.NomCV, u".doc");
+  const fs::path target = Target(u".doc");
   if (!CanConvert(target)) return;
 
   // The old document goes before anything else is done; one that cannot go ends the conversion.
@@ -99,7 +95,7 @@ void CvConversion::ConvertirWord() {
 
 void CvConversion::Replace(TextView ending, PageExporter& exporter) {
   if (!around_.shell.FormeVisible(EditorForm)) return;
-  const fs::path target = ConvertedCv(around_.environment, around_.editor.NomCV, ending);
+  const fs::path target = Target(ending);
   if (!CanConvert(target)) return;
   const Text fault = Export(exporter, target);
   if (!fault.empty()) return around_.dialogs.Tell(fault);

@@ -13,13 +13,6 @@
 
 namespace talvor {
 
-// The user's documents folder, with a "/" at its end.
-[[nodiscard]] Text DocumentsFolder(const Environment& environment);
-
-// Where a CV stands once converted; `ending` is that of the format («.doc»).
-[[nodiscard]] std::filesystem::path ConvertedCv(const Environment& environment, TextView nomCV,
-                                                TextView ending);
-
 // `ConvertirWord` and `ConvertirODF` of the main window. They convert the page that the editor shows and
 // do nothing at all while the editor is not visible. Failures are told to the user.
 class CvConversion {
@@ -46,6 +39,7 @@ class CvConversion {
 
  private:
   [[nodiscard]] bool CanConvert(const std::filesystem::path& target);
+  [[nodiscard]] std::filesystem::path Target(TextView ending) const;
   [[nodiscard]] Text Export(PageExporter& exporter, const std::filesystem::path& target) const;
   void Replace(TextView ending, PageExporter& exporter);
 

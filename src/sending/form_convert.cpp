@@ -7,6 +7,7 @@
 #include "base/line_file.h"
 #include "cv/model_files.h"
 #include "workspace/document_keeping.h"
+#include "workspace/documents_folder.h"
 #include "workspace/systeme.h"
 
 namespace talvor {
@@ -38,7 +39,7 @@ Text DateAndTimeOf(const fs::path& file) {
 }  // namespace
 
 void FormConvert::Charger() {
-  target_ = ConvertedCv(around_.environment, around_.editor.NomCV, u".doc");
+  target_ = ConvertedCv(around_.environment, DocumentsLayout::OfTheSystem, around_.editor.NomCV, u".doc");
 
   const auto empty = TextOf(fs::current_path() / "DocWord.doc");
   Text1 = empty ? around_.documents.ProgramFor(*empty) : Text{};

@@ -4,10 +4,10 @@
 #include <exception>
 
 #include "base/line_file.h"
-#include "sending/conversion.h"
 #include "sending/form_convert.h"
 #include "sending/mail.h"
 #include "workspace/document_keeping.h"
+#include "workspace/documents_folder.h"
 
 namespace talvor {
 namespace {
@@ -145,7 +145,7 @@ void FormPostuler::ClicCV(std::size_t i) {
 
   // Its converted version, in the newer layout of the documents folder, whatever the system's.
   const Text converted =
-      around_.environment.Variable(u"userprofile") + u"/Documents/" + ReplaceAll(name, LetterEnding, u".doc");
+      TextOf(LastWordVersion(around_.environment, DocumentsLayout::Newer, name)).value_or(Text{});
   if (IsFile(converted)) {
     PJ = converted;
     return;

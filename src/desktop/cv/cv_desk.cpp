@@ -4,10 +4,12 @@
 #include <QPrinter>
 #include <QPrinterInfo>
 
+#include "base/line_file.h"
 #include "desktop/platform/printing.h"
 #include "desktop/shell/guide_panel.h"
 #include "desktop/widgets/text_edge.h"
 #include "workspace/document_keeping.h"
+#include "workspace/documents_folder.h"
 #include "workspace/systeme.h"
 #include "workspace/workspace_paths.h"
 
@@ -131,19 +133,20 @@ void CvDesk::Chosen(TextView item) {
 
 // In "Documents", whatever the layout of the folders is.
 void CvDesk::OpenLastWordVersion() {
-  OuvrirDocument(program_.environment.Variable(u"userprofile") + u"/Documents/" + form_->NomCV + u".doc",
-                 documents_, program_.dialogs);
+  const auto version = ConvertedCv(program_.environment, DocumentsLayout::Newer, form_->NomCV, u".doc");
+  OuvrirDocument(TextOf(ExistingFile(version).value_or(version)).value_or(Text{}), documents_,
+                 program_.dialogs);
 }
 
 // The page as it stands on the disk, as it will be printed.
 void CvDesk::Preview() {
   if (!window_) return;
-  const Text folder = program_.environment.Variable(u"userprofile") + u"/Documents/";
+  const auto pdf = ConvertedCv(program_.environment, DocumentsLayout::Newer, form_->NomCV, u".pdf");
   printPreview_ = new PrintPreviewWindow(program_.theme,
                                          {.file = ToQt(preview_.LocationURL()),
                                           .reach = Reach::Folder,
                                           .layout = CvPageLayout(),
-                                          .pdf = ToQt(folder + form_->NomCV + u".pdf")},
+                                          .pdf = ToQt(TextOf(pdf).value_or(Text{}))},
                                          window_);
   printPreview_->show();
 }

@@ -8,7 +8,7 @@
 
 #include "base/line_file.h"
 #include "desktop/widgets/text_edge.h"
-#include "sending/conversion.h"
+#include "workspace/documents_folder.h"
 
 namespace talvor {
 namespace {
