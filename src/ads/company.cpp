@@ -34,10 +34,7 @@ void ReadCompany(Run& run, Index I) {
 
 }  // namespace
 
-bool IsCompanySentence(TextView text) {
-  return std::any_of(CompanyFilter.begin(), CompanyFilter.end(),
-                     [&](TextView term) { return Contains(text, term); });
-}
+bool IsCompanySentence(TextView text) { return ContainsAny(text, CompanyFilter); }
 
 void CompanyRule(Run& run, Index I) {
   const bool dateBehind = Contains(run.words(I + 1), u"/");

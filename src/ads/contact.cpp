@@ -1,6 +1,5 @@
 // The contact person behind a form of address.
 
-#include <algorithm>
 #include <array>
 
 #include "ads/phrase_reader.h"
@@ -30,9 +29,7 @@ void ReadContact(const Run& run, Index I) {
     if (ReadWord(ContactReader, run.words, I, K, run.words.Uncut(I + K), contact) == Step::Stopped) break;
 
   contact = Normaliser(contact) + u" ";
-  const bool sentence = std::any_of(ContactFilter.begin(), ContactFilter.end(),
-                                    [&](TextView term) { return Contains(contact, term); });
-  contact = sentence ? Text{} : NomPropre(contact);
+  contact = ContainsAny(contact, ContactFilter) ? Text{} : NomPropre(contact);
 }
 
 }  // namespace talvor::ads

@@ -9,7 +9,8 @@
 namespace talvor::ads {
 namespace {
 
-// A postal code counts only with one of these words shortly before it.
+// A postal code counts only with one of these words shortly before it. The parser of an identity has a
+// list of its own, without "ZI": the two are not to be aligned.
 constexpr TextView StreetWords =
     u" RUE AVENUE QUAI ZA ZI AV R BOULEVARD BD BLV BVD BV ALLEE ESPLANADE PLACE BP ROUTE TSA ";
 

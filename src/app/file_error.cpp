@@ -5,7 +5,7 @@
 namespace talvor {
 
 FileError::FileError(const std::filesystem::path& file, TextView what, const std::error_code& cause)
-    : std::runtime_error("«\u00A0" + file.string() + "\u00A0» " + ToUtf8(what) +
-                         "\u00A0: " + ToUtf8(CauseOf(cause)) + '.') {}
+    : std::runtime_error(Quoted(file.string()) + " " + ToUtf8(what) + "\u00A0: " + ToUtf8(CauseOf(cause)) +
+                         '.') {}
 
 }  // namespace talvor

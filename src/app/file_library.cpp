@@ -43,8 +43,8 @@ void RenameAll(std::span<const Renaming> renamings) {
     while (i-- > 0)
       if (const auto stuck = RenameDocument(renamings[i].to, renamings[i].from))
         throw FileError(renamings[i].to, u"n’a pas pu reprendre son ancien nom", stuck);
-    throw FileError(failed.from,
-                    u"n’a pas pu devenir «\u00A0" + TextOf(failed.to).value_or(Text{}) + u"\u00A0»", failure);
+    throw FileError(failed.from, u"n’a pas pu devenir " + Quoted(TextOf(failed.to).value_or(Text{})),
+                    failure);
   }
 }
 

@@ -24,7 +24,7 @@ constexpr const char* JournalName = "Talvor.mdb-journal";
 
 std::error_code LastError() { return {errno, std::generic_category()}; }
 
-Text Quoted(const fs::path& path) { return u"«\u00A0" + TextOf(path).value_or(u"?") + u"\u00A0»"; }
+Text QuotedName(const fs::path& path) { return Quoted(TextOf(path).value_or(u"?")); }
 
 // A folder with no separator at its end.
 fs::path Plain(const fs::path& folder) {
@@ -106,7 +106,7 @@ class Copy {
     if (entry.is_directory(error)) return Collect(entry.path(), name, ancestors);
     if (!entry.is_regular_file(error)) {
       if (!entry.exists(error)) throw CopyFailure(entry.path(), LinkToNothing());
-      throw CopyFailure(u"Le fichier " + Quoted(entry.path()) + u" n’est pas un fichier ordinaire.");
+      throw CopyFailure(u"Le fichier " + QuotedName(entry.path()) + u" n’est pas un fichier ordinaire.");
     }
     const std::uintmax_t size = entry.file_size(error);
     Require(error, entry.path());
@@ -117,7 +117,7 @@ class Copy {
   static void RefuseLink(const fs::path& file) {
     std::error_code error;
     if (fs::is_symlink(file, error))
-      throw CopyFailure(Quoted(file) + u" est un lien vers un autre endroit\u00A0: il n’est pas suivi.");
+      throw CopyFailure(QuotedName(file) + u" est un lien vers un autre endroit\u00A0: il n’est pas suivi.");
   }
 
   static std::error_code LinkToNothing() {
@@ -135,7 +135,7 @@ class Copy {
     const auto megabytes = [](std::uintmax_t bytes) {
       return NumberText(static_cast<long long>(bytes / Megabyte));
     };
-    throw CopyFailure(u"Il n’y a pas assez de place dans " + Quoted(disk) + u"\u00A0: la copie demande " +
+    throw CopyFailure(u"Il n’y a pas assez de place dans " + QuotedName(disk) + u"\u00A0: la copie demande " +
                       megabytes(progress_.byteCount) + u"\u00A0Mo, il en reste " +
                       megabytes(space.available) + u".");
   }
@@ -244,8 +244,8 @@ class Copy {
     for (auto folder = madeFolders_.rbegin(); folder != madeFolders_.rend(); ++folder)
       fs::remove(*folder, holdsOthers);
     if (stuck)
-      throw CopyFailure(u"La copie a échoué, et l’ancien fichier " + Quoted(*stuck) +
-                        u" n’a pas pu revenir\u00A0; il se trouve dans " + Quoted(Kept()) + u".");
+      throw CopyFailure(u"La copie a échoué, et l’ancien fichier " + QuotedName(*stuck) +
+                        u" n’a pas pu revenir\u00A0; il se trouve dans " + QuotedName(Kept()) + u".");
     if (!options_.kept.empty()) fs::remove_all(options_.kept, holdsOthers);
   }
 
@@ -264,8 +264,8 @@ class Copy {
 }  // namespace
 
 CopyFailure::CopyFailure(const fs::path& file, const std::error_code& cause)
-    : CopyFailure(u"Le fichier " + Quoted(file) + u" n’a pas pu être copié\u00A0: " + CauseOf(cause) + u".") {
-}
+    : CopyFailure(u"Le fichier " + QuotedName(file) + u" n’a pas pu être copié\u00A0: " + CauseOf(cause) +
+                  u".") {}
 
 std::error_code CopySteps::CopyFile(const fs::path& from, const fs::path& to,
                                     const std::function<bool(std::uintmax_t)>& onBytes) {
@@ -313,10 +313,11 @@ void CheckFolders(const fs::path& source, const fs::path& destination) {
   if (error) throw CopyFailure(source, error);
   const fs::path to = fs::weakly_canonical(Plain(destination), error);
   if (error) throw CopyFailure(destination, error);
-  if (to == from) throw CopyFailure(u"Le dossier " + Quoted(from) + u" ne peut pas être copié sur lui-même.");
+  if (to == from)
+    throw CopyFailure(u"Le dossier " + QuotedName(from) + u" ne peut pas être copié sur lui-même.");
   if (LiesIn(to, from))
-    throw CopyFailure(u"Le dossier " + Quoted(to) + u" se trouve dans le dossier à copier, " + Quoted(from) +
-                      u"\u00A0: choisissez un autre emplacement.");
+    throw CopyFailure(u"Le dossier " + QuotedName(to) + u" se trouve dans le dossier à copier, " +
+                      QuotedName(from) + u"\u00A0: choisissez un autre emplacement.");
 }
 
 void CopyContents(const fs::path& source, const fs::path& destination, const CopyOptions& options,

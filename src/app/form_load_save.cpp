@@ -30,8 +30,7 @@ fs::path Before(const fs::path& path, TextView mark) {
   const Text text = TextOf(path).value_or(Text{});
   const auto at = text.find(mark);
   if (at == Text::npos)
-    throw CopyFailure(u"Le chemin «\u00A0" + text + u"\u00A0» ne contient pas «\u00A0" + Text{mark} +
-                      u"\u00A0».");
+    throw CopyFailure(u"Le chemin " + Quoted(text) + u" ne contient pas " + Quoted(mark) + u".");
   return at == 0 ? fs::path{"/"} : PathOf(text.substr(0, at));
 }
 
@@ -153,8 +152,8 @@ bool FormLoadSave::SauverDans(const fs::path& answer) {
       CopierDossier(source, answer.parent_path(), options, steps);
     } catch (const std::runtime_error& failure) {
       if (!removed) throw;
-      throw CopyFailure(MessageOf(failure) + u" L’ancienne base «\u00A0" + TextOf(answer).value_or(Text{}) +
-                        u"\u00A0» avait déjà été supprimée.");
+      throw CopyFailure(MessageOf(failure) + u" L’ancienne base " + Quoted(TextOf(answer).value_or(Text{})) +
+                        u" avait déjà été supprimée.");
     }
   });
   if (done) Done(Saved);
@@ -203,8 +202,8 @@ bool FormLoadSave::Restaurer(const fs::path& source, const fs::path& destination
   });
   if (!done) return false;
   if (elsewhere)
-    around_.dialogs.Tell(u"Les données ont été copiées dans «\u00A0" + TextOf(destination).value_or(Text{}) +
-                         u"\u00A0», qui n’est pas le dossier de travail.");
+    around_.dialogs.Tell(u"Les données ont été copiées dans " + Quoted(TextOf(destination).value_or(Text{})) +
+                         u", qui n’est pas le dossier de travail.");
   Done(Loaded);
   return true;
 }

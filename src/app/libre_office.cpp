@@ -55,8 +55,8 @@ Text LibreOffice::Export(const fs::path& page, const fs::path& target) {
   try {
     return Convert(page, target);
   } catch (const fs::filesystem_error& fault) {
-    return u"Le document n’a pas pu être écrit dans le dossier «\u00A0" +
-           TextOf(target.parent_path()).value_or(Text{}) + u"\u00A0»\u00A0: " + CauseOf(fault.code()) + u".";
+    return u"Le document n’a pas pu être écrit dans le dossier " +
+           Quoted(TextOf(target.parent_path()).value_or(Text{})) + u"\u00A0: " + CauseOf(fault.code()) + u".";
   }
 }
 

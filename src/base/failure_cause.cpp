@@ -46,8 +46,7 @@ Text CauseOf(const std::error_code& failure) {
 Text ReportOf(const std::filesystem::filesystem_error& failure) {
   // A working folder whose support has gone, and a temporary folder that is none, have no path.
   const Text path = FromUtf8(failure.path1().native()).value_or(Text{});
-  const Text what =
-      path.empty() ? Text{u"Le dossier de travail ou le dossier temporaire"} : u"«\u00A0" + path + u"\u00A0»";
+  const Text what = path.empty() ? Text{u"Le dossier de travail ou le dossier temporaire"} : Quoted(path);
   return what + u"\u00A0: " + CauseOf(failure.code()) + u".";
 }
 
@@ -59,7 +58,7 @@ Text ReportOf(const std::exception& failure) {
     return u"Le système a refusé une opération\u00A0: " + CauseOf(ofSystem->code()) + u".";
   const Text said = FromUtf8(failure.what()).value_or(Text{});
   if (dynamic_cast<const std::runtime_error*>(&failure)) return said;
-  return u"Erreur interne du programme\u00A0: «\u00A0" + said + u"\u00A0».";
+  return u"Erreur interne du programme\u00A0: " + Quoted(said) + u".";
 }
 
 }  // namespace talvor

@@ -198,8 +198,7 @@ Text Normaliser(TextView text) {
 }
 
 int NumeroMois(TextView text) {
-  static constexpr TextView Months = u"JAN FEV MAR AVR MAI JUI JUI AOU SEP OCT NOV DEC";
-  const auto at = Months.find(SansAccents(text.substr(0, 3)));
+  const auto at = MonthAbbreviations.find(SansAccents(text.substr(0, 3)));
   if (at == TextView::npos) return 0;
   // To the nearest number, a half to the even one: a position inside a word still gives a month.
   return static_cast<int>(std::nearbyint(static_cast<double>(at) / 4 + 1));

@@ -21,6 +21,9 @@ namespace talvor {
 // blank for each 1024 begun.
 [[nodiscard]] Text Normaliser(TextView text);
 
+// Three letters and a blank for each month, without the last blank; July is the second JUI.
+inline constexpr TextView MonthAbbreviations = u"JAN FEV MAR AVR MAI JUI JUI AOU SEP OCT NOV DEC";
+
 // 1 to 12 for a text that begins with a French month word, 0 for one that does not. «Juin» and
 // «juillet» both give 6 and the empty text 1.
 [[nodiscard]] int NumeroMois(TextView text);

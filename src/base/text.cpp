@@ -163,6 +163,11 @@ int CompareIgnoringCase(TextView a, TextView b) noexcept {
   return a.size() == b.size() ? 0 : a.size() < b.size() ? -1 : 1;
 }
 
+bool EndsWithIgnoringCase(TextView text, TextView ending) noexcept {
+  return text.size() >= ending.size() &&
+         CompareIgnoringCase(text.substr(text.size() - ending.size()), ending) == 0;
+}
+
 std::size_t Find(TextView text, TextView what, std::size_t from) noexcept {
   if (what.empty()) return from <= text.size() ? from : TextView::npos;
   if (text.size() < what.size()) return TextView::npos;
@@ -180,6 +185,10 @@ std::size_t Find(TextView text, TextView what, std::size_t from) noexcept {
 }
 
 bool Contains(TextView text, TextView what) noexcept { return Find(text, what) != TextView::npos; }
+
+bool ContainsAny(TextView text, std::span<const TextView> terms) noexcept {
+  return std::any_of(terms.begin(), terms.end(), [&](TextView term) { return Contains(text, term); });
+}
 
 Text ReplaceAll(TextView text, TextView what, TextView by) {
   Text result;
@@ -223,5 +232,8 @@ Text NumberText(long long number) {
   const std::string digits = std::to_string(number);
   return {digits.begin(), digits.end()};
 }
+
+Text Quoted(TextView text) { return Text{u"«\u00A0"}.append(text).append(u"\u00A0»"); }
+std::string Quoted(std::string_view bytes) { return std::string{"«\u00A0"}.append(bytes).append("\u00A0»"); }
 
 }  // namespace talvor

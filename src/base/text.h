@@ -5,6 +5,7 @@
 #pragma once
 
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -32,10 +33,12 @@ inline constexpr TextView LineEnd = u"\r\n";
 
 // Less than, equal to or greater than 0 as `a` sorts before, with or after `b` without regard to case.
 [[nodiscard]] int CompareIgnoringCase(TextView a, TextView b) noexcept;
+[[nodiscard]] bool EndsWithIgnoringCase(TextView text, TextView ending) noexcept;
 
 // The first position of `what` at or after `from`, or TextView::npos. Made for long texts.
 [[nodiscard]] std::size_t Find(TextView text, TextView what, std::size_t from = 0) noexcept;
 [[nodiscard]] bool Contains(TextView text, TextView what) noexcept;
+[[nodiscard]] bool ContainsAny(TextView text, std::span<const TextView> terms) noexcept;
 
 // Every occurrence of `what` (not empty) replaced once, from left to right; what was put in is not
 // looked at again.
@@ -53,5 +56,9 @@ inline constexpr TextView LineEnd = u"\r\n";
 
 // A whole number in decimal digits, with "-" in front when negative.
 [[nodiscard]] Text NumberText(long long number);
+
+// A text between French quotation marks, with their non-breaking blanks; bytes are UTF-8.
+[[nodiscard]] Text Quoted(TextView text);
+[[nodiscard]] std::string Quoted(std::string_view bytes);
 
 }  // namespace talvor

@@ -33,7 +33,7 @@ Json AnalyseRecord(const Json& input) {
     else if (key == "initial")
       FillFromJson(value, AdFieldTable, record);
     else
-      throw CommandError("clé inconnue\u00A0: «\u00A0" + key + "\u00A0»");
+      throw CommandError("clé inconnue\u00A0: " + Quoted(key));
   }
   AnalyserAnnonce(texte, record, context);
   return JsonOf(AdFieldTable, record);
@@ -48,7 +48,7 @@ ExitCode Analyser(const AnalyseOptions& options, Console& console) {
   if (options.date) context.today = ReadDay(*options.date);
   if (options.initial) {
     const Text json = ReadText(*options.initial, console, LineEnds::AsTheyStand);
-    FillFromJson(ParseJson(ToUtf8(json), "«\u00A0" + *options.initial + "\u00A0»"), AdFieldTable, record);
+    FillFromJson(ParseJson(ToUtf8(json), Quoted(*options.initial)), AdFieldTable, record);
   }
   Text texte = ReadText(options.file, console, options.raw ? LineEnds::AsTheyStand : LineEnds::AsCrLf);
   if (options.unglue) texte = DecollerMots(texte);

@@ -25,8 +25,8 @@ struct BackupForm {
     std::error_code error;
     fs::current_path(folder, error);
     if (error)
-      throw CommandError("le dossier de données «\u00A0" + folder.string() +
-                         "\u00A0» n’est pas accessible (voir «\u00A0talvorctl preparer\u00A0»)");
+      throw CommandError("le dossier de données " + Quoted(folder.string()) +
+                         " n’est pas accessible (voir «\u00A0talvorctl preparer\u00A0»)");
   }
 
   SystemClock clock;
@@ -45,9 +45,8 @@ ExitCode Sauvegarder(const std::string& workspace, const std::string& folder, Co
   BackupForm backup(workspace, console);
   std::error_code missing;
   if (fs::exists(target / "Talvor.mdb", missing))
-    throw CommandError(
-        "«\u00A0" + target.string() +
-        "\u00A0» est lui-même un dossier de données\u00A0: choisissez celui qui doit le contenir");
+    throw CommandError(Quoted(target.string()) +
+                       " est lui-même un dossier de données\u00A0: choisissez celui qui doit le contenir");
   if (!backup.form.SauverDans(target / "Talvor.mdb")) return Refused;
   console.out << backup.form.progress.files
               << (backup.form.progress.files < 2 ? " fichier copié dans " : " fichiers copiés dans ")

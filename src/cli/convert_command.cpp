@@ -43,8 +43,7 @@ std::optional<fs::path> FindIn(const std::vector<fs::path>& folders, TextView na
 fs::path WritePage(CvDocument cv, const std::vector<fs::path>& folders, const fs::path& folder) {
   const auto model = FindIn(folders, cv.Modèle);
   auto page = model ? ReadTemplate(*model) : std::nullopt;
-  if (!page)
-    throw CommandError("le modèle «\u00A0" + ToUtf8(cv.Modèle) + "\u00A0» est introuvable ou illisible");
+  if (!page) throw CommandError("le modèle " + Quoted(ToUtf8(cv.Modèle)) + " est introuvable ou illisible");
   const auto photo = FindIn(folders, cv.NomCV + u".jpg");
   if (photo) fs::copy_file(*photo, folder / "Photo.jpg");
   cv.Langues = LanguageSummary(cv);
@@ -61,13 +60,13 @@ fs::path WritePage(CvDocument cv, const std::vector<fs::path>& folders, const fs
 ExitCode ConvertirCv(const std::string& workspace, const ConvertOptions& options, Console& console) {
   const fs::path target = fs::absolute(options.target);
   if (!IsDocumentEnding(TextOf(target.extension()).value_or(Text{})))
-    throw CommandError("le format de «\u00A0" + options.target +
-                       "\u00A0» n’est ni .doc, ni .docx, ni .odt, ni .pdf");
+    throw CommandError("le format de " + Quoted(options.target) +
+                       " n’est ni .doc, ni .docx, ni .odt, ni .pdf");
   CvDocument cv = CvOf(options.file);
   LibreOffice office;
   if (office.HasOpen(target))
-    throw CommandError("«\u00A0" + options.target +
-                       "\u00A0»\u00A0: Le fichier est en cours d'utilisation. Conversion impossible");
+    throw CommandError(Quoted(options.target) +
+                       "\u00A0: Le fichier est en cours d'utilisation. Conversion impossible");
   const TemporaryFolder scratch;
   const fs::path page = WritePage(std::move(cv), ModelFolders(workspace, options.file), scratch.Path());
   const Text fault = office.Export(page, target);

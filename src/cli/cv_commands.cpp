@@ -33,7 +33,7 @@ constexpr FieldTable<CvDocument, 11> ParsedFields{{
 CvDocument CvOf(const fs::path& file) {
   CvDocument cv;
   if (!ReadCv(file, cv))
-    throw CommandError("le CV «\u00A0" + file.string() + "\u00A0» est introuvable ou illisible");
+    throw CommandError("le CV " + Quoted(file.string()) + " est introuvable ou illisible");
   // The name of the file wins over the one that stands in it.
   cv.NomCV = TextOf(file.stem()).value_or(cv.NomCV);
   return cv;
@@ -42,7 +42,7 @@ CvDocument CvOf(const fs::path& file) {
 ExitCode RendreCv(const RenderOptions& options, Console& console) {
   CvDocument cv = CvOf(options.file);
   auto page = ReadTemplate(options.model);
-  if (!page) throw CommandError("le modèle «\u00A0" + options.model + "\u00A0» est introuvable ou illisible");
+  if (!page) throw CommandError("le modèle " + Quoted(options.model) + " est introuvable ou illisible");
   cv.Langues = LanguageSummary(cv);
   const auto photo = options.photo ? PhotoOnPage::Picture : PhotoOnPage::None;
   // The program writes pages in the code page; what a terminal gets says its own character set.

@@ -13,7 +13,7 @@ constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
 std::string ReadAll(const std::string& file, Console& console) {
   if (file == "-") return {std::istreambuf_iterator<char>{console.in}, {}};
   auto bytes = ReadBytes(file);
-  if (!bytes) throw CommandError("le fichier «\u00A0" + file + "\u00A0» est introuvable ou illisible");
+  if (!bytes) throw CommandError("le fichier " + Quoted(file) + " est introuvable ou illisible");
   return std::move(*bytes);
 }
 
@@ -24,7 +24,7 @@ Text ReadText(const std::string& file, Console& console, LineEnds lineEnds) {
   std::string_view content = bytes;
   if (content.starts_with(ByteOrderMark)) content.remove_prefix(ByteOrderMark.size());
   auto text = FromUtf8(content);
-  const std::string name = file == "-" ? "l’entrée standard" : "le fichier «\u00A0" + file + "\u00A0»";
+  const std::string name = file == "-" ? "l’entrée standard" : "le fichier " + Quoted(file);
   if (!text) throw CommandError(name + " n’est pas un texte UTF-8");
   return lineEnds == LineEnds::AsCrLf ? WithCrLf(*text) : std::move(*text);
 }
@@ -37,7 +37,7 @@ Text ArgumentText(const std::string& argument) {
 
 Day ReadDay(const std::string& date) {
   const auto day = ParseDate(ArgumentText(date));
-  if (!day) throw CommandError("la date «\u00A0" + date + "\u00A0» est incorrecte (JJ/MM/AAAA)");
+  if (!day) throw CommandError("la date " + Quoted(date) + " est incorrecte (JJ/MM/AAAA)");
   return *day;
 }
 
@@ -48,7 +48,7 @@ Json ParseJson(const std::string& bytes, const std::string& source) {
 }
 
 Text JsonText(const Json& value, const std::string& key) {
-  if (!value.is_string()) throw CommandError("la valeur de «\u00A0" + key + "\u00A0» n’est pas un texte");
+  if (!value.is_string()) throw CommandError("la valeur de " + Quoted(key) + " n’est pas un texte");
   return ArgumentText(value.get_ref<const std::string&>());
 }
 

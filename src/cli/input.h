@@ -45,7 +45,7 @@ void FillFromJson(const Json& object, const FieldTable<Record, N>& table, Record
   if (!object.is_object()) throw CommandError("un objet JSON est attendu");
   for (const auto& [key, value] : object.items()) {
     const auto* field = FindField(table, FromUtf8(key).value_or(Text{}));
-    if (field == nullptr) throw CommandError("champ inconnu\u00A0: «\u00A0" + key + "\u00A0»");
+    if (field == nullptr) throw CommandError("champ inconnu\u00A0: " + Quoted(key));
     record.*(field->text) = JsonText(value, key);
   }
 }

@@ -30,7 +30,7 @@ ExitCode LettreComposer(const ComposeOptions& options, Console& console) {
   const Day today = DayOfOption(options.date);
   LetterModel model;
   if (!ReadLetter(options.file, model))
-    throw CommandError("fichier non accessible\u00A0: «\u00A0" + options.file + "\u00A0»");
+    throw CommandError("fichier non accessible\u00A0: " + Quoted(options.file));
   ComposerLettre(model, today);
   console.out << JsonOf(ComposedFields, model).dump(2) << '\n';
   return Done;
@@ -40,8 +40,7 @@ ExitCode LettreFusionner(const MergeOptions& options, Console& console) {
   const Day today = DayOfOption(options.date);
   const Text json = ReadText(options.candidature, console, LineEnds::AsTheyStand);
   CandidatureTexts candidature;
-  FillFromJson(ParseJson(ToUtf8(json), "«\u00A0" + options.candidature + "\u00A0»"), CandidatureTags,
-               candidature);
+  FillFromJson(ParseJson(ToUtf8(json), Quoted(options.candidature)), CandidatureTags, candidature);
   MergedLetter letter;
   ConsoleDialogs dialogs{console.err};
   ConsoleShell shell;

@@ -15,8 +15,8 @@ void MoveTo(const std::string& folder) {
   const bool hasBase = fs::exists(fs::path{folder} / "Talvor.mdb", error);
   if (hasBase) fs::current_path(folder, error);
   if (!hasBase || error)
-    throw CommandError("La base n'est pas accessible dans «\u00A0" + folder +
-                       "\u00A0» (voir «\u00A0talvorctl preparer\u00A0»)");
+    throw CommandError("La base n'est pas accessible dans " + Quoted(folder) +
+                       " (voir «\u00A0talvorctl preparer\u00A0»)");
 }
 
 }  // namespace

@@ -24,7 +24,7 @@ constexpr std::array<TriName, 4> TriNames{{{"societes", Tri::Societes},
 Tri TriOf(const std::string& name) {
   for (const auto& row : TriNames)
     if (name == row.name) return row.tri;
-  throw CommandError("tri inconnu\u00A0: «\u00A0" + name + "\u00A0»");
+  throw CommandError("tri inconnu\u00A0: " + Quoted(name));
 }
 
 // The groups in order, each with its leaves.

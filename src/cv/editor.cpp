@@ -28,11 +28,6 @@ bool RendersOnLeaving(TextView field) {
                          u"Divers", u"LanguesPlus"});
 }
 
-bool EndsLikeTemplate(TextView name) {
-  return name.size() >= TemplateEnding.size() &&
-         CompareIgnoringCase(name.substr(name.size() - TemplateEnding.size()), TemplateEnding) == 0;
-}
-
 }  // namespace
 
 FormRédigerCV::FormRédigerCV(Surroundings surroundings)
@@ -46,7 +41,8 @@ void FormRédigerCV::Open(int width) {
   templateRows.clear();
   for (std::size_t i = 0; i < files.Count(); ++i) {
     const Text name = files.List(i);
-    if (EndsLikeTemplate(name)) templateRows.push_back(name.substr(0, name.size() - TemplateEnding.size()));
+    if (EndsWithIgnoringCase(name, TemplateEnding))
+      templateRows.push_back(name.substr(0, name.size() - TemplateEnding.size()));
   }
 
   around_.webBrowser1.Navigate(EmptyPage);

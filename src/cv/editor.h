@@ -53,7 +53,7 @@ class FormRédigerCV : public CvDocument {
   std::vector<Text> templateRows;  // the rows of `ListeModeles`: templates without extension
   static constexpr int CompactUnder = 16000;  // width of the form in twips
 
-  // Opening the editor; `width` is that of the form in twips, 15 to a pixel.
+  // Opening the editor; `width` is that of the form in twips (platform/twips.h).
   void Open(int width);
 
   // Fills the form from a file, given by its full path, and renders. A field that the file lacks keeps

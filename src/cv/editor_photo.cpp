@@ -34,8 +34,8 @@ void FormRédigerCV::RattacherPhoto() {
   // The bytes are copied as they stand, whatever kind of picture they are.
   const auto failure = picture ? SaveDocument(PhotoFile(NomCV), *picture) : ReadFailure(*chosen);
   if (failure)
-    return around_.dialogs.Tell(u"La photographie «\u00A0" + TextOf(*chosen).value_or(Text{}) +
-                                u"\u00A0» n’a pas pu être copiée\u00A0: " + CauseOf(failure) + u".");
+    return around_.dialogs.Tell(u"La photographie " + Quoted(TextOf(*chosen).value_or(Text{})) +
+                                u" n’a pas pu être copiée\u00A0: " + CauseOf(failure) + u".");
   Photo = *std::move(picture);
   VisualisationCV();
 }

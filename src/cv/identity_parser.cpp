@@ -5,7 +5,8 @@
 namespace talvor {
 namespace {
 
-// A word of an address stands here between two blanks.
+// A word of an address stands here between two blanks. The rule for places of work has a list of its own,
+// which holds "ZI" as well: the two are not to be aligned.
 constexpr TextView AddressWords =
     u" RUE AVENUE QUAI ZA AV R BOULEVARD BD BLV BVD BV ALLEE ESPLANADE PLACE BP ROUTE TSA ";
 

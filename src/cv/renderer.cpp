@@ -18,7 +18,7 @@ std::size_t CountOf(TextView text, TextView what) {
 }
 
 // Replaces every occurrence, unless the page would grow too long.
-void Replace(Text& page, TextView what, TextView by) {
+void ReplaceWithinBound(Text& page, TextView what, TextView by) {
   const std::size_t count = CountOf(page, what);
   if (count == 0) return;
   const std::size_t left = page.size() - count * what.size();
@@ -42,9 +42,9 @@ void FillFields(Text& page, const CvDocument& cv) {
     if (!Contains(page, mark)) continue;
     const Text& value = cv.*(field.text);
     if (!IsLongParagraph(field.name))
-      Replace(page, mark, IdentityOnPage(cv, field.name, value));
+      ReplaceWithinBound(page, mark, IdentityOnPage(cv, field.name, value));
     else if (const auto paragraph = FormatParagraph(value, StyleOf(cv), LargestPage))
-      Replace(page, mark, *paragraph);
+      ReplaceWithinBound(page, mark, *paragraph);
   }
 }
 
@@ -102,7 +102,7 @@ Text IdentityOnPage(const CvDocument& cv, TextView name, TextView value) {
 }
 
 Text FillTemplate(const CvDocument& cv, Text page, PhotoOnPage photo) {
-  if (!cv.Police.empty() && cv.Police != u"Arial") Replace(page, u"Arial", cv.Police);
+  if (!cv.Police.empty() && cv.Police != u"Arial") ReplaceWithinBound(page, u"Arial", cv.Police);
 
   RemoveEmptySections(page, cv);
   FillFields(page, cv);
@@ -110,12 +110,12 @@ Text FillTemplate(const CvDocument& cv, Text page, PhotoOnPage photo) {
   if (cv.CheckDisposition[1]) PutExperienceFirst(page);
 
   // The photo comes before the colours, so that its frame takes the main one.
-  Replace(page, u"#Photographie#", photo == PhotoOnPage::Picture ? PhotoMarkup : TextView{});
-  Replace(page, u"#Prénom#", cv.Prénom);
-  Replace(page, u"#FF6600", cv.Couleur);
-  Replace(page, u"#808080", cv.Couleur);
-  Replace(page, u"#c0c0c0", cv.CouleurClaire);
-  Replace(page, u"#FFE6D5", cv.CouleurClaire);
+  ReplaceWithinBound(page, u"#Photographie#", photo == PhotoOnPage::Picture ? PhotoMarkup : TextView{});
+  ReplaceWithinBound(page, u"#Prénom#", cv.Prénom);
+  ReplaceWithinBound(page, u"#FF6600", cv.Couleur);
+  ReplaceWithinBound(page, u"#808080", cv.Couleur);
+  ReplaceWithinBound(page, u"#c0c0c0", cv.CouleurClaire);
+  ReplaceWithinBound(page, u"#FFE6D5", cv.CouleurClaire);
 
   if (IsOne(cv.LangueCV)) page = TraduireCV(page);
   RemoveSectionMarks(page);

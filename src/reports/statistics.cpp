@@ -3,15 +3,15 @@
 #include <algorithm>
 #include <chrono>
 
+#include "base/fonctionnel.h"
+
 namespace talvor {
 namespace {
 
-// Three letters and a blank for each month; July is the second JUI here.
-constexpr TextView Months = u"JAN FEV MAR AVR MAI JUI JUI AOU SEP OCT NOV DEC";
-
 // «NOV 2026 », with its blank at the end. The month is 1 to 12.
 Text CalendarTitle(int month, int year) {
-  return Text{Months.substr(static_cast<std::size_t>(month - 1) * 4, 3)} + u" " + NumberText(year) + u" ";
+  return Text{MonthAbbreviations.substr(static_cast<std::size_t>(month - 1) * 4, 3)} + u" " +
+         NumberText(year) + u" ";
 }
 
 // 1 for Sunday to 7 for Saturday.

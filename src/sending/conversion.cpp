@@ -62,8 +62,8 @@ bool CvConversion::CanConvert(const fs::path& target) {
   std::error_code error;
   fs::create_directories(target.parent_path(), error);
   if (!error) return true;
-  around_.dialogs.Tell(u"Le dossier «\u00A0" + TextOf(target.parent_path()).value_or(Text{}) +
-                       u"\u00A0» ne peut pas être créé. Conversion impossible.");
+  around_.dialogs.Tell(u"Le dossier " + Quoted(TextOf(target.parent_path()).value_or(Text{})) +
+                       u" ne peut pas être créé. Conversion impossible.");
   return false;
 }
 

@@ -30,14 +30,10 @@ constexpr TextView Marked =
     u"votre propre messagerie ou par voie postale";
 constexpr TextView NoConnection = u"Talvor ne parvient pas à se connecter à Internet";
 
-bool HasEnding(TextView name, TextView ending) {
-  return name.size() >= ending.size() &&
-         CompareIgnoringCase(name.substr(name.size() - ending.size()), ending) == 0;
-}
-
 bool CanBeAttached(TextView name) {
-  return HasEnding(name, u".doc") || HasEnding(name, u".docx") || HasEnding(name, u".pdf") ||
-         HasEnding(name, u".odt");
+  constexpr std::array<TextView, 4> Endings{u".doc", u".docx", u".pdf", u".odt"};
+  return std::any_of(Endings.begin(), Endings.end(),
+                     [&](TextView ending) { return EndsWithIgnoringCase(name, ending); });
 }
 
 bool LooksLikeAddress(TextView text) { return Contains(text, u"@") && Contains(text, u"."); }
@@ -201,9 +197,8 @@ void FormPostuler::Send() {
   }
   around_.dialogs.Tell(NotSent);
   if (const Text left = around_.mail.LeftMessage(); !left.empty())
-    around_.dialogs.Tell(
-        u"Le message préparé, pièces jointes comprises, a été enregistré dans le fichier «\u00A0" + left +
-        u"\u00A0». Votre messagerie peut l’ouvrir pour l’envoyer.");
+    around_.dialogs.Tell(u"Le message préparé, pièces jointes comprises, a été enregistré dans le fichier " +
+                         Quoted(left) + u". Votre messagerie peut l’ouvrir pour l’envoyer.");
 }
 
 void FormPostuler::MarquerEnvoyee() { around_.formCand().MarquerEnvoyee(PJ, Texte); }

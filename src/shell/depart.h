@@ -5,11 +5,9 @@
 
 #include "platform/dialogs.h"
 #include "platform/shell.h"
+#include "platform/twips.h"
 
 namespace talvor {
-
-// Lengths of the splash and of the screen check are told in twips.
-inline constexpr int TwipsPerPixel = 15;
 
 struct ScreenSize {
   int width = 0;  // pixels

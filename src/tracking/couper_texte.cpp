@@ -16,8 +16,8 @@ Text CouperTexte(TextView text) {
 
     // A link word at the end leads nowhere. Each is taken off once, in this order.
     for (const TextView link : {u" DE", u" DU", u" EN", u" ET"})
-      if (text.size() >= LeastWithLinkWord && CompareIgnoringCase(text.substr(text.size() - 3), link) == 0)
-        text.remove_suffix(3);
+      if (text.size() >= LeastWithLinkWord && EndsWithIgnoringCase(text, link))
+        text.remove_suffix(link.size());
   }
   return Text{TrimBlanks(text)};
 }

@@ -148,9 +148,24 @@ void BindColumn(SQLite::Statement& statement, const fs::path& file, std::size_t 
   } else if (const auto day = ParseDate(value)) {
     statement.bind(parameter, day->serial);
   } else {
-    throw StoreError(file.string() + "\u00A0: la date «\u00A0" + ToUtf8(value) + "\u00A0» de la colonne " +
+    throw StoreError(file.string() + "\u00A0: la date " + Quoted(ToUtf8(value)) + " de la colonne " +
                      ColumnName(c) + " est refusée.");
   }
+}
+
+// Builds a database beside its place and moves it there whole. `build` fills the draft; `failure` is what
+// the user is told when it cannot move.
+void BuildInPlace(const fs::path& file, const char* failure,
+                  const std::function<void(SQLite::Database& draft)>& build) {
+  const fs::path draft = file.string() + ".nouveau";
+  std::error_code error;
+  fs::remove(draft, error);
+  Reporting(file, [&] {
+    SQLite::Database connection(draft.string(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+    build(connection);
+  });
+  fs::rename(draft, file, error);
+  if (error) throw StoreError(file.string() + "\u00A0: " + failure);
 }
 
 StoreError NoSuchRow(const fs::path& file, std::int32_t num) {
@@ -229,16 +244,10 @@ Database Database::OpenFile(const fs::path& file, const Clock& clock) {
 void Database::Create(const fs::path& file) {
   std::error_code error;
   if (fs::exists(file, error)) return;
-  // Built beside its place and moved there whole.
-  const fs::path draft = file.string() + ".nouveau";
-  fs::remove(draft, error);
-  Reporting(file, [&] {
-    SQLite::Database connection(draft.string(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
-    RegisterCollation(connection);
-    connection.exec(std::string{Schema} + "PRAGMA user_version = " + std::to_string(SchemaVersion));
+  BuildInPlace(file, "la base ne peut pas être créée.", [](SQLite::Database& draft) {
+    RegisterCollation(draft);
+    draft.exec(std::string{Schema} + "PRAGMA user_version = " + std::to_string(SchemaVersion));
   });
-  fs::rename(draft, file, error);
-  if (error) throw StoreError(file.string() + "\u00A0: la base ne peut pas être créée.");
 }
 
 void Database::CheckSound() {
@@ -351,18 +360,12 @@ void Database::AgeStatuses() {
 
 void Database::BackUp(const fs::path& file) {
   Engine& engine = Opened();
-  const fs::path draft = file.string() + ".nouveau";
-  std::error_code error;
-  fs::remove(draft, error);
-  Reporting(file, [&] {
-    SQLite::Database copy(draft.string(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
-    SQLite::Backup backup(copy, engine.connection);
+  BuildInPlace(file, "la copie de la base ne peut pas être écrite.", [&](SQLite::Database& draft) {
+    SQLite::Backup backup(draft, engine.connection);
     constexpr int AllPages = -1;
     const int outcome = backup.executeStep(AllPages);
     if (outcome != SQLITE_DONE) throw SQLite::Exception("copie inachevée", outcome);
   });
-  fs::rename(draft, file, error);
-  if (error) throw StoreError(file.string() + "\u00A0: la copie de la base ne peut pas être écrite.");
 }
 
 }  // namespace talvor

@@ -26,13 +26,13 @@ bool IsAddress(TextView target) { return UpperCase(target.substr(0, 4)) == u"HTT
 void OuvrirDocument(TextView target, Documents& documents, Dialogs& dialogs) {
   std::error_code unreadable;
   if (!IsAddress(target) && !std::filesystem::exists(PathOf(target), unreadable))
-    return dialogs.Tell(u"Le fichier «\u00A0" + Text{target} + u"\u00A0» n’existe pas.");
+    return dialogs.Tell(u"Le fichier " + Quoted(target) + u" n’existe pas.");
   if (!documents.Open(target)) TellNotOpened(target, dialogs);
 }
 
 void TellNotOpened(TextView target, Dialogs& dialogs) {
   const Text place = IsAddress(target) ? u"" : u" Le fichier se trouve bien à cet endroit.";
-  dialogs.Tell(u"Aucun programme n’a pu ouvrir «\u00A0" + Text{target} + u"\u00A0»." + place);
+  dialogs.Tell(u"Aucun programme n’a pu ouvrir " + Quoted(target) + u"." + place);
 }
 
 Text FenetreHttp(const Documents& documents) {

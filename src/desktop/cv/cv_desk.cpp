@@ -8,6 +8,7 @@
 #include "desktop/platform/printing.h"
 #include "desktop/shell/guide_panel.h"
 #include "desktop/widgets/text_edge.h"
+#include "platform/twips.h"
 #include "workspace/document_keeping.h"
 #include "workspace/documents_folder.h"
 #include "workspace/systeme.h"
@@ -17,7 +18,6 @@ namespace talvor {
 namespace {
 
 constexpr TextView HelpForm = u"Aide";
-constexpr int TwipsOfPixel = 15;
 
 std::shared_ptr<QPrinter> DefaultPrinter() {
   const QPrinterInfo printer = QPrinterInfo::defaultPrinter();
@@ -71,7 +71,7 @@ void CvDesk::Register() {
                                        .make = [this](QWidget* parent) { return MakeWindow(parent); },
                                        .loaded =
                                            [this] {
-                                             const int width = window_->window()->width() * TwipsOfPixel;
+                                             const int width = window_->window()->width() * TwipsPerPixel;
                                              window_->Do([&] { form_->Open(width); });
                                            },
                                        .unloaded =
