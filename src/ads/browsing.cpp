@@ -42,7 +42,7 @@ void FormCandWeb::ClicImage5() { DeplacerFrameWeb(StripOpen); }
 
 void FormCandWeb::ClicImage6() {
   List1Visible = !List1Visible;
-  shell_.Focus(u"FormCand", u"AdresseWeb");
+  shell_.Focus(CandidatureForm, u"AdresseWeb");
 }
 
 void FormCandWeb::ClicList1(std::size_t row) {
@@ -86,7 +86,7 @@ std::error_code FormCandWeb::MajListeSites() {
 }
 
 ApplyTexts FormCandWeb::Postuler() const {
-  const bool shown = shell_.FormeVisible(u"FormPostuler");
+  const bool shown = shell_.FormeVisible(ApplyForm);
   return shown && FormPostuler ? FormPostuler() : ApplyTexts{};
 }
 
@@ -102,7 +102,7 @@ void FormCandWeb::ClicLabel2() {
 }
 
 void FormCandWeb::PreremplirFormulaireConnu() {
-  if (!shell_.FormeVisible(u"FormPostuler")) return;
+  if (!shell_.FormeVisible(ApplyForm)) return;
   const ApplyTexts texts = Postuler();
   browser_.SetNamedValue(u"EmailCV", texts.Email);
   browser_.SetNamedValue(u"expediteur", texts.Email);

@@ -5,19 +5,14 @@
 #include "app/hints.h"
 
 namespace talvor {
-namespace {
-
-constexpr TextView CandForm = u"FormCand";
-
-}  // namespace
 
 bool CandidatureMenus::IsFirst() const {
   return principale_.ImageMenu[Principale::CandidatureSlot].picture == SlotPicture::ImageNew;
 }
 
 void CandidatureMenus::MenuOuvrirCand() {
-  shell_.Load(CandForm);
-  shell_.Show(CandForm);
+  shell_.Load(CandidatureForm);
+  shell_.Show(CandidatureForm);
   // The hint needs the room of a tall description to speak of.
   constexpr int TallDescription = 5200;
   if (IsFirst() && ways.hauteurDescription && ways.hauteurDescription() > TallDescription)
@@ -25,8 +20,8 @@ void CandidatureMenus::MenuOuvrirCand() {
 }
 
 void CandidatureMenus::MenuRechercherOffres() {
-  shell_.Load(CandForm);
-  shell_.Show(CandForm);
+  shell_.Load(CandidatureForm);
+  shell_.Show(CandidatureForm);
   if (ways.montrerCadreWeb) ways.montrerCadreWeb();
   shell_.PumpEvents();
   if (IsFirst()) principale_.AfficherGuide(hints::Capture);

@@ -94,8 +94,8 @@ void FileLibrary::DoubleClicSlot(std::size_t slot) {
   around_.principale.IndexMenu = static_cast<std::int16_t>(slot);
   const Text name = Name();
   if (slot == Principale::CandidatureSlot) {
-    around_.shell.Load(u"FormCand");
-    return around_.shell.Show(u"FormCand");
+    around_.shell.Load(CandidatureForm);
+    return around_.shell.Show(CandidatureForm);
   }
   if (slot >= Principale::FirstLetterSlot) return name.empty() ? MenuRédigerLettre() : MenuOuvrirLettre();
   if (name.empty()) return MenuNouveauCV();
@@ -252,7 +252,7 @@ void FileLibrary::Dupliquer(const fs::path& folder) {
 void FileLibrary::MenuDupliquerCV() { Dupliquer(workspace_paths::CvFolder()); }
 void FileLibrary::MenuDuppliquerLettre() { Dupliquer(workspace_paths::LetterFolder()); }
 
-void FileLibrary::MenuConvertirCV() { around_.shell.Show(u"FormConvert"); }
+void FileLibrary::MenuConvertirCV() { around_.shell.Show(ConvertForm); }
 
 void FileLibrary::MenuOuvrirWord() {
   const auto version = LastWordVersion(around_.environment, DocumentsLayout::OfTheSystem, Name());
@@ -276,8 +276,8 @@ void FileLibrary::MenuSupprimerLettre() {
   if (!around_.dialogs.Confirm(u"Confirmez-vous la suppression du modèle de lettre " + name + u" ?")) return;
   Delete(FileIn(workspace_paths::LetterFolder(), name));
   if (!around_.shell.FormeVisible(LetterForm)) {
-    around_.shell.Unload(u"AssistantTexte");
-    around_.shell.Load(u"AssistantTexte");
+    around_.shell.Unload(HomeForm);
+    around_.shell.Load(HomeForm);
   }
   around_.principale.InitMenu();
 }

@@ -15,7 +15,6 @@ constexpr TextView SaveProblem = u"Problème lors de la sauvegarde. ";
 constexpr TextView LoadProblem = u"Problème lors du chargement. ";
 constexpr TextView Saved = u"Sauvegarde effectuée";
 constexpr TextView Loaded = u"Chargement effectué";
-constexpr TextView FormName = u"FormLoadSave";
 constexpr const char* DatabaseName = "Talvor.mdb";
 
 FileQuestion Question() {
@@ -115,7 +114,7 @@ bool FormLoadSave::Try(TextView problem, Action&& action) {
 
 void FormLoadSave::Done(TextView message) {
   around_.dialogs.Tell(message);
-  around_.shell.Unload(FormName);
+  around_.shell.Unload(LoadSaveForm);
 }
 
 CopyOptions FormLoadSave::Options() {
@@ -256,7 +255,7 @@ bool FormLoadSave::Nouvel() {
 // During a copy the button stops it, and the form stays for its report.
 void FormLoadSave::BoutonTLV1() {
   if (busy) return Annuler();
-  around_.shell.Unload(FormName);
+  around_.shell.Unload(LoadSaveForm);
 }
 
 }  // namespace talvor

@@ -119,6 +119,4 @@ class FormRédigerCV : public CvDocument {
   bool unsaved_ = false;  // something was typed since the last save
 };
 
-inline constexpr TextView EditorForm = u"FormRédigerCV";
-
 }  // namespace talvor

@@ -126,7 +126,7 @@ void FormRédigerCV::MouseOverImage6(int i) {
   Text text;
   if (help->paragraph) text.append(editor_texts::ParagraphNote).append(LineEnd);
   text.append(help->text);
-  if (!around_.shell.FormeVisible(u"Aide")) around_.shell.Show(u"Aide");
+  if (!around_.shell.FormeVisible(EditorHelpForm)) around_.shell.Show(EditorHelpForm);
   if (around_.showHelp) around_.showHelp(text);
 }
 

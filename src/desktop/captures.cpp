@@ -217,7 +217,7 @@ void PhotographCv(Desktop& desktop, Photographer& photographer) {
   cv.Window()->Do([&] { cv.Form().ClosePanels(); });
   cv.Window()->Do([&] { cv.Form().MouseOverImage6(14); });
   photographer.Take(u"cv-aide");
-  desktop.Windows().Unload(u"Aide");
+  desktop.Windows().Unload(EditorHelpForm);
   cv.Preview();
   desktop.Windows().Wait(UntilThePageStands);
   photographer.Take(u"cv-apercu", cv.PreviewWindow());
@@ -309,17 +309,17 @@ void PhotographBrowser(Desktop& desktop, Photographer photographer) {
 // What stands over the main window: the backup, the advice on printing, the menus of the slots.
 void PhotographSmallForms(Desktop& desktop, const Theme& theme, Photographer photographer) {
   QtShell& shell = desktop.Windows();
-  shell.Show(u"FormLoadSave");
-  photographer.Take(u"sauver", shell.WindowOf(u"FormLoadSave"));
+  shell.Show(LoadSaveForm);
+  photographer.Take(u"sauver", shell.WindowOf(LoadSaveForm));
   desktop.Backup().busy = true;
   desktop.Backup().progress = {412, 1006, 96'000'000, 214'000'000};
-  static_cast<BackupWindow*>(shell.WindowOf(u"FormLoadSave"))->Refresh();
-  photographer.Take(u"sauver-copie", shell.WindowOf(u"FormLoadSave"));
+  static_cast<BackupWindow*>(shell.WindowOf(LoadSaveForm))->Refresh();
+  photographer.Take(u"sauver-copie", shell.WindowOf(LoadSaveForm));
   desktop.Backup().busy = false;
-  shell.Unload(u"FormLoadSave");
-  shell.Show(MiseEnPage::Form);
-  photographer.Take(u"mise-en-page", shell.WindowOf(MiseEnPage::Form));
-  shell.Unload(MiseEnPage::Form);
+  shell.Unload(LoadSaveForm);
+  shell.Show(PrintAdviceForm);
+  photographer.Take(u"mise-en-page", shell.WindowOf(PrintAdviceForm));
+  shell.Unload(PrintAdviceForm);
   HeaderBar& header = desktop.Main().Header();
   for (const auto& [slot, menu, name] :
        {std::tuple{0, u"MenuCV", u"menu-cv"}, std::tuple{8, u"MenuLettre", u"menu-lettre"},
@@ -377,7 +377,7 @@ void PhotographForms(Desktop& desktop, const Theme& theme, Photographer photogra
   constexpr int UntilTheRowsStand = 250;
   shell.Wait(UntilTheRowsStand);
   photographer.Take(u"accueil");
-  shell.Show(u"FormCand");
+  shell.Show(CandidatureForm);
   FormCandWindow& window = *desktop.CandidatureWindow();
   photographer.Take(u"candidatures-vide");
   window.Do([&] { desktop.Candidatures().ChargerCandidature(Detailed); });
@@ -394,9 +394,9 @@ void PhotographForms(Desktop& desktop, const Theme& theme, Photographer photogra
   PhotographBrowser(desktop, photographer);
   PhotographLetters(desktop, photographer);
   PhotographSending(desktop, photographer);
-  shell.Show(u"FormStat");
-  photographer.Take(u"statistiques", shell.WindowOf(u"FormStat"));
-  shell.Unload(u"FormStat");
+  shell.Show(StatisticsForm);
+  photographer.Take(u"statistiques", shell.WindowOf(StatisticsForm));
+  shell.Unload(StatisticsForm);
   desktop.Main().Header().OnPrint();
   constexpr int UntilThePageStands = 1500;
   shell.Wait(UntilThePageStands);
@@ -427,7 +427,7 @@ int Run(const QString& folder) {
     PhotographForms(
         desktop, theme,
         Photographer(desktop, folder, light ? QStringLiteral(".png") : QStringLiteral("-sombre.png")));
-    desktop.Windows().Unload(u"FormCand");
+    desktop.Windows().Unload(CandidatureForm);
   }
   return EXIT_SUCCESS;
 }

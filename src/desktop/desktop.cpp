@@ -50,8 +50,8 @@ Desktop::Desktop(const Theme& theme, const Environment& environment, const Clock
     if (formCandWindow_) formCandWindow_->Tick3000();
     // Waits of these forms end with them; the event loop alone would leave them turning.
     backup_.Annuler();
-    shell_.Unload(u"FormLoadSave");
-    shell_.Unload(u"FormCand");
+    shell_.Unload(LoadSaveForm);
+    shell_.Unload(CandidatureForm);
     FinishPrinting();
     QCoreApplication::quit();
   };
@@ -84,8 +84,8 @@ void Desktop::RefreshMain() {
 }
 
 void Desktop::RegisterForms() {
-  shell_.Register(u"Principale", {.place = QtShell::Place::Over,
-                                  .make = [this](QWidget*) -> QWidget* { return main_.get(); }});
+  shell_.Register(MainForm, {.place = QtShell::Place::Over,
+                             .make = [this](QWidget*) -> QWidget* { return main_.get(); }});
   RegisterHome();
   RegisterCandidatures();
   RegisterLetters();
@@ -101,28 +101,28 @@ void Desktop::RegisterForms() {
 }
 
 void Desktop::RegisterSmallForms() {
-  shell_.Register(u"APropos", {.place = QtShell::Place::Over, .make = [this](QWidget* parent) -> QWidget* {
-                                 auto* about = new AboutBox(theme_, parent);
-                                 about->setAttribute(Qt::WA_DeleteOnClose);
-                                 about->OnGuide = [this] { shell_.Show(UserGuideForm); };
-                                 return about;
-                               }});
+  shell_.Register(AboutForm, {.place = QtShell::Place::Over, .make = [this](QWidget* parent) -> QWidget* {
+                                auto* about = new AboutBox(theme_, parent);
+                                about->setAttribute(Qt::WA_DeleteOnClose);
+                                about->OnGuide = [this] { shell_.Show(UserGuideForm); };
+                                return about;
+                              }});
   shell_.Register(UserGuideForm, {.place = QtShell::Place::Over, .make = [this](QWidget* parent) -> QWidget* {
                                     auto* guide = new UserGuideWindow(theme_, parent);
                                     guide->setAttribute(Qt::WA_DeleteOnClose);
                                     return guide;
                                   }});
-  shell_.Register(MiseEnPage::Form,
+  shell_.Register(PrintAdviceForm,
                   {.place = QtShell::Place::Over, .make = [this](QWidget* parent) -> QWidget* {
                      return new AdviceBox(miseEnPage_, theme_, parent);
                    }});
   miseEnPage_.previsualiser = [this] { cv_.Preview(); };
-  shell_.Register(u"Assistant", {.place = QtShell::Place::Over,
-                                 .onLoad = QtShell::OnLoad::Shown,
-                                 .make = [this](QWidget* parent) -> QWidget* {
-                                   return new AssistantFigure(assistant_, theme_,
-                                                              homeWindow_ ? homeWindow_->Road() : parent);
-                                 }});
+  shell_.Register(AssistantForm, {.place = QtShell::Place::Over,
+                                  .onLoad = QtShell::OnLoad::Shown,
+                                  .make = [this](QWidget* parent) -> QWidget* {
+                                    return new AssistantFigure(assistant_, theme_,
+                                                               homeWindow_ ? homeWindow_->Road() : parent);
+                                  }});
 }
 
 // What was typed in the editors reaches the disk.
@@ -181,18 +181,18 @@ void Desktop::RegisterCandidatureMenus() {
 }
 
 void Desktop::RegisterBackup() {
-  shell_.Register(u"FormLoadSave",
-                  {.place = QtShell::Place::Over, .make = [this](QWidget* parent) -> QWidget* {
-                     auto* window = new BackupWindow(backup_, theme_, parent);
-                     backup_.OnProgress = [shown = QPointer<BackupWindow>(window)] {
-                       if (shown) shown->Refresh();
-                     };
-                     window->OnActed = [this] {
-                       if (formCandWindow_) formCandWindow_->Do([&] { formCand_->InitListe(); });
-                       RefreshMain();
-                     };
-                     return window;
-                   }});
+  shell_.Register(LoadSaveForm, {.place = QtShell::Place::Over, .make = [this](QWidget* parent) -> QWidget* {
+                                   auto* window = new BackupWindow(backup_, theme_, parent);
+                                   backup_.OnProgress = [shown = QPointer<BackupWindow>(window)] {
+                                     if (shown) shown->Refresh();
+                                   };
+                                   window->OnActed = [this] {
+                                     if (formCandWindow_)
+                                       formCandWindow_->Do([&] { formCand_->InitListe(); });
+                                     RefreshMain();
+                                   };
+                                   return window;
+                                 }});
   backup_.fermerDocuments = [this] { CloseDocuments(); };
 }
 
@@ -214,15 +214,15 @@ void Desktop::CloseDocuments() {
 }
 
 void Desktop::RegisterHome() {
-  shell_.Register(u"AssistantTexte", {.onLoad = QtShell::OnLoad::Shown,
-                                      .make = [this](QWidget* parent) -> QWidget* {
-                                        assistantTexte_.Charger();
-                                        homeWindow_ = new HomeWindow(assistantTexte_, theme_, parent);
-                                        homeWindow_->OnActed = [this] { RefreshMain(); };
-                                        return homeWindow_;
-                                      },
-                                      // The figure stands in this window.
-                                      .unloaded = [this] { shell_.Unload(u"Assistant"); }});
+  shell_.Register(HomeForm, {.onLoad = QtShell::OnLoad::Shown,
+                             .make = [this](QWidget* parent) -> QWidget* {
+                               assistantTexte_.Charger();
+                               homeWindow_ = new HomeWindow(assistantTexte_, theme_, parent);
+                               homeWindow_->OnActed = [this] { RefreshMain(); };
+                               return homeWindow_;
+                             },
+                             // The figure stands in this window.
+                             .unloaded = [this] { shell_.Unload(AssistantForm); }});
   assistantTexte_.commands.rechercherOffres = [this] {
     if (formCandWindow_) formCandWindow_->Do([&] { formCand_->CadreWebVisible = true; });
   };
@@ -255,7 +255,7 @@ void Desktop::RegisterCandidatures() {
     // The window looks at the model until it is gone, so it goes at once with its timers.
     delete formCandWindow_.data();
   };
-  shell_.Register(u"FormCand", form);
+  shell_.Register(CandidatureForm, form);
 }
 
 void Desktop::RegisterLetters() {
@@ -296,12 +296,13 @@ void Desktop::OpenLetter(TextView file) {
 }
 
 void Desktop::RegisterReports() {
-  shell_.Register(u"FormStat", {.place = QtShell::Place::Over, .make = [this](QWidget* parent) -> QWidget* {
-                                  formStat_.Charger();
-                                  auto* window = new StatWindow(formStat_, theme_, parent);
-                                  window->setAttribute(Qt::WA_DeleteOnClose);
-                                  return window;
-                                }});
+  shell_.Register(StatisticsForm,
+                  {.place = QtShell::Place::Over, .make = [this](QWidget* parent) -> QWidget* {
+                     formStat_.Charger();
+                     auto* window = new StatWindow(formStat_, theme_, parent);
+                     window->setAttribute(Qt::WA_DeleteOnClose);
+                     return window;
+                   }});
   preview_.SetFrame(main_.get());
   main_->Header().OnPrint = [this] { reports_.ImprimerListe(ReportMode::Liste); };
   assistantTexte_.commands.justificatif = [this] { reports_.ImprimerListe(ReportMode::Justificatif); };
@@ -340,27 +341,27 @@ void Desktop::RegisterSending() {
 }
 
 void Desktop::RegisterGuide() {
-  shell_.Register(u"Guide", {.place = QtShell::Place::Over,
-                             .make = [this](QWidget* parent) -> QWidget* {
-                               auto* panel = new GuidePanel(theme_, parent);
-                               guide_.OnChange = [this, shown = QPointer<GuidePanel>(panel)] {
-                                 if (shown) shown->Show(guide_);
-                               };
-                               return panel;
-                             },
-                             .loaded = [this] { guide_.Charger(); }});
+  shell_.Register(GuideForm, {.place = QtShell::Place::Over,
+                              .make = [this](QWidget* parent) -> QWidget* {
+                                auto* panel = new GuidePanel(theme_, parent);
+                                guide_.OnChange = [this, shown = QPointer<GuidePanel>(panel)] {
+                                  if (shown) shown->Show(guide_);
+                                };
+                                return panel;
+                              },
+                              .loaded = [this] { guide_.Charger(); }});
 }
 
 void Desktop::RegisterSplash() {
-  shell_.Register(u"Depart", {.place = QtShell::Place::Over, .make = [this](QWidget*) -> QWidget* {
-                                auto* splash = new SplashWindow(depart_, theme_, nullptr);
-                                splash->OnShorten = [this] { depart_.Abreger(); };
-                                return splash;
-                              }});
+  shell_.Register(SplashForm, {.place = QtShell::Place::Over, .make = [this](QWidget*) -> QWidget* {
+                                 auto* splash = new SplashWindow(depart_, theme_, nullptr);
+                                 splash->OnShorten = [this] { depart_.Abreger(); };
+                                 return splash;
+                               }});
   shell_.Register(
-      u"Ombre",
+      SplashShadowForm,
       {.place = QtShell::Place::Over, .onLoad = QtShell::OnLoad::Shown, .make = [this](QWidget*) -> QWidget* {
-         const QWidget* splash = shell_.WindowOf(u"Depart");
+         const QWidget* splash = shell_.WindowOf(SplashForm);
          return new ShadowWindow(splash ? splash->geometry() : QRect(), nullptr);
        }});
 }
@@ -369,14 +370,14 @@ bool Desktop::LoadPrincipale() {
   if (ChargerPrincipale(principale_, environment_, clock_, dialogs_) != StartOutcome::Ready) return false;
   RefreshMain();
   placeKnown_ = main_->RestorePlace();
-  shell_.Show(u"Principale");
+  shell_.Show(MainForm);
   shell_.PumpEvents();
   return true;
 }
 
 bool Desktop::Start() {
   const QSize screen = QGuiApplication::primaryScreen()->size();
-  shell_.Show(u"Depart");
+  shell_.Show(SplashForm);
   return depart_.Charger({screen.width(), screen.height()},
                          {.prepareFolder = [this] { PreparerDossier(environment_); },
                           .showPrincipale = [this] { return LoadPrincipale(); },
@@ -387,9 +388,9 @@ bool Desktop::Start() {
                               },
                           .onChange =
                               [this] {
-                                if (auto* splash = static_cast<SplashWindow*>(shell_.WindowOf(u"Depart")))
+                                if (auto* splash = static_cast<SplashWindow*>(shell_.WindowOf(SplashForm)))
                                   splash->Refresh();
-                                if (QWidget* shadow = shell_.WindowOf(u"Ombre"))
+                                if (QWidget* shadow = shell_.WindowOf(SplashShadowForm))
                                   shadow->setWindowOpacity(depart_.OpaciteOmbre / 255.0);
                               }});
 }
@@ -397,8 +398,8 @@ bool Desktop::Start() {
 bool Desktop::StartAtOnce() {
   PreparerDossier(environment_);
   if (!LoadPrincipale()) return false;
-  shell_.Load(u"AssistantTexte");
-  shell_.Load(u"Assistant");
+  shell_.Load(HomeForm);
+  shell_.Load(AssistantForm);
   return true;
 }
 

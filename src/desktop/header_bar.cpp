@@ -215,9 +215,9 @@ void HeaderBar::ShowInformation(TextView text) { information_->setText(ToQt(text
 
 // A file that is open in the form at the front.
 bool HeaderBar::IsCurrent(std::size_t index, TextView page) const {
-  if (index == Principale::CandidatureSlot) return page == u"FormCand";
+  if (index == Principale::CandidatureSlot) return page == CandidatureForm;
   const bool letter = index >= Principale::FirstLetterSlot;
-  if (!OpenFile || page != (letter ? u"FormLettre" : u"FormRédigerCV")) return false;
+  if (!OpenFile || page != (letter ? LetterForm : EditorForm)) return false;
   const Text& name = principale_.ImageMenu[index].toolTip;
   return !name.empty() && name == OpenFile(page);
 }

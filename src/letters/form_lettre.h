@@ -75,6 +75,4 @@ class FormLettre : public LetterModel {
   Text savedText_;  // `Text1` as last saved or loaded
 };
 
-inline constexpr TextView LetterForm = u"FormLettre";
-
 }  // namespace talvor

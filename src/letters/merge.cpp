@@ -10,7 +10,6 @@ namespace {
 
 constexpr TextView NoModelMessage =
     u"Aucun modèle de lettre n'a été créé. Vous devrez rédiger le courrier d'accompagnement.";
-constexpr TextView FormPostulerName = u"FormPostuler";
 
 struct Sender {
   Text Nom, Prénom;
@@ -89,7 +88,7 @@ bool FusionnerLettre(const std::filesystem::path& chemin, const CandidatureTexts
   Text& texte = letter.Texte;
   StripLeadingLineEnds(texte);
 
-  shell.Show(FormPostulerName);
+  shell.Show(ApplyForm);
 
   // The sender; no blank stands before the address.
   letter.Email = ProperName(sender.Prénom) + u" " + ProperName(sender.Nom) + u"<" + letter.Email + u">";

@@ -1,10 +1,11 @@
 #pragma once
 
 #include "base/text.h"
+#include "platform/forms.h"
 
 namespace talvor {
 
-// The windows of the program, named by their forms, and the event loop that carries them.
+// The windows of the program, named by their forms (platform/forms.h), and the event loop that carries them.
 class Shell {
  public:
   virtual ~Shell() = default;

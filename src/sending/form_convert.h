@@ -31,6 +31,4 @@ class FormConvert {
   std::filesystem::path target_;
 };
 
-inline constexpr TextView ConvertForm = u"FormConvert";
-
 }  // namespace talvor

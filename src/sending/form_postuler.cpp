@@ -14,7 +14,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr TextView CandidatureForm = u"FormCand";
 constexpr TextView LetterEnding = u".dat";
 
 constexpr TextView AskToConvert =

@@ -103,6 +103,4 @@ class FormPostuler : public MergedLetter {
   Text documents_;  // the folder of `File2`, without a "/" at its end
 };
 
-inline constexpr TextView ApplyForm = u"FormPostuler";
-
 }  // namespace talvor

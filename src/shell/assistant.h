@@ -14,7 +14,7 @@ class Assistant {
 
   // While it stands: it closes once the editor of CVs is there, over which it must not stand.
   void Timer1() {
-    if (shell_.FormeVisible(u"FormRédigerCV")) shell_.Unload(u"Assistant");
+    if (shell_.FormeVisible(EditorForm)) shell_.Unload(AssistantForm);
   }
 
  private:

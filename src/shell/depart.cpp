@@ -25,13 +25,13 @@ bool Depart::Charger(ScreenSize screen, const Steps& steps) {
   constexpr int WideFrame = 22000;
   if (steps.principaleWidth() * TwipsPerPixel < WideFrame) steps.maximise();
 
-  shell_.Load(u"AssistantTexte");
+  shell_.Load(HomeForm);
   shell_.PumpEvents();
   Wait(200);
-  shell_.Load(u"Assistant");
+  shell_.Load(AssistantForm);
 
-  shell_.Unload(u"Ombre");
-  shell_.Unload(u"Depart");
+  shell_.Unload(SplashShadowForm);
+  shell_.Unload(SplashForm);
   return true;
 }
 
@@ -41,7 +41,7 @@ void Depart::PlaySplash(const Steps& steps) {
     shell_.PumpEvents();
     Wait(40);
     Opacite = i;
-    shell_.Load(u"Ombre");
+    shell_.Load(SplashShadowForm);
     if (i / 5 < 35) OpaciteOmbre = i / 5;
     PictureOffset += 120;
     steps.onChange();

@@ -23,7 +23,7 @@ void Guide::Show(int opacity) {
 }
 
 void Guide::Charger() {
-  constexpr std::array<TextView, 3> SpokenOf{u"FormLettre", u"FormRédigerCV", u"FormCand"};
+  constexpr std::array<TextView, 3> SpokenOf{LetterForm, EditorForm, CandidatureForm};
   if (std::none_of(SpokenOf.begin(), SpokenOf.end(), [&](TextView f) { return shell_.FormeVisible(f); }))
     return;
   Label1 = principale_.InfoGuide;
@@ -34,7 +34,7 @@ void Guide::Charger() {
     shell_.Wait(FadeMilliseconds);
     Show(i);
   }
-  for (int i = 0; i < HoldRounds && shell_.FormeVisible(u"Principale"); ++i) {
+  for (int i = 0; i < HoldRounds && shell_.FormeVisible(MainForm); ++i) {
     shell_.Wait(HoldMilliseconds);
     shell_.PumpEvents();
   }

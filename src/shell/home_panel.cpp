@@ -109,14 +109,14 @@ void AssistantTexte::Clic(TextView title) {
   if (title == u"Rédiger un Curriculum Vitae") return ChoixCV();
   if (title == u"Rédiger un modèle de lettre") return ChoixLettre();
   if (title == u"Gérer les candidatures") return ChoixCand();
-  if (title == u"Statistiques, calendrier et alertes") return shell_.Show(u"FormStat");
+  if (title == u"Statistiques, calendrier et alertes") return shell_.Show(StatisticsForm);
   if (title == u"Réaliser un nouveau CV") {
-    shell_.Unload(u"AssistantTexte");
-    return shell_.Show(u"FormRédigerCV");
+    shell_.Unload(HomeForm);
+    return shell_.Show(EditorForm);
   }
   if (title == u"Rattacher un CV existant") return RattacherCV();
   if (title == u"Réaliser un nouveau modèle de lettre") {
-    shell_.Show(u"FormLettre");
+    shell_.Show(LetterForm);
     return Run(commands.nouvelleLettre);
   }
   if (title == u"Gestion manuelle des candidatures") return GererCandidatures();
@@ -146,14 +146,14 @@ void AssistantTexte::RattacherCV() {
 }
 
 void AssistantTexte::GererCandidatures() {
-  shell_.Show(u"FormCand");
+  shell_.Show(CandidatureForm);
   if (principale_.ImageMenu[Principale::CandidatureSlot].picture != SlotPicture::ImageNew) return;
   shell_.Wait(500);
   principale_.AfficherGuide(hints::NewCandidature);
 }
 
 void AssistantTexte::RechercherOffres() {
-  shell_.Show(u"FormCand");
+  shell_.Show(CandidatureForm);
   Run(commands.rechercherOffres);
   if (principale_.ImageMenu[Principale::CandidatureSlot].picture == SlotPicture::ImageNew)
     principale_.AfficherGuide(hints::Capture);

@@ -43,32 +43,32 @@ void SurvolerCandidatures(Principale& principale, bool over) {
 }
 
 void MainMenu::Activer() {
-  if (shell_.FormeVisible(u"FormLoadSave")) shell_.Show(u"FormLoadSave");
-  shell_.Unload(u"FormStat");
+  if (shell_.FormeVisible(LoadSaveForm)) shell_.Show(LoadSaveForm);
+  shell_.Unload(StatisticsForm);
 }
 
-void MainMenu::Redimensionner() { shell_.Unload(u"Assistant"); }
+void MainMenu::Redimensionner() { shell_.Unload(AssistantForm); }
 
 void MainMenu::ClicMenu() {
-  if (shell_.FormeVisible(u"Assistant")) return;
-  shell_.Unload(u"AssistantTexte");
-  shell_.Load(u"AssistantTexte");
-  for (const TextView form : {u"FormLettre", u"FormRédigerCV", u"FormCand", u"Guide", u"Aide"})
+  if (shell_.FormeVisible(AssistantForm)) return;
+  shell_.Unload(HomeForm);
+  shell_.Load(HomeForm);
+  for (const TextView form : {LetterForm, EditorForm, CandidatureForm, GuideForm, EditorHelpForm})
     shell_.Unload(form);
   shell_.PumpEvents();
-  shell_.Load(u"Assistant");
+  shell_.Load(AssistantForm);
 }
 
-void MainMenu::ClicSauver() { shell_.Show(u"FormLoadSave"); }
-void MainMenu::ClicLogo() { shell_.Show(u"APropos"); }
+void MainMenu::ClicSauver() { shell_.Show(LoadSaveForm); }
+void MainMenu::ClicLogo() { shell_.Show(AboutForm); }
 
 void MainMenu::DoubleClicCandidatures() {
-  shell_.Load(u"FormCand");
-  shell_.Show(u"FormCand");
+  shell_.Load(CandidatureForm);
+  shell_.Show(CandidatureForm);
 }
 
 void MainMenu::Decharger() {
-  for (const TextView form : {u"Assistant", u"Aide", u"Guide", u"Depart"}) shell_.Unload(form);
+  for (const TextView form : {AssistantForm, EditorHelpForm, GuideForm, SplashForm}) shell_.Unload(form);
 }
 
 }  // namespace talvor

@@ -10,7 +10,6 @@ namespace talvor {
 
 class MiseEnPage {
  public:
-  static constexpr TextView Form = u"MiseEnPage";
   static constexpr TextView HeadersAdvice =
       u"Pour supprimer les indications d'entête et de pied de page, lancer la prévisualisation "
       u"(Prévisualiser) puis sélectionner 'Mise en page'";
@@ -32,10 +31,10 @@ class MiseEnPage {
 
   void BoutonTLV1() { dialogs_.Tell(ColoursAlwaysPrinted); }
   void BoutonTLV2() {
-    if (!shell_.FormeVisible(u"FormRédigerCV")) return dialogs_.Tell(NoCvOpen);
+    if (!shell_.FormeVisible(EditorForm)) return dialogs_.Tell(NoCvOpen);
     if (previsualiser) previsualiser();
   }
-  void BoutonTLV3() { shell_.Unload(Form); }
+  void BoutonTLV3() { shell_.Unload(PrintAdviceForm); }
 
  private:
   Shell& shell_;

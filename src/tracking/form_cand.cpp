@@ -8,11 +8,6 @@
 #include "tracking/status_lists.h"
 
 namespace talvor {
-namespace {
-
-constexpr TextView FormName = u"FormCand";
-
-}  // namespace
 
 FormCand::FormCand(Principale& principale, const Clock& clock, Dialogs& dialogs, Shell& shell,
                    Browser& browser)
@@ -55,7 +50,7 @@ void FormCand::ValeursParDefaut() {
 
 bool FormCand::RefuseDate(TextView field, const Text& value) {
   if (DateValide(value)) return false;
-  shell_.Focus(FormName, field);
+  shell_.Focus(CandidatureForm, field);
   TellBadDate(field, value);
   return true;
 }
@@ -115,7 +110,7 @@ void FormCand::Action(std::size_t index) {
       Supprimer();
       break;
     case 2:  // no label bears it
-      shell_.Show(u"FormPostuler");
+      shell_.Show(ApplyForm);
       break;
     case 3:
       Valider();

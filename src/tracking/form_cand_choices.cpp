@@ -25,7 +25,7 @@ void Toggle(ChoiceList& list, const std::array<TextView, N>& rows, TextView valu
 
 void FormCand::ClicImage2() {
   Toggle(ListeStatutsChoice, ListeStatuts, Statut);
-  shell_.Focus(u"FormCand", u"Statut");
+  shell_.Focus(CandidatureForm, u"Statut");
 }
 
 void FormCand::ClicStatut(std::size_t index) {
@@ -47,7 +47,7 @@ void FormCand::QuitterStatut() { ListeStatutsChoice.visible = false; }
 
 void FormCand::ClicImage1() {
   Toggle(ListeContratsChoice, ListeContrats, Nature);
-  shell_.Focus(u"FormCand", u"Nature");
+  shell_.Focus(CandidatureForm, u"Nature");
 }
 
 void FormCand::ClicContrat(std::size_t index) {

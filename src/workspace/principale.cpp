@@ -51,9 +51,9 @@ void Principale::InitLetterSlots() {
 }
 
 void Principale::RetourMenu() {
-  shell_.Unload(u"Assistant");
-  shell_.Unload(u"AssistantTexte");
-  shell_.Load(u"AssistantTexte");
+  shell_.Unload(AssistantForm);
+  shell_.Unload(HomeForm);
+  shell_.Load(HomeForm);
 }
 
 void Principale::ChargerInfosCV(const std::filesystem::path& file) {
@@ -77,8 +77,8 @@ void Principale::AfficherGuide(TextView message) {
     shell_.PumpEvents();
   }
   // Loading the hint is what shows its message.
-  shell_.Load(u"Guide");
-  shell_.Unload(u"Guide");
+  shell_.Load(GuideForm);
+  shell_.Unload(GuideForm);
 }
 
 }  // namespace talvor

@@ -303,8 +303,8 @@ TEST_F(AccessibilityTest, TheWindowsOverTheMainOne) {
   desktop->Windows().Unload(u"FormStat");
   Walk(Open(u"FormLoadSave"), "backup");
   desktop->Windows().Unload(u"FormLoadSave");
-  Walk(Open(MiseEnPage::Form), "page advice");
-  desktop->Windows().Unload(MiseEnPage::Form);
+  Walk(Open(PrintAdviceForm), "page advice");
+  desktop->Windows().Unload(PrintAdviceForm);
   Walk(Open(u"APropos"), "about");
   desktop->Windows().Unload(u"APropos");
   Walk(Open(UserGuideForm), "guide");

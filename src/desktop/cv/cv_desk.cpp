@@ -17,8 +17,6 @@
 namespace talvor {
 namespace {
 
-constexpr TextView HelpForm = u"Aide";
-
 std::shared_ptr<QPrinter> DefaultPrinter() {
   const QPrinterInfo printer = QPrinterInfo::defaultPrinter();
   return printer.isNull() ? nullptr : std::make_shared<QPrinter>(printer, QPrinter::HighResolution);
@@ -60,7 +58,7 @@ QWidget* CvDesk::MakeWindow(QWidget* parent) {
   };
   window_->OnHelp = [this](int icon) {
     if (icon >= 0) return form_->MouseOverImage6(icon);
-    program_.shell.Unload(HelpForm);
+    program_.shell.Unload(EditorHelpForm);
   };
   return window_;
 }
@@ -78,11 +76,11 @@ void CvDesk::Register() {
                                            [this] {
                                              // The window looks at the model until it is gone, so it goes at once.
                                              delete window_.data();
-                                             program_.shell.Unload(HelpForm);
-                                           }});
-  program_.shell.Register(HelpForm, {.place = QtShell::Place::Over, .make = [](QWidget* parent) -> QWidget* {
-                                       return new AidePanel(parent);
+                                             program_.shell.Unload(EditorHelpForm);
                                      }});
+  program_.shell.Register(EditorHelpForm,
+                          {.place = QtShell::Place::Over,
+                           .make = [](QWidget* parent) -> QWidget* { return new AidePanel(parent); }});
 }
 
 void CvDesk::KeepTyping() {
@@ -102,7 +100,7 @@ void CvDesk::OpenNew() {
 }
 
 void CvDesk::ShowHelp(TextView text) {
-  auto* panel = static_cast<AidePanel*>(program_.shell.WindowOf(HelpForm));
+  auto* panel = static_cast<AidePanel*>(program_.shell.WindowOf(EditorHelpForm));
   if (panel == nullptr || !window_) return;
   panel->Info().setText(ShownText(text));
   PlaceHelp(*panel);
@@ -126,8 +124,8 @@ void CvDesk::Chosen(TextView item) {
   if (item == u"SupprimerPhoto") return window_->Do([&] { form_->SupprimerPhoto(); });
   if (item == u"PrévisualiserCV") return Preview();
   if (item == u"ImprimerCV") return Print();
-  if (item == u"MessageTrames") return program_.shell.Show(u"MiseEnPage");
-  if (item == u"MenuConvFWord") return program_.shell.Show(u"FormConvert");
+  if (item == u"MessageTrames") return program_.shell.Show(PrintAdviceForm);
+  if (item == u"MenuConvFWord") return program_.shell.Show(ConvertForm);
   if (item == u"ConsulterWord") return OpenLastWordVersion();
 }
 

@@ -14,7 +14,7 @@ constexpr int BoxWidth = 520;
 }  // namespace
 
 AdviceBox::AdviceBox(MiseEnPage& form, const Theme& theme, QWidget* parent) : QDialog(parent), form_(form) {
-  setObjectName(ToQt(MiseEnPage::Form));
+  setObjectName(ToQt(PrintAdviceForm));
   setWindowTitle(tr("Mise en page"));
   setFixedWidth(BoxWidth);
   auto* column = new QVBoxLayout(this);

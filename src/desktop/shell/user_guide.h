@@ -5,12 +5,11 @@
 
 #include "base/text.h"
 #include "desktop/widgets/theme.h"
+#include "platform/forms.h"
 
 class QTextBrowser;
 
 namespace talvor {
-
-inline constexpr TextView UserGuideForm = u"ModeEmploi";
 
 class UserGuideWindow : public QDialog {
  public:
