@@ -1,11 +1,6 @@
-// The terms of the post: salary, duration, date of publication and reference.
+// The reference of the advertisement behind its label.
 
-#include <algorithm>
-
-#include "ads/phrase_reader.h"
 #include "ads/rules.h"
-#include "base/day.h"
-#include "base/fonctionnel.h"
 
 namespace talvor::ads {
 namespace {
@@ -16,23 +11,6 @@ constexpr std::size_t WholeReference = 8;
 constexpr std::size_t LeastReference = 3;
 
 }  // namespace
-
-void SalaryRule(Run& run, Index I) {
-  if (run.record.Salaire.empty()) ReadPhrase(SalaryReader, run.words, I, run.record);
-}
-
-void DurationRule(Run& run, Index I) {
-  if (run.record.Duree.empty()) ReadPhrase(DurationReader, run.words, I, run.record);
-}
-
-void DateRule(Run& run, Index I) {
-  constexpr std::size_t YearDigits = 4;
-  if (!run.record.DateDiffusion.empty()) return;
-  const TextView word = run.words(I);
-  const TextView tail = word.substr(word.size() - std::min(word.size(), YearDigits));
-  // Only a date of this year, with the year in four digits; the first one of the advertisement.
-  if (ValeurNumerique(tail) == run.thisYear && DateValide(word)) run.record.DateDiffusion = word;
-}
 
 void ReferenceRule(Run& run, Index I) {
   // «DE L ANNONCE» and the like are skipped.
