@@ -1,4 +1,4 @@
-// ads: from the text of an advertisement to the fields of a candidature.
+// ads: from the text of an advertisement to its fields. The rules know texts only: no form, no file, no page.
 #pragma once
 
 #include "base/fields.h"

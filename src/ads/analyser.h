@@ -4,9 +4,9 @@
 #pragma once
 
 #include "ads/ad_fields.h"
+#include "ads/end_markers.h"
 #include "base/day.h"
-#include "platform/browser.h"
-#include "tracking/form_cand.h"
+#include "platform/blank_page.h"
 
 namespace talvor {
 

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "ads/contracts.h"
 #include "ads/rules.h"
-#include "tracking/contracts.h"
 
 namespace talvor::ads {
 namespace {

@@ -3,8 +3,8 @@
 #include "ads/job_words.h"
 #include "ads/phrase_reader.h"
 #include "ads/rules.h"
+#include "base/couper_texte.h"
 #include "base/fonctionnel.h"
-#include "tracking/couper_texte.h"
 
 namespace talvor::ads {
 namespace {

@@ -3,8 +3,8 @@
 
 #include <string>
 
-#include "ads/capture.h"
 #include "app/host.h"
+#include "capture/form_cand_capture.h"
 #include "cli/console.h"
 
 namespace talvor::cli {

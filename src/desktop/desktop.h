@@ -5,8 +5,8 @@
 #include <memory>
 #include <optional>
 
-#include "ads/capture.h"
 #include "app/form_load_save.h"
+#include "capture/form_cand_capture.h"
 #include "desktop/browser/web_browser.h"
 #include "desktop/candidatures/form_cand_window.h"
 #include "desktop/cv/cv_desk.h"

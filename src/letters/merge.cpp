@@ -1,8 +1,8 @@
 #include "letters/merge.h"
 
+#include "ads/contracts.h"
 #include "base/fonctionnel.h"
 #include "base/line_file.h"
-#include "tracking/contracts.h"
 #include "tracking/status_lists.h"
 
 namespace talvor {

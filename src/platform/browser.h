@@ -4,10 +4,9 @@
 #include <vector>
 
 #include "base/text.h"
+#include "platform/blank_page.h"
 
 namespace talvor {
-
-inline constexpr TextView BlankPage = u"about:blank";
 
 // What shows a page at an address.
 class Browser {

@@ -1,6 +1,6 @@
 #include "tracking/candidature_detail.h"
 
-#include "tracking/couper_texte.h"
+#include "base/couper_texte.h"
 
 namespace talvor {
 namespace {

@@ -1,9 +1,9 @@
 #include "tracking/form_cand.h"
 
+#include "ads/contracts.h"
 #include "base/day.h"
 #include "base/fonctionnel.h"
 #include "base/raised.h"
-#include "tracking/contracts.h"
 #include "tracking/form_cand_messages.h"
 #include "tracking/status_lists.h"
 

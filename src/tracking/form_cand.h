@@ -1,10 +1,11 @@
 // `FormCand`, the form of the candidatures as a view model: the list on its left, the detail on its
-// right. What browses, captures and prefills stands in ads.
+// right. What browses, captures and prefills stands in capture.
 #pragma once
 
 #include <functional>
 #include <optional>
 
+#include "ads/end_markers.h"
 #include "platform/browser.h"
 #include "platform/clock.h"
 #include "platform/dialogs.h"
@@ -14,17 +15,6 @@
 #include "workspace/principale.h"
 
 namespace talvor {
-
-// The end markers of an advertisement as delivered, one to a line: a digit, which is 1 for a marker
-// in force, and the text. The last line ends in a line end.
-inline constexpr TextView TermFinDelivered =
-    u"1Offre suivante >>\r\n"
-    u"1Avec l'Apec et Linked\r\n"
-    u"1Joindre un CV de taille\r\n"
-    u"1Déposez votre CV WORD\r\n"
-    u"1Offres en relation\r\n"
-    u"1Pour postuler à cette offre\r\n"
-    u"1Réduire la fenêtre\r\n";
 
 // A popup list beside a text field.
 struct ChoiceList {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "tracking/contracts.h"
+#include "ads/contracts.h"
 #include "tracking/form_cand.h"
 #include "tracking/status_lists.h"
 

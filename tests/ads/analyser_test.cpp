@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tracking/contracts.h"
+#include "ads/contracts.h"
 
 namespace talvor {
 namespace {

@@ -4,8 +4,8 @@
 #include <functional>
 #include <random>
 
-#include "ads/capture.h"
 #include "app/form_load_save.h"
+#include "capture/form_cand_capture.h"
 #include "letters/form_lettre.h"
 #include "tests/fakes/fakes.h"
 #include "tests/fakes/file_fakes.h"

@@ -4,9 +4,9 @@
 #include <cstdint>
 
 #include "ads/page_rating.h"
-#include "ads/site_directory.h"
 #include "base/code_page.h"
 #include "base/line_file.h"
+#include "capture/site_directory.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
+#include "base/couper_texte.h"
 #include "tests/tracking/tracking_fixture.h"
-#include "tracking/couper_texte.h"
 #include "tracking/form_cand_messages.h"
 #include "tracking/status_lists.h"
 

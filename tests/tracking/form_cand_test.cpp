@@ -1,5 +1,5 @@
+#include "ads/contracts.h"
 #include "tests/tracking/tracking_fixture.h"
-#include "tracking/contracts.h"
 #include "tracking/form_cand_messages.h"
 #include "tracking/status_lists.h"
 

@@ -4,7 +4,7 @@
 #include <QWidget>
 #include <functional>
 
-#include "ads/form_cand_web.h"
+#include "capture/form_cand_web.h"
 #include "desktop/browser/download_bar.h"
 #include "desktop/browser/page_notice.h"
 #include "desktop/browser/site_list.h"

@@ -4,7 +4,7 @@
 #include <QFrame>
 #include <functional>
 
-#include "ads/site_directory.h"
+#include "capture/site_directory.h"
 #include "desktop/widgets/theme.h"
 
 class QListWidget;

@@ -6,8 +6,8 @@
 #include <QWebEngineUrlRequestJob>
 #include <QWebEngineUrlScheme>
 
-#include "ads/start_page.h"
 #include "base/line_file.h"
+#include "capture/start_page.h"
 
 namespace talvor {
 namespace {

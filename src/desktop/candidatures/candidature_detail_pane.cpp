@@ -10,10 +10,10 @@
 #include <algorithm>
 #include <array>
 
+#include "ads/contracts.h"
 #include "desktop/widgets/pane.h"
 #include "desktop/widgets/status_dot.h"
 #include "desktop/widgets/text_edge.h"
-#include "tracking/contracts.h"
 #include "tracking/status_lists.h"
 
 namespace talvor {

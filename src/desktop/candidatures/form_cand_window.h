@@ -7,7 +7,7 @@
 #include <memory>
 #include <optional>
 
-#include "ads/capture.h"
+#include "capture/form_cand_capture.h"
 #include "desktop/browser/browser_pane.h"
 #include "desktop/candidatures/candidature_detail_pane.h"
 #include "desktop/candidatures/candidature_list_pane.h"

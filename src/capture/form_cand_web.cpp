@@ -1,7 +1,6 @@
-// `FormCand`: the browser pane, its directory of sites, and the prefill of web forms.
+#include "capture/form_cand_web.h"
 
-#include "ads/form_cand_web.h"
-#include "ads/prefill.h"
+#include "capture/prefill.h"
 
 namespace talvor {
 

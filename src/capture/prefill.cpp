@@ -1,4 +1,4 @@
-#include "ads/prefill.h"
+#include "capture/prefill.h"
 
 #include <array>
 

@@ -2,9 +2,9 @@
 // advertisements out of pages, the rating of pages and the prefill of web forms.
 #pragma once
 
-#include "ads/capture.h"
 #include "ads/page_rating.h"
-#include "ads/site_directory.h"
+#include "capture/form_cand_capture.h"
+#include "capture/site_directory.h"
 #include "platform/clipboard.h"
 #include "platform/documents.h"
 

@@ -1,4 +1,4 @@
-#include "tracking/couper_texte.h"
+#include "base/couper_texte.h"
 
 namespace talvor {
 

@@ -1,4 +1,4 @@
-#include "ads/start_page.h"
+#include "capture/start_page.h"
 
 namespace talvor {
 namespace {

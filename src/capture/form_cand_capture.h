@@ -1,3 +1,5 @@
+// capture: from a page to a candidature, and from a candidature into the form of a page.
+//
 // The capture side of `FormCand`: advertisements from a text into the detail.
 #pragma once
 

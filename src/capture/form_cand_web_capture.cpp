@@ -2,10 +2,10 @@
 
 #include <optional>
 
-#include "ads/form_cand_web.h"
 #include "ads/page_rating.h"
 #include "ads/ungluing.h"
 #include "base/raised.h"
+#include "capture/form_cand_web.h"
 #include "workspace/systeme.h"
 
 namespace talvor {

@@ -1,8 +1,9 @@
+#include "capture/form_cand_web.h"
+
 #include <algorithm>
 
-#include "ads/page_rating.h"
 #include "base/line_file.h"
-#include "tests/ads/web_fixture.h"
+#include "tests/capture/web_fixture.h"
 #include "tracking/form_cand_messages.h"
 
 namespace talvor {

@@ -1,4 +1,4 @@
-#include "ads/site_directory.h"
+#include "capture/site_directory.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ads/site_directory.h"
+#include "capture/site_directory.h"
 
 namespace talvor {
 

@@ -1,4 +1,4 @@
-#include "ads/capture.h"
+#include "capture/form_cand_capture.h"
 
 #include "ads/analyser.h"
 

@@ -1,7 +1,7 @@
 // The browsing side of the form over fakes.
 #pragma once
 
-#include "ads/form_cand_web.h"
+#include "capture/form_cand_web.h"
 #include "tests/tracking/tracking_fixture.h"
 
 namespace talvor {
