@@ -9,6 +9,7 @@
 #include <string>
 #include <system_error>
 
+#include "tracking/ageing.h"
 #include "tracking/sqlite_engine.h"
 #include "workspace/workspace_paths.h"
 
@@ -56,16 +57,6 @@ constexpr const char* OneRow = "select * from Candidatures where num = ";
 constexpr const char* DeleteOneRow = "delete from candidatures where num = ";
 constexpr const char* DeleteEveryRow = "delete from candidatures ";
 constexpr const char* CountStatus = "select count(*) as toto from Candidatures where statut = ?";
-
-// In this order, so that an interview long past moves through the second and the third at one start.
-constexpr std::array<const char*, 3> Ageing{
-    "update candidatures set statut = 'EMISE - SANS REPONSE' where statut = 'EMISE - EN ATTENTE DE REPONSE' "
-    "and (DateEnvoi + 30) < date()",
-    "update candidatures set statut = 'ENTRETIEN EFFECTUE - ATTENTE REPONSE' where statut = 'ENTRETIEN A "
-    "EFFECTUER' and (Daterdv) < date()",
-    "update candidatures set statut = 'SANS REPONSE APRES ENTRETIEN' where statut = 'ENTRETIEN EFFECTUE - "
-    "ATTENTE REPONSE' and (Daterdv + 30) < date()",
-};
 
 const char* QueryOf(RowOrder order) {
   switch (order) {
@@ -353,7 +344,7 @@ void Database::AgeStatuses() {
   Engine& engine = Opened();
   Reporting(engine.file, [&] {
     SQLite::Transaction transaction(engine.connection, SQLite::TransactionBehavior::IMMEDIATE);
-    for (const char* statement : Ageing) engine.connection.exec(statement);
+    for (const AgeingStep& step : AgeingSteps) engine.connection.exec(AgeingStatement(step));
     transaction.commit();
   });
 }

@@ -81,8 +81,7 @@ class Database {
   void DeleteRow(std::int32_t num);
   void DeleteAllRows();
 
-  // Moves statuses on by the date of today: a sent candidature without an answer for over 30 days, an
-  // interview that is past, an interview without an answer for over 30 days.
+  // Moves statuses on by the date of today, all steps of the ageing (tracking/ageing.h) or none.
   void AgeStatuses();
 
   // Writes a whole copy of the database to `file`, replacing it only once the copy is complete.
