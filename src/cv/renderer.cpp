@@ -1,6 +1,7 @@
 #include "cv/renderer.h"
 
 #include "base/fonctionnel.h"
+#include "cv/identity_on_page.h"
 #include "cv/page_sections.h"
 #include "cv/paragraph.h"
 #include "cv/vocabulary.h"
@@ -48,38 +49,6 @@ void FillFields(Text& page, const CvDocument& cv) {
   }
 }
 
-Text BirthDate(const CvDocument& cv, TextView value) {
-  Text text{EstPrenomFeminin(cv.Prénom) ? u"Née le " : u"Né le "};
-  return text.append(value);
-}
-
-// The two situations that agree with the first name; the others print as they stand.
-Text Situation(const CvDocument& cv, TextView value) {
-  const bool feminine = EstPrenomFeminin(cv.Prénom);
-  if (value == u"Marié(e)") return feminine ? u"Mariée" : u"Marié";
-  if (value == u"Divorcé(e)") return feminine ? u"Divorcée" : u"Divorcé";
-  return Text{value};
-}
-
-Text Children(TextView value) {
-  Text text{value};
-  if (ValeurNumerique(text) > 0) text += u" enfant";
-  if (ValeurNumerique(text) > 1) text += u"s";
-  return text;
-}
-
-Text WithWords(const CvDocument& cv, TextView name, TextView value) {
-  if (value.empty()) return {};
-  if (name == u"DateNaissance") return BirthDate(cv, value);
-  if (name == u"Situation") return Situation(cv, value);
-  if (name == u"LieuNaissance") return Text{u"à "}.append(value);
-  if (name == u"Tel") return Text{u"Téléphone : "}.append(value);
-  if (name == u"Mob") return Text{u"Mobile : "}.append(value);
-  if (name == u"Age") return Text{u"("}.append(value).append(u" ans)");
-  if (name == u"NbEnfants") return Children(value);
-  return Text{value};
-}
-
 }  // namespace
 
 Text LanguageSummary(const CvDocument& cv) {
@@ -95,10 +64,6 @@ Text LanguageSummary(const CvDocument& cv) {
   }
   if (TrimBlanks(cv.LanguesPlus).empty()) return list;
   return list.append(LineEnd).append(cv.LanguesPlus);
-}
-
-Text IdentityOnPage(const CvDocument& cv, TextView name, TextView value) {
-  return ReplaceAll(WithWords(cv, name, value), LineEnd, u"<br>");
 }
 
 Text FillTemplate(const CvDocument& cv, Text page, PhotoOnPage photo) {

@@ -17,10 +17,6 @@ enum class PhotoOnPage { None, Picture };
 // The ticked levels of the nine languages, one a line, and the free remarks behind them.
 [[nodiscard]] Text LanguageSummary(const CvDocument& cv);
 
-// The text of a field outside the long paragraphs as the page shows it: with its words («Née le »,
-// « enfants») and with "<br>" for each CR LF.
-[[nodiscard]] Text IdentityOnPage(const CvDocument& cv, TextView name, TextView value);
-
 // The template's text with fonts, sections, fields, photo, colours and language in place and without
 // its boundary marks. `cv.Langues` is taken as it is: see LanguageSummary. A template without marks
 // comes back with its colours and font alone changed.

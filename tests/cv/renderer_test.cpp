@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "cv/identity_on_page.h"
 #include "cv/vocabulary.h"
 
 namespace talvor {
