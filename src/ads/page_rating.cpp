@@ -34,7 +34,7 @@ PageRating RatePage(TextView bodyText, TextView address) {
   if (list) rating.ScoreAnnonce /= 2;
 
   if (rating.ScoreAnnonce < LeastScore) return rating;
-  rating.FrameWeb = 660;
+  rating.stripOpens = true;
   if (rating.ScoreAnnonce > 10 && rating.ScoreAnnonce < 16) rating.ScoreAnnonce += 2;
   rating.Niveau = rating.ScoreAnnonce * WidthOfOne;
   if (list) rating.Niveau /= 2;

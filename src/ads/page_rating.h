@@ -42,7 +42,7 @@ struct PageRating {
   double ScoreAnnonce = 0;  // with its half, when the page is a list of advertisements
   int ScoreMetiers = 0;     // rows of the job words, one that stands twice counted twice
   double Niveau = 1;        // width of the gauge
-  int FrameWeb = 330;       // the top that the capture strip moves to: 330 closed, 660 open
+  bool stripOpens = false;  // the page looks enough like one for the capture strip
 };
 
 // Rates the text of a page; only the first ones count.

@@ -21,6 +21,10 @@ class FormCandWeb {
   // Places of the top of `FrameWeb`, the strip with the gauge and the capture links.
   static constexpr int StripClosed = 330;
   static constexpr int StripOpen = 660;
+  // Where the strip moves for a page.
+  [[nodiscard]] static constexpr int StripTop(const PageRating& rating) {
+    return rating.stripOpens ? StripOpen : StripClosed;
+  }
 
   struct Surroundings {
     Principale& principale;

@@ -130,8 +130,8 @@ void FormCandWeb::EvaluerUnePage() {
   shell_.Wait(BeforeTheGaugeMilliseconds);
   if (closed_) return;
   // A gauge that empties does so before the strip closes; one that fills waits for the strip to open.
-  if (Evaluation.FrameWeb == StripClosed) Niveau = Evaluation.Niveau;
-  DeplacerFrameWeb(Evaluation.FrameWeb);
+  if (!Evaluation.stripOpens) Niveau = Evaluation.Niveau;
+  DeplacerFrameWeb(StripTop(Evaluation));
   if (closed_) return;
   Niveau = Evaluation.Niveau;
   Changed();

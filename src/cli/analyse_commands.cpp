@@ -2,6 +2,7 @@
 #include "ads/page_rating.h"
 #include "ads/ungluing.h"
 #include "app/host.h"
+#include "capture/form_cand_web.h"
 #include "cli/commands.h"
 #include "cli/input.h"
 
@@ -79,7 +80,7 @@ ExitCode Evaluer(const std::string& file, const std::optional<std::string>& addr
   const Json object{{"ScoreAnnonce", rating.ScoreAnnonce},
                     {"ScoreMetiers", rating.ScoreMetiers},
                     {"Niveau", rating.Niveau},
-                    {"FrameWeb", rating.FrameWeb}};
+                    {"FrameWeb", FormCandWeb::StripTop(rating)}};
   console.out << object.dump(2) << '\n';
   return Done;
 }

@@ -23,7 +23,7 @@ struct Rated {
   double score;
   int jobs;
   double width;
-  int top;
+  bool opens;
   friend void PrintTo(const Rated& row, std::ostream* out) { *out << row.reason; }
 };
 
@@ -34,27 +34,28 @@ TEST_P(Ratings, TellAnAdvertisementFromAList) {
   EXPECT_DOUBLE_EQ(rating.ScoreAnnonce, GetParam().score);
   EXPECT_EQ(rating.ScoreMetiers, GetParam().jobs);
   EXPECT_DOUBLE_EQ(rating.Niveau, GetParam().width);
-  EXPECT_EQ(rating.FrameWeb, GetParam().top);
+  EXPECT_EQ(rating.stripOpens, GetParam().opens);
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Pages, Ratings,
     testing::Values(
-        Rated{"four terms are no advertisement", Page(4, 0), u"http://a/", 4, 0, 1, 330},
-        Rated{"five are", Page(5, 0), u"http://a/", 5, 0, 250, 660},
-        Rated{"twelve get two more", Page(12, 3), u"http://a/", 14, 3, 700, 660},
-        Rated{"ten job words halve the score and the width", Page(13, 10), u"http://a/", 6.5, 10, 162.5, 660},
-        Rated{"six terms among twenty jobs are a list", Page(6, 20), u"http://a/", 3, 20, 1, 330},
-        Rated{"a search engine scores nothing", Page(12, 3), u"https://www.google.fr/x", 0, 3, 1, 330},
+        Rated{"four terms are no advertisement", Page(4, 0), u"http://a/", 4, 0, 1, false},
+        Rated{"five are", Page(5, 0), u"http://a/", 5, 0, 250, true},
+        Rated{"twelve get two more", Page(12, 3), u"http://a/", 14, 3, 700, true},
+        Rated{"ten job words halve the score and the width", Page(13, 10), u"http://a/", 6.5, 10, 162.5,
+              true},
+        Rated{"six terms among twenty jobs are a list", Page(6, 20), u"http://a/", 3, 20, 1, false},
+        Rated{"a search engine scores nothing", Page(12, 3), u"https://www.google.fr/x", 0, 3, 1, false},
         Rated{"a term inside a word counts, a job word does not", u"l'offreur cherche des acheteurs ici", u"",
-              1, 0, 1, 330},
+              1, 0, 1, false},
         Rated{"the first and last word do not count as job words", u"acheteur et vendeur et avocat", u"", 0,
-              1, 1, 330},
-        Rated{"a row that stands twice counts twice", u"un couvreur et un expert ici", u"", 0, 4, 1, 330},
-        Rated{"a row of two words counts here", u"un middle office ici", u"", 0, 1, 1, 330},
+              1, 1, false},
+        Rated{"a row that stands twice counts twice", u"un couvreur et un expert ici", u"", 0, 4, 1, false},
+        Rated{"a row of two words counts here", u"un middle office ici", u"", 0, 1, 1, false},
         Rated{"what lies behind 32000 characters is not seen", Text(32000, u'x') + Page(12, 3), u"", 0, 0, 1,
-              330},
-        Rated{"no text at all", u"", u"", 0, 0, 1, 330}));
+              false},
+        Rated{"no text at all", u"", u"", 0, 0, 1, false}));
 
 }  // namespace
 }  // namespace talvor

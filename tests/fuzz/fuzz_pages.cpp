@@ -16,7 +16,7 @@ void CheckRating(TextView page, TextView address) {
   constexpr double Widest = 1300;
   const PageRating rating = RatePage(page, address);
   if (!(rating.Niveau >= 1 && rating.Niveau <= Widest)) __builtin_trap();
-  if (rating.FrameWeb != 330 && rating.FrameWeb != 660) __builtin_trap();
+  if (!rating.stripOpens && rating.Niveau > 1) __builtin_trap();
 }
 
 void CheckDirectory(TextView page) {
