@@ -47,7 +47,7 @@ void Fill(const Clock& clock, int rows) {
     Candidature row;
     row.Intitule = u"Chargée De Communication " + NumberText(i);
     row.Societe = u"Société " + NumberText(i % 500);
-    row.Datediffussion = DateText(Day{46000 + i % 300});
+    row.DateDiffusion = DateText(Day{46000 + i % 300});
     row.Statut = ListeStatuts[at % ListeStatuts.size()];
     row.Description = Text(2000, u'd');
     database.Save(database.BeginRow(), row);

@@ -43,8 +43,7 @@ void ReadRows(benchmark::State& state) {
     Database base = Database::Open(Today);
     std::size_t characters = 0;
     base.WalkRows(RowOrder::Unsorted, [&](const RowView& row) {
-      for (std::size_t c = 0; c < CandidatureFields.size(); ++c)
-        characters += row.Value(static_cast<Column>(c)).size();
+      for (std::size_t c = 0; c < CandidatureFields.size(); ++c) characters += row.Value(Column{c}).size();
     });
     benchmark::DoNotOptimize(characters);
   }

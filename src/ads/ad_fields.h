@@ -30,5 +30,6 @@ inline constexpr FieldTable<AdFields, 17> AdFieldTable{{
     {u"www", &AdFields::www},
     {u"Origine", &AdFields::Origine},
 }};
+static_assert(sizeof(AdFields) == AdFieldTable.size() * sizeof(Text), "a field has no name");
 
 }  // namespace talvor

@@ -26,6 +26,15 @@ template <class Record, std::size_t N>
   return nullptr;
 }
 
+// True if every field of the first table has one of its name in the second.
+template <class Inner, std::size_t N, class Outer, std::size_t M>
+[[nodiscard]] constexpr bool HasAllNames(const FieldTable<Inner, N>& inner,
+                                         const FieldTable<Outer, M>& outer) {
+  for (const auto& field : inner)
+    if (FindField(outer, field.name) == nullptr) return false;
+  return true;
+}
+
 // Copies every field of `from` into the field of the same name of `to`, where there is one.
 template <class From, std::size_t N, class To, std::size_t M>
 void CopyFieldsByName(const FieldTable<From, N>& fromTable, const std::type_identity_t<From>& from,

@@ -4,6 +4,8 @@
 
 namespace talvor {
 
+static_assert(HasAllNames(AdFieldTable, DetailFields), "the analyser fills a field that the detail lacks");
+
 FormCandCapture::FormCandCapture(FormCand& form, const Clock& clock, Browser& browser)
     : form_(form), clock_(clock), browser_(browser) {}
 

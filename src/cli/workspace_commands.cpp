@@ -85,7 +85,7 @@ ExitCode Candidatures(const std::string& workspace, const std::string& tri, bool
 
 ExitCode UneCandidature(const std::string& workspace, std::int32_t num, bool json, Console& console) {
   Workspace space(workspace, Text{BlankPage}, console);
-  const CandidatureDetail detail = DetailOf(Database::Open(space.clock).ReadRow(num));
+  const Candidature detail = Database::Open(space.clock).ReadRow(num);
   if (json) {
     console.out << JsonOf(DetailFields, detail).dump(2) << '\n';
     return Done;

@@ -73,7 +73,7 @@ void FillDatabase(const Clock& clock) {
   Database database = Database::Open(clock);
   for (const Sample& sample : Samples) {
     Candidature row;
-    row.Datediffussion = sample.date;
+    row.DateDiffusion = sample.date;
     row.Intitule = sample.title;
     row.Societe = sample.company;
     row.Statut = sample.status;
@@ -91,7 +91,7 @@ void FillDatabase(const Clock& clock) {
           u"intranet, lettre mensuelle, évènements. Vous rédigez les supports et mesurez les résultats.";
       row.NomContact = u"Claire Hauteville";
       row.Telephone = u"04 72 00 00 14";
-      row.courriel = u"recrutement@valmont-energie.example";
+      row.Email = u"recrutement@valmont-energie.example";
       row.Adresse = u"18 quai des Tanneurs";
       row.CP = u"69002";
       row.Ville = u"LYON";

@@ -3,6 +3,7 @@
 #include "ads/contracts.h"
 #include "base/fonctionnel.h"
 #include "base/line_file.h"
+#include "tracking/form_cand.h"
 #include "tracking/status_lists.h"
 
 namespace talvor {
@@ -64,7 +65,7 @@ void PutTitle(Text& text, const CandidatureTexts& candidature) {
 
 CandidatureTexts TextsOf(const FormCand& form) {
   CandidatureTexts texts;
-  static_cast<CandidatureDetail&>(texts) = form;
+  static_cast<Candidature&>(texts) = form;
   texts.AdresseWeb = form.AdresseWeb;
   texts.TermFin = form.TermFin;
   if (const auto row = form.ListeStatutsChoice.selected) texts.ListeStatuts = ListeStatuts[*row];

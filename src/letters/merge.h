@@ -6,13 +6,15 @@
 #include "base/day.h"
 #include "platform/dialogs.h"
 #include "platform/shell.h"
-#include "tracking/form_cand.h"
+#include "tracking/candidature.h"
 
 namespace talvor {
 
+class FormCand;
+
 // All fields of `FormCand` that have a text: each one's name is a tag. The text of a list is its
 // selected row, empty without one.
-struct CandidatureTexts : CandidatureDetail {
+struct CandidatureTexts : Candidature {
   Text AdresseWeb;
   Text Text1;  // the address taken from the title of a browser window outside the program
   Text TermFin;
@@ -21,42 +23,25 @@ struct CandidatureTexts : CandidatureDetail {
   Text ListeStatuts, ListeContrats;
 };
 
-// In the order of the merge. A field put in later is not searched for the tags of earlier ones.
-inline constexpr FieldTable<CandidatureTexts, 33> CandidatureTags{{
-    {u"Ville", &CandidatureTexts::Ville},
-    {u"CP", &CandidatureTexts::CP},
-    {u"Adresse", &CandidatureTexts::Adresse},
-    {u"CV", &CandidatureTexts::CV},
-    {u"Lettre", &CandidatureTexts::Lettre},
-    {u"DateRDV", &CandidatureTexts::DateRDV},
-    {u"Reference", &CandidatureTexts::Reference},
-    {u"Num", &CandidatureTexts::Num},
-    {u"Description", &CandidatureTexts::Description},
-    {u"Remarques", &CandidatureTexts::Remarques},
-    {u"Statut", &CandidatureTexts::Statut},
-    {u"DateEnvoi", &CandidatureTexts::DateEnvoi},
-    {u"www", &CandidatureTexts::www},
-    {u"DateLimite", &CandidatureTexts::DateLimite},
-    {u"DateDiffusion", &CandidatureTexts::DateDiffusion},
-    {u"Origine", &CandidatureTexts::Origine},
-    {u"Email", &CandidatureTexts::Email},
-    {u"Telephone", &CandidatureTexts::Telephone},
-    {u"NomContact", &CandidatureTexts::NomContact},
-    {u"Societe", &CandidatureTexts::Societe},
-    {u"Salaire", &CandidatureTexts::Salaire},
-    {u"Lieu", &CandidatureTexts::Lieu},
-    {u"Duree", &CandidatureTexts::Duree},
-    {u"Nature", &CandidatureTexts::Nature},
-    {u"Intitule", &CandidatureTexts::Intitule},
-    {u"AdresseWeb", &CandidatureTexts::AdresseWeb},
-    {u"Text1", &CandidatureTexts::Text1},
-    {u"TermFin", &CandidatureTexts::TermFin},
-    {u"MotsValid", &CandidatureTexts::MotsValid},
-    {u"ListeMetiers", &CandidatureTexts::ListeMetiers},
-    {u"List1", &CandidatureTexts::List1},
-    {u"ListeStatuts", &CandidatureTexts::ListeStatuts},
-    {u"ListeContrats", &CandidatureTexts::ListeContrats},
-}};
+// In the order of the merge: the fields of the candidature as the form lists its controls, then the others. A
+// field put in later is not searched for the tags of earlier ones.
+inline constexpr auto CandidatureTags = [] {
+  using T = CandidatureTexts;
+  constexpr FieldTable<T, 8> Others{{{u"AdresseWeb", &T::AdresseWeb},
+                                     {u"Text1", &T::Text1},
+                                     {u"TermFin", &T::TermFin},
+                                     {u"MotsValid", &T::MotsValid},
+                                     {u"ListeMetiers", &T::ListeMetiers},
+                                     {u"List1", &T::List1},
+                                     {u"ListeStatuts", &T::ListeStatuts},
+                                     {u"ListeContrats", &T::ListeContrats}}};
+  FieldTable<T, CandidatureFieldCount + Others.size()> tags;
+  auto tag = tags.begin();
+  for (const auto& field : CandidatureControls) *tag++ = {field.name, field.text};
+  for (const auto& field : Others) *tag++ = field;
+  return tags;
+}();
+static_assert(sizeof(CandidatureTexts) == CandidatureTags.size() * sizeof(Text), "a text has no tag");
 
 // The texts of the form as they stand. `Text1` and `List1` belong to what browses and are left empty.
 [[nodiscard]] CandidatureTexts TextsOf(const FormCand& form);

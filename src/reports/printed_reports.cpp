@@ -28,12 +28,12 @@ void ListHead(Text& page, TextView today) {
 
 // Rows have a closing tag only, in both reports.
 void ListRow(Text& page, const RowView& row) {
-  Line(page,
-       {u"<td valign=top><FONT SIZE=2>", row.Value(Column::Statut), u"</td><td valign=top><FONT SIZE=2>",
-        row.Value(Column::Datediffussion), u"</td><td valign=top><FONT SIZE=2>", row.Value(Column::Societe),
-        u"</td><td valign=top><FONT SIZE=2>", row.Value(Column::Intitule), u"</td><td><font size=1>",
-        row.Value(Column::Origine), u"</font></td><td><font size=2>", row.Value(Column::Reference),
-        u"</font></td></tr>"});
+  Line(page, {u"<td valign=top><FONT SIZE=2>", row.Value(&Candidature::Statut),
+              u"</td><td valign=top><FONT SIZE=2>", row.Value(&Candidature::DateDiffusion),
+              u"</td><td valign=top><FONT SIZE=2>", row.Value(&Candidature::Societe),
+              u"</td><td valign=top><FONT SIZE=2>", row.Value(&Candidature::Intitule),
+              u"</td><td><font size=1>", row.Value(&Candidature::Origine), u"</font></td><td><font size=2>",
+              row.Value(&Candidature::Reference), u"</font></td></tr>"});
 }
 
 void ProofHead(Text& page, const Identity& identity) {
@@ -54,22 +54,22 @@ Text BeginningOf(TextView description) {
 }
 
 void ProofRow(Text& page, const RowView& row) {
-  Line(page, {u"<td valign=top><FONT SIZE=2>", row.Value(Column::DateEnvoi),
+  Line(page, {u"<td valign=top><FONT SIZE=2>", row.Value(&Candidature::DateEnvoi),
               u"</td><td valign=top><FONT SIZE=2>Envoi de la candidature</td><td valign=top><FONT SIZE=2>",
-              row.Value(Column::Statut), u"</td><td valign=top><FONT SIZE=2>", row.Value(Column::Societe),
-              u"</td><td valign=top><FONT SIZE=2>", row.Value(Column::Intitule),
-              u"</td><td valign=top><font size=1>", row.Value(Column::Origine),
-              u"</font></td><td valign=top><font size=2>", row.Value(Column::Reference),
-              u"</font></td><td><font size=2>", row.Value(Column::Remarques),
-              u"<br><font size=1>Début de l'annonce : ", BeginningOf(row.Value(Column::Description)),
-              u"<hr></font></td></tr>"});
+              row.Value(&Candidature::Statut), u"</td><td valign=top><FONT SIZE=2>",
+              row.Value(&Candidature::Societe), u"</td><td valign=top><FONT SIZE=2>",
+              row.Value(&Candidature::Intitule), u"</td><td valign=top><font size=1>",
+              row.Value(&Candidature::Origine), u"</font></td><td valign=top><font size=2>",
+              row.Value(&Candidature::Reference), u"</font></td><td><font size=2>",
+              row.Value(&Candidature::Remarques), u"<br><font size=1>Début de l'annonce : ",
+              BeginningOf(row.Value(&Candidature::Description)), u"<hr></font></td></tr>"});
 }
 
 // An interview on or after the day of the diffusion is an entry of its own.
 void InterviewRow(Text& page, const RowView& row) {
-  const Text date = row.Value(Column::DateRDV);
+  const Text date = row.Value(&Candidature::DateRDV);
   const auto interview = ParseDate(date);
-  const auto published = ParseDate(row.Value(Column::Datediffussion));
+  const auto published = ParseDate(row.Value(&Candidature::DateDiffusion));
   if (!interview || !published || *interview < *published) return;
   Line(page, {u"<td valign=top><FONT SIZE=2>", date,
               u"</td><td valign=top><FONT SIZE=2>Entretien</td><td valign=top><FONT SIZE=2>-</td><td "

@@ -70,10 +70,10 @@ void FormStat::CountStatuses(Database& database) {
 void FormStat::ListInterviews(Database& database) {
   const Day today = clock_.Today();
   database.WalkRows(RowOrder::Unsorted, [&](const RowView& row) {
-    const Text date = row.Value(Column::DateRDV);
+    const Text date = row.Value(&Candidature::DateRDV);
     const auto interview = ParseDate(date);
     if (!interview || *interview < today) return;
-    RDV += u"Entretien avec la société " + row.Value(Column::Societe) + u" le " + date + Text{LineEnd};
+    RDV += u"Entretien avec la société " + row.Value(&Candidature::Societe) + u" le " + date + Text{LineEnd};
     if (const auto cell = IndexJour(*interview)) Jour[*cell].interview = true;
   });
 }

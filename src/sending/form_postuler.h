@@ -14,6 +14,7 @@
 #include "platform/environment.h"
 #include "platform/mail_client.h"
 #include "sending/hourglass.h"
+#include "tracking/form_cand.h"
 
 namespace talvor {
 

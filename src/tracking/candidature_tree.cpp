@@ -28,15 +28,15 @@ RowOrder OrderOf(Tri tri) {
 Column ColumnOf(Tri tri) {
   switch (tri) {
     case Tri::Societes:
-      return Column::Societe;
+      return &Candidature::Societe;
     case Tri::Dates:
-      return Column::Datediffussion;
+      return &Candidature::DateDiffusion;
     case Tri::Statuts:
-      return Column::Statut;
+      return &Candidature::Statut;
     case Tri::Origine:
       break;
   }
-  return Column::Origine;
+  return &Candidature::Origine;
 }
 
 // The label of the group of the rows with that value.
@@ -66,8 +66,11 @@ bool IsLeafKey(TextView key) {
 }
 
 Text LeafText(const RowView& row) {
-  Text text = row.Value(Column::Datediffussion);
-  text.append(u" ").append(row.Value(Column::Intitule)).append(u", ").append(row.Value(Column::Societe));
+  Text text = row.Value(&Candidature::DateDiffusion);
+  text.append(u" ")
+      .append(row.Value(&Candidature::Intitule))
+      .append(u", ")
+      .append(row.Value(&Candidature::Societe));
   return text;
 }
 
@@ -88,7 +91,7 @@ CandidatureTree CandidatureTree::Build(Database& database, Tri tri) {
         parent = tree.IndexOf(label);
         value = std::move(current);
       }
-      tree.AddLeaf(parent, LeafKeyMark + row.Value(Column::Num), LeafText(row));
+      tree.AddLeaf(parent, LeafKeyMark + row.Value(&Candidature::Num), LeafText(row));
     });
   } catch (const StoreError&) {
     // The list shows what could be read.

@@ -30,14 +30,14 @@ std::optional<std::int32_t> FormCand::Key() const {
 void FormCand::ChargerCandidature(std::int16_t num) {
   Num.clear();
   base_ = Database::Open(clock_);
-  static_cast<CandidatureDetail&>(*this) = DetailOf(base_.ReadRow(num));
+  static_cast<Candidature&>(*this) = base_.ReadRow(num);
   DescriptionConnue = Description;
   PicturePostulerVisible = Statut == NonEmise;
   SignatureCourante = SignatureEnregistree = Signature(*this);
 }
 
 void FormCand::ViderDetail() {
-  static_cast<CandidatureDetail&>(*this) = {};
+  static_cast<Candidature&>(*this) = {};
   DescriptionConnue.clear();
 }
 
@@ -89,7 +89,7 @@ void FormCand::EnregistrerLigne() {
   const auto key = Key();
   const PendingRow row = key ? base_.EditRow(*key) : base_.BeginRow();
   if (!ControleSaisie()) return;
-  const Candidature values = RowOf(*this);
+  const Candidature values = AsSaved(*this);
   Num = NumberText(row.num);
   base_.Save(row, values);
 }
@@ -151,7 +151,7 @@ void FormCand::DeleteOn(Database& database) {
 // Empties the text of every control of the form: with the detail go the end markers of the analyser
 // and the address field.
 void FormCand::ViderControles() {
-  static_cast<CandidatureDetail&>(*this) = {};
+  static_cast<Candidature&>(*this) = {};
   TermFin.clear();
   AdresseWeb.clear();
 }

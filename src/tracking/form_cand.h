@@ -10,7 +10,7 @@
 #include "platform/clock.h"
 #include "platform/dialogs.h"
 #include "platform/shell.h"
-#include "tracking/candidature_detail.h"
+#include "tracking/candidature.h"
 #include "tracking/candidature_tree.h"
 #include "workspace/principale.h"
 
@@ -35,7 +35,7 @@ struct Refusal {
   Text message;
 };
 
-class FormCand : public CandidatureDetail {
+class FormCand : public Candidature {
  public:
   FormCand(Principale& principale, const Clock& clock, Dialogs& dialogs, Shell& shell, Browser& browser);
 

@@ -3,10 +3,12 @@
 #include <SQLiteCpp/Backup.h>
 #include <sqlite3.h>
 
+#include <algorithm>
 #include <array>
 #include <limits>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <system_error>
 
 #include "tracking/ageing.h"
@@ -74,9 +76,34 @@ const char* QueryOf(RowOrder order) {
   return AllRows;
 }
 
-constexpr std::size_t ColumnCount = CandidatureFields.size();
+// True if the schema has the columns of the table of fields, in its order and each of its kind.
+consteval bool SchemaHoldsTheFields() {
+  std::string_view rest = Schema;
+  const auto word = [&rest] {
+    rest.remove_prefix(std::min(rest.find_first_not_of(' '), rest.size()));
+    const std::string_view taken = rest.substr(0, rest.find_first_of(" ,\n"));
+    rest.remove_prefix(taken.size());
+    return taken;
+  };
+  const auto nextLine = [&rest] { rest.remove_prefix(rest.find('\n') + 1); };
+  nextLine();
+  nextLine();  // behind "create table"
+  for (const auto& field : CandidatureFields) {
+    const std::string_view column = word();
+    if (!std::ranges::equal(column, field.Column(), {}, [](char c) { return static_cast<char16_t>(c); }))
+      return false;
+    if (word() != (field.holds == Holds::Words ? "text" : "integer")) return false;
+    nextLine();
+  }
+  return word() == ");";
+}
+static_assert(SchemaHoldsTheFields());
 
-std::string ColumnName(std::size_t c) { return ToUtf8(CandidatureFields[c].name); }
+constexpr std::size_t ColumnCount = CandidatureFieldCount;
+
+std::string ColumnName(std::size_t c) { return ToUtf8(CandidatureFields[c].Column()); }
+
+bool IsDate(std::size_t c) { return CandidatureFields[c].holds == Holds::Date; }
 
 class StatementRow : public RowView {
  public:
@@ -85,14 +112,14 @@ class StatementRow : public RowView {
     for (int i = 0; i < statement.getColumnCount(); ++i) {
       const auto name = FromUtf8(statement.getColumnName(i));
       for (std::size_t c = 0; name && c < ColumnCount; ++c)
-        if (CompareIgnoringCase(*name, CandidatureFields[c].name) == 0) index_[c] = i;
+        if (CompareIgnoringCase(*name, CandidatureFields[c].Column()) == 0) index_[c] = i;
     }
   }
 
   Text Value(Column column) const override {
-    const auto value = statement_.getColumn(index_[static_cast<std::size_t>(column)]);
+    const auto value = statement_.getColumn(index_[column.Index()]);
     if (value.isNull()) return {};
-    if (IsDate(column)) return DateText(Day{value.getInt()});
+    if (IsDate(column.Index())) return DateText(Day{value.getInt()});
     const std::string_view bytes{value.getText(), static_cast<std::size_t>(value.getBytes())};
     if (auto text = FromUtf8(bytes)) return std::move(*text);
     // Bytes that another program left there: each stands for a character rather than being lost.
@@ -103,8 +130,7 @@ class StatementRow : public RowView {
 
   Candidature All() const {
     Candidature row;
-    for (std::size_t c = 0; c < ColumnCount; ++c)
-      row.*(CandidatureFields[c].text) = Value(static_cast<Column>(c));
+    for (std::size_t c = 0; c < ColumnCount; ++c) row.*(CandidatureFields[c].text) = Value(Column{c});
     return row;
   }
 
@@ -132,7 +158,7 @@ std::string UpdateStatement() {
 
 void BindColumn(SQLite::Statement& statement, const fs::path& file, std::size_t c, const Text& value) {
   const std::string parameter = ":" + ColumnName(c);
-  if (!IsDate(static_cast<Column>(c))) {
+  if (!IsDate(c)) {
     statement.bind(parameter, ToUtf8(value));
   } else if (value.empty()) {
     statement.bind(parameter);  // null

@@ -28,7 +28,7 @@ TEST_F(CaptureTest, ATextBecomesASavedRow) {
   EXPECT_EQ(row.Societe, u"ACME");
   EXPECT_EQ(row.NomContact, u"Durand");
   EXPECT_EQ(row.Statut, u"NON EMISE");
-  EXPECT_EQ(row.Datediffussion, u"01/03/2026");
+  EXPECT_EQ(row.DateDiffusion, u"01/03/2026");
   EXPECT_EQ(row.Lettre, u"");
 }
 

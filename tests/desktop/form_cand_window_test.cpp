@@ -31,7 +31,7 @@ TEST_F(FormCandWindowTest, APastedAdvertisementBecomesARowThatAgesWithTheCalenda
 
   Click("Action3");
   ASSERT_EQ(Count(), 1);
-  EXPECT_EQ(Read(1).courriel, u"recrutement@acme.example");
+  EXPECT_EQ(Read(1).Email, u"recrutement@acme.example");
   ASSERT_EQ(Rows().size(), 2);
   EXPECT_EQ(Rows()[0], QStringLiteral("Candidatures non émises"));
 

@@ -343,8 +343,8 @@ void MonthRunTest::ExpectRows() {
     EXPECT_EQ(ToUtf8(row.Intitule), ToUtf8(ad.Intitule));
     EXPECT_EQ(ToUtf8(row.Reference), ToUtf8(ad.Reference));
     EXPECT_EQ(ToUtf8(row.Nature), ToUtf8(ad.Nature));
-    EXPECT_EQ(ToUtf8(row.courriel), ToUtf8(ad.mail));
-    EXPECT_EQ(ToUtf8(row.Datediffussion), ToUtf8(DateText(DayOfRun(ad.day))));
+    EXPECT_EQ(ToUtf8(row.Email), ToUtf8(ad.mail));
+    EXPECT_EQ(ToUtf8(row.DateDiffusion), ToUtf8(DateText(DayOfRun(ad.day))));
     EXPECT_EQ(row.www.empty(), ad.way == Way::Paste);
     if (row.Statut == NonEmise) ++notSent;
   }

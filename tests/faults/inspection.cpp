@@ -31,11 +31,12 @@ void CheckBase(Ledger& ledger, Day today, Findings& findings) {
   Database database = Database::Open(clock);
   std::map<std::int32_t, std::int32_t> found;
   database.WalkRows(RowOrder::Unsorted, [&](const RowView& row) {
-    const auto id = static_cast<std::int32_t>(ValeurNumerique(row.Value(Column::Num)));
-    const auto version = VersionOf(row.Value(Column::Lettre));
+    const auto id = static_cast<std::int32_t>(ValeurNumerique(row.Value(&Candidature::Num)));
+    const auto version = VersionOf(row.Value(&Candidature::Lettre));
     // A captured row has no body before its first change.
-    const bool untouched = row.Value(Column::Lettre).empty() && row.Value(Column::Remarques).empty();
-    if (!untouched && NumberText(version) != row.Value(Column::Remarques))
+    const bool untouched =
+        row.Value(&Candidature::Lettre).empty() && row.Value(&Candidature::Remarques).empty();
+    if (!untouched && NumberText(version) != row.Value(&Candidature::Remarques))
       findings.faults.push_back("row " + std::to_string(id) + " is torn");
     found[id] = version;
   });

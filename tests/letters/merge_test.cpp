@@ -3,6 +3,7 @@
 #include <random>
 
 #include "tests/letters/letters_fixture.h"
+#include "tracking/form_cand.h"
 
 namespace talvor {
 namespace {

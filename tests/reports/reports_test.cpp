@@ -41,7 +41,7 @@ TEST_F(ReportsTest, TheListHoldsEveryRowInItsOwnMarkup) {
   Insert({.Intitule = u"Maçon",
           .Societe = u"A & <b>",
           .Origine = u"presse",
-          .Datediffussion = u"05/02/2026",
+          .DateDiffusion = u"05/02/2026",
           .Reference = u"R1",
           .Statut = u"NON EMISE"});
   Insert({.Intitule = u"Éclusier", .Societe = u"B"});
@@ -69,7 +69,7 @@ TEST_F(ReportsTest, TheProofHoldsOldRowsAndInterviews) {
           .Description = u"un\r\ndeux",
           .Societe = u"A",
           .Origine = u"presse",
-          .Datediffussion = u"05/02/2001",
+          .DateDiffusion = u"05/02/2001",
           .DateRDV = u"05/02/2001",
           .DateEnvoi = u"06/02/2001",
           .Reference = u"R1",
@@ -100,7 +100,7 @@ TEST_F(ReportsTest, TheProofHoldsOldRowsAndInterviews) {
 }
 
 TEST_F(ReportsTest, AnInterviewBeforeTheDiffusionOrWithoutADateIsNoEntry) {
-  Insert({.Intitule = u"x", .Datediffussion = u"06/02/2026", .DateRDV = u"05/02/2026"});
+  Insert({.Intitule = u"x", .DateDiffusion = u"06/02/2026", .DateRDV = u"05/02/2026"});
   Insert({.Intitule = u"x", .DateRDV = u"05/02/2026"});
   EXPECT_FALSE(Contains(Page(ReportMode::Justificatif), u"Entretien"));
 }

@@ -48,7 +48,7 @@ TEST_F(ListTest, GroupsRowsUnderEachOfTheFourSorts) {
   Insert({.Intitule = u"Comptable",
           .Societe = u"ACME",
           .Origine = u"apec",
-          .Datediffussion = u"05/02/2026",
+          .DateDiffusion = u"05/02/2026",
           .Statut = u"NON EMISE"});
   Insert({.Intitule = u"Caissier",
           .Societe = u"3 Suisses",
@@ -56,12 +56,10 @@ TEST_F(ListTest, GroupsRowsUnderEachOfTheFourSorts) {
           .Statut = Text{ListeStatuts[2]}});
   Insert({.Intitule = u"Vendeur",
           .Societe = u"acme",
-          .Datediffussion = u"06/02/2026",
+          .DateDiffusion = u"06/02/2026",
           .Statut = Text{SansReponseApresEntretien}});
-  Insert({.Intitule = u"Maçon",
-          .Societe = u"0 défaut",
-          .Datediffussion = u"06/02/2026",
-          .Statut = u"NON EMISE"});
+  Insert(
+      {.Intitule = u"Maçon", .Societe = u"0 défaut", .DateDiffusion = u"06/02/2026", .Statut = u"NON EMISE"});
 
   EXPECT_EQ(OutlineBy(Tri::Societes),
             "0 défaut\n  s4: 06/02/2026 Maçon, 0 défaut\n"

@@ -13,7 +13,7 @@ TEST_F(FormCandTest, ANewRowWithATitleAloneTakesTheDefaults) {
   form.Action(3);
   EXPECT_EQ(form.Num, u"1");
   const Candidature row = Read(1);
-  EXPECT_EQ(row.Datediffussion, u"01/03/2026");
+  EXPECT_EQ(row.DateDiffusion, u"01/03/2026");
   EXPECT_EQ(row.Statut, u"NON EMISE");
   EXPECT_EQ(row.Societe, u"N.C.");
   EXPECT_EQ(row.Duree, u"");
@@ -49,12 +49,12 @@ TEST_F(FormCandTest, ASaveShortensTheRowAndNotTheField) {
 
 TEST_F(FormCandTest, EveryFieldComesBackAtTheNextLoad) {
   for (const auto& field : DetailFields) form.*(field.text) = field.name;
-  for (const auto date : {&CandidatureDetail::DateDiffusion, &CandidatureDetail::DateLimite,
-                          &CandidatureDetail::DateEnvoi, &CandidatureDetail::DateRDV})
+  for (const auto date : {&Candidature::DateDiffusion, &Candidature::DateLimite, &Candidature::DateEnvoi,
+                          &Candidature::DateRDV})
     form.*date = u"02/03/2026";
   form.Num.clear();
   form.Valider();
-  const CandidatureDetail saved = form;
+  const Candidature saved = form;
   form.ViderDetail();
   form.ChargerCandidature(1);
   for (const auto& field : DetailFields)

@@ -27,7 +27,7 @@ TEST_F(StoreTest, EveryColumnComesBackAsItWasSaved) {
   Candidature row;
   for (const auto& field : CandidatureFields)
     row.*(field.text) = u"« " + Text{field.name} + u" » ' \" \U0001F603\r\n";
-  for (const auto date : {&Candidature::Datediffussion, &Candidature::DateLimite, &Candidature::DateRDV})
+  for (const auto date : {&Candidature::DateDiffusion, &Candidature::DateLimite, &Candidature::DateRDV})
     row.*date = u"29/02/2024";
   row.DateEnvoi.clear();
   row.Num = NumberText(Insert(row));
@@ -138,7 +138,7 @@ TEST_F(StoreTest, OrdersSortWithoutCaseTiesByNumberAndEmptyDatesLast) {
     Open().WalkRows(order, [&](const RowView& row) {
       ++seen;
       const Text value = row.Value(column);
-      const int num = std::stoi(ToUtf8(row.Value(Column::Num)));
+      const int num = std::stoi(ToUtf8(row.Value(&Candidature::Num)));
       if (!first) {
         const int compared = CompareIgnoringCase(value, before) * direction;
         ordered = ordered && (compared > 0 || (compared == 0 && num > number));
@@ -149,10 +149,10 @@ TEST_F(StoreTest, OrdersSortWithoutCaseTiesByNumberAndEmptyDatesLast) {
     });
     return ordered && seen == Rows;
   };
-  EXPECT_TRUE(isOrdered(RowOrder::Company, Column::Societe, 1));
-  EXPECT_TRUE(isOrdered(RowOrder::Origin, Column::Origine, 1));
-  EXPECT_TRUE(isOrdered(RowOrder::Status, Column::Statut, -1));
-  EXPECT_TRUE(isOrdered(RowOrder::Date, Column::Datediffussion, -1));
+  EXPECT_TRUE(isOrdered(RowOrder::Company, &Candidature::Societe, 1));
+  EXPECT_TRUE(isOrdered(RowOrder::Origin, &Candidature::Origine, 1));
+  EXPECT_TRUE(isOrdered(RowOrder::Status, &Candidature::Statut, -1));
+  EXPECT_TRUE(isOrdered(RowOrder::Date, &Candidature::DateDiffusion, -1));
 }
 
 TEST_F(StoreTest, CountsAStatusWithItsApostrophe) {
