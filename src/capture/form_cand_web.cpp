@@ -22,20 +22,17 @@ void FormCandWeb::Changed() const {
   if (OnChange) OnChange();
 }
 
-void FormCandWeb::EntrerAdresseWeb() { browser_.Navigate(form_.AdresseWeb); }
+void FormCandWeb::EntrerAdresseWeb() { form_.FollowAddress(); }
 
 void FormCandWeb::ClicAdresseWeb() { List1Visible = false; }
 
-void FormCandWeb::ClicGo() { browser_.Navigate(form_.AdresseWeb); }
+void FormCandWeb::ClicGo() { form_.FollowAddress(); }
 
 void FormCandWeb::ClicSuivant() { browser_.GoForward(); }
 
 void FormCandWeb::ClicPrecedent() { browser_.GoBack(); }
 
-void FormCandWeb::ClicImage4() {
-  form_.AdresseWeb = principale_.AdresseWeb;
-  browser_.Navigate(form_.AdresseWeb);
-}
+void FormCandWeb::ClicImage4() { form_.GoTo(principale_.AdresseWeb); }
 
 void FormCandWeb::ClicImage5() { DeplacerFrameWeb(StripOpen); }
 
@@ -48,26 +45,24 @@ void FormCandWeb::ClicList1(std::size_t row) {
   if (row < Sites.List1.size()) {
     // A row with a "/" and no "http" leaves the address that stands.
     const Text address = SiteDirectory::AddressOf(Sites.List1[row]);
-    if (!address.empty()) form_.AdresseWeb = address;
+    if (!address.empty()) form_.ShowAddress(address);
     List1Visible = false;
   }
-  browser_.Navigate(form_.AdresseWeb);
+  form_.FollowAddress();
 }
 
 void FormCandWeb::QuitterList1() { List1Visible = false; }
 
 void FormCandWeb::ClicWww() {
-  form_.CadreWebVisible = true;
-  form_.AdresseWeb = form_.www;
-  browser_.Navigate(form_.AdresseWeb);
+  form_.ShowWebPane();
+  form_.GoTo(form_.www);
 }
 
 void FormCandWeb::ConsulterOrigine() {
-  form_.CadreWebVisible = true;
+  form_.ShowWebPane();
   const auto host = form_.www.find(u"//");
   const auto path = form_.www.find(u'/', host == Text::npos ? 0 : host + 2);
-  form_.AdresseWeb = form_.www.substr(0, path);
-  browser_.Navigate(form_.AdresseWeb);
+  form_.GoTo(TextView{form_.www}.substr(0, path));
 }
 
 void FormCandWeb::Arreter() {

@@ -123,7 +123,7 @@ void FormCandWeb::EvaluerUnePage() {
   if (closed_) return;
   const Text address = browser_.LocationURL();
   Evaluation = RatePage(start, address);
-  form_.AdresseWeb = address;
+  form_.ShowAddress(address);
   Changed();
   constexpr int BeforeTheGaugeMilliseconds = 500;
   shell_.PumpEvents();
@@ -165,8 +165,7 @@ void FormCandWeb::Timer1() {
 }
 
 void FormCandWeb::ClicLabel3() {
-  form_.AdresseWeb = Text1;
-  browser_.Navigate(Text1);
+  form_.GoTo(Text1);
   DerniereFenetreHttp = Text1;
 }
 

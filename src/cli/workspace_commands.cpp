@@ -50,7 +50,7 @@ ExitCode Capturer(const std::string& workspace, const CaptureOptions& options, C
   // Read first: the file's name is relative to where the user stands.
   Text texte = ReadText(options.file, console, LineEnds::AsCrLf);
   Workspace space(workspace, options.address ? ArgumentText(*options.address) : Text{BlankPage}, console);
-  space.form.CadreWebVisible = true;  // what fails is a capture, and the message says so
+  space.form.ShowWebPane();  // what fails is a capture, and the message says so
   space.capture.CapturerTexte(std::move(texte));
   if (space.form.Num.empty()) return Refused;
   console.out << ToUtf8(space.form.Num) << '\n';

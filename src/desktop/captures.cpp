@@ -290,7 +290,7 @@ void PhotographBrowser(Desktop& desktop, Photographer photographer) {
   desktop.Windows().Wait(UntilThePageIsRated);
   photographer.Take(u"navigateur-depart");
   window.Do([&] {
-    desktop.Candidatures().AdresseWeb = SamplePage;
+    desktop.Candidatures().ShowAddress(SamplePage);
     web.ClicGo();
   });
   desktop.Windows().Wait(UntilThePageIsRated);
@@ -383,7 +383,7 @@ void PhotographForms(Desktop& desktop, const Theme& theme, Photographer photogra
   window.Do([&] { desktop.Candidatures().ChargerCandidature(Detailed); });
   window.List().Tree().setCurrentIndex(window.List().Tree().Model().IndexOf(u"s6"));
   photographer.Take(u"candidatures-sans-navigateur");
-  window.Do([&] { desktop.Candidatures().CadreWebVisible = true; });
+  window.Do([&] { desktop.Candidatures().ShowWebPane(); });
   photographer.Take(u"candidatures");
   window.Do([&] { desktop.Candidatures().ClicImage2(); });
   photographer.Take(u"candidatures-statuts");

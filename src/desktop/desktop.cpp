@@ -165,7 +165,7 @@ void Desktop::RegisterCandidatureMenus() {
     const auto* description = formCandWindow_->findChild<QWidget*>(QStringLiteral("Description"));
     return description == nullptr ? 0 : description->height() * TwipsPerPixel;
   };
-  ways.montrerCadreWeb = inWindow([](CandidatureModels& cand) { cand.form.CadreWebVisible = true; });
+  ways.montrerCadreWeb = inWindow([](CandidatureModels& cand) { cand.form.ShowWebPane(); });
   ways.naviguerAccueil = inWindow([](CandidatureModels& cand) { cand.web.ClicImage4(); });
   ways.imprimerListe = [this] { reports_.ImprimerListe(ReportMode::Liste); };
   ways.justificatif = [this] { reports_.ImprimerListe(ReportMode::Justificatif); };
@@ -224,7 +224,7 @@ void Desktop::RegisterHome() {
                              // The figure stands in this window.
                              .unloaded = [this] { shell_.Unload(AssistantForm); }});
   assistantTexte_.commands.rechercherOffres = [this] {
-    if (formCandWindow_) formCandWindow_->Do([&] { formCand_->CadreWebVisible = true; });
+    if (formCandWindow_) formCandWindow_->Do([&] { formCand_->ShowWebPane(); });
   };
   assistantTexte_.commands.naviguerAccueil = [this] {
     if (formCandWindow_) formCandWindow_->Do([&] { browser_.Navigate(principale_.AdresseWeb); });
@@ -325,7 +325,6 @@ void Desktop::RegisterSending() {
                                               texts.Text1 = candidatures_->web.Text1;
                                               return texts;
                                             },
-                                        .browser = browser_,
                                         .cv = cv_,
                                         .shell = shell_,
                                         .theme = theme_,

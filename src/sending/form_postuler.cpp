@@ -205,13 +205,13 @@ void FormPostuler::MarquerEnvoyee() { around_.formCand().MarquerEnvoyee(PJ, Text
 void FormPostuler::BoutonTLV2() {
   around_.shell.Show(CandidatureForm);
   FormCand& form = around_.formCand();
-  form.CadreWebVisible = true;
+  form.ShowWebPane();
   // The page of the advertisement, unless it is the one on show already.
   if (form.AdresseWeb == form.www) return;
-  form.AdresseWeb = form.www;
+  form.ShowAddress(form.www);
   around_.shell.PumpEvents();
   const Hourglass hourglass(around_.waitCursor);
-  around_.formCandBrowser.Navigate(form.AdresseWeb);
+  form.FollowAddress();
 }
 
 }  // namespace talvor

@@ -41,7 +41,6 @@ class FormPostuler : public MergedLetter {
     Principale& principale;
     std::function<FormCand&()> formCand;     // as it stands: a new one at each load of its form
     std::function<CandidatureTexts()> tags;  // the texts of its fields
-    Browser& formCandBrowser;                // the browser pane of `FormCand`
     const Clock& clock;
     const Environment& environment;
     Dialogs& dialogs;

@@ -19,6 +19,11 @@ void FormCand::Charger() {
   DescriptionConnue.clear();
 }
 
+void FormCand::GoTo(TextView address) {
+  ShowAddress(address);
+  FollowAddress();
+}
+
 Text FormCand::Today() const { return DateText(clock_.Today()); }
 
 // The key in `Num`, which holds digits only.
@@ -124,11 +129,9 @@ void FormCand::Action(std::size_t index) {
 }
 
 void FormCand::MontrerCadreWeb() {
-  CadreWebVisible = true;
+  ShowWebPane();
   shell_.PumpEvents();
-  if (browser_.LocationURL() != BlankPage) return;
-  AdresseWeb = principale_.AdresseWeb;
-  browser_.Navigate(AdresseWeb);
+  if (browser_.LocationURL() == BlankPage) GoTo(principale_.AdresseWeb);
 }
 
 void FormCand::Supprimer() {
@@ -153,7 +156,7 @@ void FormCand::DeleteOn(Database& database) {
 void FormCand::ViderControles() {
   static_cast<Candidature&>(*this) = {};
   TermFin.clear();
-  AdresseWeb.clear();
+  ShowAddress({});
 }
 
 void FormCand::ClicPicturePostuler() {

@@ -44,7 +44,9 @@ class FormCand : public Candidature {
   Text SignatureCourante;     // as last computed
   Text DescriptionConnue;     // the description as last loaded or analysed
   Text TermFin{TermFinDelivered};
-  Text AdresseWeb;  // the address field of the browser pane
+  // The browser pane: its address field, which takes what the user types, and whether it stands. All else
+  // writes them through the methods of the pane below.
+  Text AdresseWeb;
   bool CadreWebVisible = false;
   bool PicturePostulerVisible = false;
   std::optional<Refusal> Refus;
@@ -64,6 +66,16 @@ class FormCand : public Candidature {
 
   // The form is loaded: blank browser, list built, no known description.
   void Charger();
+
+  // -- The browser pane.
+  void ShowWebPane() { CadreWebVisible = true; }
+  void HideWebPane() { CadreWebVisible = false; }
+  // The browser goes to an address, which its field shows from now on.
+  void GoTo(TextView address);
+  // The same in two steps, for who lets events run in between: the field shows the address, and the browser
+  // goes to what the field says.
+  void ShowAddress(TextView address) { AdresseWeb = address; }
+  void FollowAddress() { browser_.Navigate(AdresseWeb); }
 
   // -- The list.
   // Rebuilds the tree from the rows and the sort option. Failures are not reported: the tree holds what

@@ -54,7 +54,7 @@ void FormCand::ClicNoeud(TextView key) {
       return;
     }
     ChargerCandidature(*num);
-    CadreWebVisible = false;
+    HideWebPane();
   }
   const TreeNode* node = Liste.Find(key);
   if (node == nullptr || node->childCount != 0 || !BoutonDroit) return;

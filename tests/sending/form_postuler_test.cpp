@@ -82,7 +82,6 @@ class FormPostulerTest : public testing::Test {
   FormPostuler form{{.principale = principale,
                      .formCand = [this]() -> FormCand& { return formCand; },
                      .tags = [this] { return TextsOf(formCand); },
-                     .formCandBrowser = browser,
                      .clock = clock,
                      .environment = environment,
                      .dialogs = dialogs,

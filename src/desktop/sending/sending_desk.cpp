@@ -29,7 +29,6 @@ void SendingDesk::MakeApply() {
       FormPostuler::Surroundings{.principale = program_.principale,
                                  .formCand = program_.formCand,
                                  .tags = program_.tags,
-                                 .formCandBrowser = program_.browser,
                                  .clock = program_.clock,
                                  .environment = program_.environment,
                                  .dialogs = program_.dialogs,

@@ -22,7 +22,6 @@ class SendingDesk {
     Principale& principale;
     std::function<FormCand&()> formCand;
     std::function<CandidatureTexts()> tags;  // the texts of its fields
-    Browser& browser;                        // of `FormCand`
     CvDesk& cv;
     QtShell& shell;
     const Theme& theme;
