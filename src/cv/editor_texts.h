@@ -58,7 +58,6 @@ inline constexpr std::array<ZoneLabel, 26> ZoneLabels{{
     {u"CopierPhoto", u"Parcourir..."},
 }};
 
-inline constexpr TextView LanguageColumns = u"Scolaire  Professionnel   Courant   bilingue";
 inline constexpr TextView DetailButton = u"Préférer une saisie détaillée";
 inline constexpr std::array<TextView, 2> DispositionLabels{u"Débutant", u"Sénior"};
 inline constexpr std::array<TextView, 4> ParagraphLabels{

@@ -111,7 +111,7 @@ class Desktop {
   CvDesk cv_;
   LibraryDesk library_;
   FormLoadSave backup_;
-  Assistant assistant_{assistantTexte_, shell_};
+  Assistant assistant_{shell_};
   MiseEnPage miseEnPage_{shell_, dialogs_};
   std::optional<SendingDesk> sending_;
 

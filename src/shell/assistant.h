@@ -1,16 +1,13 @@
 // `Assistant`, the small figure beside the home panel.
 #pragma once
 
-#include "shell/home_panel.h"
+#include "platform/shell.h"
 
 namespace talvor {
 
 class Assistant {
  public:
-  Assistant(AssistantTexte& panel, Shell& shell) : panel_(panel), shell_(shell) {}
-
-  // A command of the home panel, by its title.
-  void Clic(TextView title) { panel_.Clic(title); }
+  explicit Assistant(Shell& shell) : shell_(shell) {}
 
   // While it stands: it closes once the editor of CVs is there, over which it must not stand.
   void Timer1() {
@@ -18,7 +15,6 @@ class Assistant {
   }
 
  private:
-  AssistantTexte& panel_;
   Shell& shell_;
 };
 

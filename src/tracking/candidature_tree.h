@@ -1,7 +1,6 @@
 // The list of all candidatures as a tree of two levels: groups, and a leaf for each row.
 #pragma once
 
-#include <array>
 #include <optional>
 #include <unordered_map>
 #include <vector>
@@ -12,8 +11,6 @@ namespace talvor {
 
 // The sort options `Tri`, by index.
 enum class Tri { Societes, Dates, Statuts, Origine };
-
-inline constexpr std::array<TextView, 4> TriCaptions{u"Sociétés", u"Dates", u"Statuts", u"Origine"};
 
 struct TreeNode {
   static constexpr std::size_t NoParent = static_cast<std::size_t>(-1);

@@ -204,10 +204,8 @@ TEST_F(HomePanelTest, AChangeOfLevelMovesTheRowsAwayAndTheyComeBackInAShortTime)
   EXPECT_LE(ticks, 12);
 }
 
-TEST_F(HomePanelTest, TheAssistantSharesTheCommandsAndGivesWayToTheEditor) {
-  Assistant assistant(panel, shell);
-  assistant.Clic(u"Gérer les candidatures");
-  EXPECT_EQ(panel.level, AssistantTexte::Level::Candidatures);
+TEST_F(HomePanelTest, TheAssistantGivesWayToTheEditor) {
+  Assistant assistant(shell);
   assistant.Timer1();
   EXPECT_TRUE(shell.calls.empty());
   shell.visible.insert(u"FormRédigerCV");
