@@ -10,10 +10,8 @@ floors=(
   "platform"
   "workspace ads"
   "tracking cv"
-  "capture letters reports"
-  "sending"
-  "app"
-  "shell"
+  "capture letters reports app"
+  "sending shell"
   "desktop cli"
 )
 

@@ -4,7 +4,6 @@
 #include "ads/phrase_reader.h"
 #include "ads/rules.h"
 #include "base/couper_texte.h"
-#include "base/fonctionnel.h"
 
 namespace talvor::ads {
 namespace {

@@ -7,8 +7,6 @@
 #include "app/file_error.h"
 #include "app/menu_trees.h"
 #include "base/line_file.h"
-#include "cv/editor.h"
-#include "letters/form_lettre.h"
 #include "workspace/document_keeping.h"
 #include "workspace/documents_folder.h"
 #include "workspace/systeme.h"

@@ -1,7 +1,6 @@
 #include "sending/conversion.h"
 
 #include "base/line_file.h"
-#include "cv/editor.h"
 #include "cv/model_files.h"
 #include "workspace/document_keeping.h"
 #include "workspace/documents_folder.h"
