@@ -51,7 +51,7 @@ void ReadAndWriteBytes(benchmark::State& state) {
   const std::string page = Rendered(LongCareer());
   for (auto _ : state) {
     benchmark::DoNotOptimize(ReadBytes(ModelFile(u"Basic.htm")));
-    if (WriteBytes("CVtemp.html", page)) state.SkipWithError("the page could not be written");
+    if (WriteBytes("CVtemp.html", page).Failed()) state.SkipWithError("the page could not be written");
   }
 }
 
@@ -59,7 +59,8 @@ void RenderPage(benchmark::State& state) {
   const Folder folder;
   const CvDocument cv = LongCareer();
   for (auto _ : state)
-    if (WriteBytes("CVtemp.html", Rendered(cv))) state.SkipWithError("the page could not be written");
+    if (WriteBytes("CVtemp.html", Rendered(cv)).Failed())
+      state.SkipWithError("the page could not be written");
 }
 
 BENCHMARK(ReadAndWriteBytes)->Unit(benchmark::kMicrosecond)->UseRealTime();

@@ -54,8 +54,8 @@ void WriteReport(benchmark::State& state) {
   const FilledFolder folder;
   for (auto _ : state) {
     Database base = Database::Open(Today);
-    const auto error = WriteBytes("rapport.html", ToCodePage(ReportPage(base, Mode, {}, Today.Today())));
-    if (error) state.SkipWithError("the report could not be written");
+    const auto written = WriteBytes("rapport.html", ToCodePage(ReportPage(base, Mode, {}, Today.Today())));
+    if (written.Failed()) state.SkipWithError("the report could not be written");
   }
 }
 

@@ -3,9 +3,8 @@
 
 #include <filesystem>
 #include <stdexcept>
-#include <system_error>
 
-#include "base/text.h"
+#include "base/result.h"
 
 namespace talvor {
 
@@ -13,7 +12,7 @@ namespace talvor {
 class FileError : public std::runtime_error {
  public:
   // `what` is what could not be done to the file, as it follows its name: «n’a pas pu être copié».
-  FileError(const std::filesystem::path& file, TextView what, const std::error_code& cause);
+  FileError(const std::filesystem::path& file, TextView what, const Failure& cause);
 };
 
 }  // namespace talvor

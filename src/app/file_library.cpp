@@ -35,26 +35,26 @@ struct Renaming {
 // All of them or none: what was renamed before a failure gets its old name back.
 void RenameAll(std::span<const Renaming> renamings) {
   for (std::size_t i = 0; i < renamings.size(); ++i) {
-    const std::error_code failure = RenameDocument(renamings[i].from, renamings[i].to);
-    if (!failure) continue;
+    const Result<> renamed = RenameDocument(renamings[i].from, renamings[i].to);
+    if (!renamed.Failed()) continue;
     const Renaming& failed = renamings[i];
     while (i-- > 0)
-      if (const auto stuck = RenameDocument(renamings[i].to, renamings[i].from))
-        throw FileError(renamings[i].to, u"n’a pas pu reprendre son ancien nom", stuck);
+      if (const auto back = RenameDocument(renamings[i].to, renamings[i].from); back.Failed())
+        throw FileError(renamings[i].to, u"n’a pas pu reprendre son ancien nom", back.Why());
     throw FileError(failed.from, u"n’a pas pu devenir " + Quoted(TextOf(failed.to).value_or(Text{})),
-                    failure);
+                    renamed.Why());
   }
 }
 
 void CopyDocument(const fs::path& from, const fs::path& to) {
   const auto bytes = ReadBytes(from);
-  const auto failure = bytes ? SaveDocument(to, *bytes) : ReadFailure(from);
-  if (failure) throw FileError(from, u"n’a pas pu être copié", failure);
+  const auto saved = bytes ? SaveDocument(to, *bytes) : Result<>(bytes.Why());
+  if (saved.Failed()) throw FileError(from, u"n’a pas pu être copié", saved.Why());
 }
 
 void Delete(const fs::path& document) {
-  if (const auto failure = DeleteDocument(document))
-    throw FileError(document, u"n’a pas pu être supprimé", failure);
+  if (const auto deleted = DeleteDocument(document); deleted.Failed())
+    throw FileError(document, u"n’a pas pu être supprimé", deleted.Why());
 }
 
 Text LastCharacters(const Text& name, std::size_t count) {

@@ -10,7 +10,6 @@
 #include <optional>
 #include <vector>
 
-#include "base/failure_cause.h"
 #include "base/line_file.h"
 
 namespace talvor {
@@ -82,8 +81,8 @@ class Copy {
     fs::remove_all(stage_, left);
   }
 
-  static void Require(const std::error_code& failure, const fs::path& file) {
-    if (failure) throw CopyFailure(file, failure);
+  static void Require(const Result<>& step, const fs::path& file) {
+    if (step.Failed()) throw CopyFailure(file, step.Why());
   }
 
   // Lists what a folder holds. `ancestors` are the folders around it, so that a link to one of them ends
@@ -153,13 +152,13 @@ class Copy {
       Require(error, destination_ / folder);
     }
     for (const Entry& file : files_) {
-      const auto failure =
+      const auto copied =
           steps_.CopyFile(source_ / file.name, Arrived() / file.name, [&](std::uintmax_t bytes) {
             progress_.bytes += bytes;
             return Report();
           });
-      if (failure == std::errc::operation_canceled) Stopped();
-      Require(failure, source_ / file.name);
+      if (copied.Code() == std::errc::operation_canceled) Stopped();
+      Require(copied, source_ / file.name);
       ++progress_.files;
       if (!Report()) Stopped();
     }
@@ -263,12 +262,12 @@ class Copy {
 
 }  // namespace
 
-CopyFailure::CopyFailure(const fs::path& file, const std::error_code& cause)
-    : CopyFailure(u"Le fichier " + QuotedName(file) + u" n’a pas pu être copié\u00A0: " + CauseOf(cause) +
+CopyFailure::CopyFailure(const fs::path& file, const Failure& cause)
+    : CopyFailure(u"Le fichier " + QuotedName(file) + u" n’a pas pu être copié\u00A0: " + cause.Cause() +
                   u".") {}
 
-std::error_code CopySteps::CopyFile(const fs::path& from, const fs::path& to,
-                                    const std::function<bool(std::uintmax_t)>& onBytes) {
+Result<> CopySteps::CopyFile(const fs::path& from, const fs::path& to,
+                             const std::function<bool(std::uintmax_t)>& onBytes) {
   const int in = ::open(from.c_str(), O_RDONLY | O_CLOEXEC);
   if (in < 0) return LastError();
   const int out = ::open(to.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
@@ -292,13 +291,13 @@ std::error_code CopySteps::CopyFile(const fs::path& from, const fs::path& to,
   return error;
 }
 
-std::error_code CopySteps::Put(const fs::path& from, const fs::path& to) {
+Result<> CopySteps::Put(const fs::path& from, const fs::path& to) {
   std::error_code error;
   fs::rename(from, to, error);
   return error;
 }
 
-std::error_code CopySteps::Settle(const fs::path& folder) {
+Result<> CopySteps::Settle(const fs::path& folder) {
   const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
   if (descriptor < 0) return LastError();
   const std::error_code error = ::syncfs(descriptor) == 0 ? std::error_code{} : LastError();

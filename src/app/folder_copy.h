@@ -6,9 +6,8 @@
 #include <filesystem>
 #include <functional>
 #include <stdexcept>
-#include <system_error>
 
-#include "base/text.h"
+#include "base/result.h"
 
 namespace talvor {
 
@@ -23,7 +22,7 @@ struct CopyProgress {
 class CopyFailure : public std::runtime_error {
  public:
   explicit CopyFailure(TextView message) : std::runtime_error(ToUtf8(message)) {}
-  CopyFailure(const std::filesystem::path& file, const std::error_code& cause);
+  CopyFailure(const std::filesystem::path& file, const Failure& cause);
 };
 
 // The steps that touch the disk.
@@ -31,15 +30,13 @@ class CopySteps {
  public:
   virtual ~CopySteps() = default;
   // Copies a file to a name that is free, with its date. `onBytes` hears of each block; false gives up,
-  // which is the error operation_canceled.
-  [[nodiscard]] virtual std::error_code CopyFile(const std::filesystem::path& from,
-                                                 const std::filesystem::path& to,
-                                                 const std::function<bool(std::uintmax_t)>& onBytes);
+  // which is a failure with the code operation_canceled.
+  [[nodiscard]] virtual Result<> CopyFile(const std::filesystem::path& from, const std::filesystem::path& to,
+                                          const std::function<bool(std::uintmax_t)>& onBytes);
   // Gives a file its name, in place of the one that bears it.
-  [[nodiscard]] virtual std::error_code Put(const std::filesystem::path& from,
-                                            const std::filesystem::path& to);
+  [[nodiscard]] virtual Result<> Put(const std::filesystem::path& from, const std::filesystem::path& to);
   // Waits until what was written to the disk of that folder is on it.
-  [[nodiscard]] virtual std::error_code Settle(const std::filesystem::path& folder);
+  [[nodiscard]] virtual Result<> Settle(const std::filesystem::path& folder);
 };
 
 struct CopyOptions {

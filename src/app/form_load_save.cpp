@@ -42,16 +42,16 @@ class WorkspaceSteps : public CopySteps {
  public:
   WorkspaceSteps(CopySteps& steps, const Clock& clock) : steps_(steps), clock_(clock) {}
 
-  std::error_code CopyFile(const fs::path& from, const fs::path& to,
-                           const std::function<bool(std::uintmax_t)>& onBytes) override {
+  Result<> CopyFile(const fs::path& from, const fs::path& to,
+                    const std::function<bool(std::uintmax_t)>& onBytes) override {
     if (from != workspace_paths::Database() || !Readable()) return steps_.CopyFile(from, to, onBytes);
     Database::Open(clock_).BackUp(to);
     std::error_code unknown;
-    return onBytes(fs::file_size(to, unknown)) ? std::error_code{}
-                                               : std::make_error_code(std::errc::operation_canceled);
+    if (!onBytes(fs::file_size(to, unknown))) return Failure(std::errc::operation_canceled);
+    return {};
   }
-  std::error_code Put(const fs::path& from, const fs::path& to) override { return steps_.Put(from, to); }
-  std::error_code Settle(const fs::path& folder) override { return steps_.Settle(folder); }
+  Result<> Put(const fs::path& from, const fs::path& to) override { return steps_.Put(from, to); }
+  Result<> Settle(const fs::path& folder) override { return steps_.Settle(folder); }
 
   // Rolls back what a crash has left beside the base, which opening it does.
   void SettleCrash() const { static_cast<void>(Readable()); }

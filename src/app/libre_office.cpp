@@ -27,20 +27,23 @@ Text Said(const std::string& output) {
   return said.substr(0, Longest);
 }
 
-Text FaultOf(const ProcessEnd& end) {
+Failure FaultOf(const ProcessEnd& end) {
   switch (end.kind) {
     case ProcessEnd::Kind::NotFound:
-      return u"LibreOffice n’est pas installé sur ce poste. Installez le paquet libreoffice-writer, puis "
-             u"recommencez la conversion.";
+      return Failure(
+          u"LibreOffice n’est pas installé sur ce poste. Installez le paquet libreoffice-writer, puis "
+          u"recommencez la conversion.");
     case ProcessEnd::Kind::TooLong:
-      return u"LibreOffice n’a pas terminé la conversion dans le temps imparti. Fermez les autres "
-             u"programmes, puis recommencez.";
+      return Failure(
+          u"LibreOffice n’a pas terminé la conversion dans le temps imparti. Fermez les autres "
+          u"programmes, puis recommencez.");
     case ProcessEnd::Kind::Exited:
     case ProcessEnd::Kind::Failed:
       break;
   }
   const Text said = Said(end.output);
-  return u"LibreOffice n’a pas pu convertir le CV" + (said.empty() ? Text{u"."} : u"\u00A0: " + said);
+  return Failure(u"LibreOffice n’a pas pu convertir le CV" +
+                 (said.empty() ? Text{u"."} : u"\u00A0: " + said));
 }
 
 }  // namespace
@@ -51,23 +54,24 @@ bool IsDocumentEnding(TextView ending) {
   return std::find(Endings.begin(), Endings.end(), lower) != Endings.end();
 }
 
-Text LibreOffice::Export(const fs::path& page, const fs::path& target) {
+Result<> LibreOffice::Export(const fs::path& page, const fs::path& target) {
   try {
     return Convert(page, target);
   } catch (const fs::filesystem_error& fault) {
-    return u"Le document n’a pas pu être écrit dans le dossier " +
-           Quoted(TextOf(target.parent_path()).value_or(Text{})) + u"\u00A0: " + CauseOf(fault.code()) + u".";
+    return Failure(u"Le document n’a pas pu être écrit dans le dossier " +
+                   Quoted(TextOf(target.parent_path()).value_or(Text{})) + u"\u00A0: " +
+                   CauseOf(fault.code()) + u".");
   }
 }
 
-Text LibreOffice::Convert(const fs::path& page, const fs::path& target) const {
+Result<> LibreOffice::Convert(const fs::path& page, const fs::path& target) const {
   const auto bytes = ReadBytes(page);
-  if (!bytes) return u"La page du CV est introuvable ou illisible.";
+  if (!bytes) return Failure(u"La page du CV est introuvable ou illisible.");
 
   const TemporaryFolder scratch;
   const fs::path copy = scratch.Path() / "cv.html";
-  if (const auto error = WriteBytes(copy, OfficePage(FromCodePage(*bytes), page.parent_path())))
-    throw fs::filesystem_error("page", copy, error);
+  const auto written = WriteBytes(copy, OfficePage(FromCodePage(*bytes), page.parent_path()));
+  if (written.Failed()) throw fs::filesystem_error("page", copy, written.Code());
 
   // Beside the target, so that the whole document takes its name in one step.
   const fs::path folder = target.has_parent_path() ? target.parent_path() : fs::current_path();

@@ -18,12 +18,14 @@ class LibreOffice : public WordProcessor {
   std::string program = "soffice";
   std::chrono::milliseconds limit{60000};
 
-  [[nodiscard]] Text Export(const std::filesystem::path& page, const std::filesystem::path& target) override;
+  [[nodiscard]] Result<> Export(const std::filesystem::path& page,
+                                const std::filesystem::path& target) override;
   // By the lock file that the programs of its family put beside a document.
   [[nodiscard]] bool HasOpen(const std::filesystem::path& file) const override;
 
  private:
-  [[nodiscard]] Text Convert(const std::filesystem::path& page, const std::filesystem::path& target) const;
+  [[nodiscard]] Result<> Convert(const std::filesystem::path& page,
+                                 const std::filesystem::path& target) const;
 };
 
 // True for an ending that LibreOffice is asked to write: .doc, .docx, .odt and .pdf, in any case.

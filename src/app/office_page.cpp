@@ -168,7 +168,8 @@ Text EmbeddedPicture(TextView tag, const std::filesystem::path& folder) {
   const auto name = ValueOf(attributes, u"src");
   if (!name || !IsBareName(*name)) return {};
   const auto file = ExistingFile(FileIn(folder, *name));
-  const auto bytes = file ? ReadBytes(*file) : std::nullopt;
+  if (!file) return {};
+  const auto bytes = ReadBytes(*file);
   const auto kind = bytes ? PictureKindOf(*bytes) : std::nullopt;
   if (!kind) return {};
   double width = ValeurNumerique(ValueOf(attributes, u"width").value_or(Text{}));

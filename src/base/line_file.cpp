@@ -24,36 +24,37 @@ std::error_code WriteAll(int descriptor, std::string_view bytes) {
   return ::fsync(descriptor) == 0 ? std::error_code{} : LastError();
 }
 
+// Why a file cannot be read, which the stream does not say.
+Failure ReadFailure(const std::filesystem::path& file) {
+  std::error_code error;
+  if (std::filesystem::is_directory(file, error)) return std::errc::is_a_directory;
+  const int descriptor = ::open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+  if (descriptor < 0) return LastError();
+  ::close(descriptor);
+  if (std::filesystem::file_size(file, error) > LargestFile && !error) return std::errc::file_too_large;
+  return std::errc::io_error;
+}
+
 }  // namespace
 
 std::filesystem::path PathOf(TextView text) { return std::filesystem::path{ToUtf8(text)}; }
 
 std::optional<Text> TextOf(const std::filesystem::path& path) { return FromUtf8(path.native()); }
 
-std::optional<std::string> ReadBytes(const std::filesystem::path& file) {
+Result<std::string> ReadBytes(const std::filesystem::path& file) {
   std::error_code error;
-  if (!std::filesystem::is_regular_file(file, error)) return std::nullopt;
-  if (std::filesystem::file_size(file, error) > LargestFile) return std::nullopt;
+  if (!std::filesystem::is_regular_file(file, error)) return ReadFailure(file);
+  if (std::filesystem::file_size(file, error) > LargestFile) return ReadFailure(file);
   std::ifstream stream{file, std::ios::binary};
   std::string bytes;
   std::array<char, 65536> block{};
   while (stream.read(block.data(), block.size()) || stream.gcount() > 0)
     bytes.append(block.data(), static_cast<std::size_t>(stream.gcount()));
-  return stream.eof() && !stream.bad() ? std::optional{std::move(bytes)} : std::nullopt;
+  if (!stream.eof() || stream.bad()) return ReadFailure(file);
+  return bytes;
 }
 
-std::error_code ReadFailure(const std::filesystem::path& file) {
-  std::error_code error;
-  if (std::filesystem::is_directory(file, error)) return std::make_error_code(std::errc::is_a_directory);
-  const int descriptor = ::open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-  if (descriptor < 0) return LastError();
-  ::close(descriptor);
-  if (std::filesystem::file_size(file, error) > LargestFile && !error)
-    return std::make_error_code(std::errc::file_too_large);
-  return std::make_error_code(std::errc::io_error);
-}
-
-std::error_code WriteBytes(const std::filesystem::path& file, std::string_view bytes) {
+Result<> WriteBytes(const std::filesystem::path& file, std::string_view bytes) {
   std::error_code error;
   std::filesystem::remove(file, error);
   if (error) return error;

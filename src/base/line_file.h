@@ -6,9 +6,9 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <system_error>
 #include <vector>
 
+#include "base/result.h"
 #include "base/text.h"
 
 namespace talvor {
@@ -20,15 +20,12 @@ namespace talvor {
 // Documents and pictures are far smaller; a file beyond that, which a key may hold, is not read.
 inline constexpr std::uintmax_t LargestFile = 256U << 20;
 
-// The bytes of a regular file, nothing when it cannot be read to its end.
-[[nodiscard]] std::optional<std::string> ReadBytes(const std::filesystem::path& file);
+// The bytes of a regular file, or why it cannot be read to its end.
+[[nodiscard]] Result<std::string> ReadBytes(const std::filesystem::path& file);
 
-// Why a file cannot be read, which ReadBytes does not say.
-[[nodiscard]] std::error_code ReadFailure(const std::filesystem::path& file);
-
-// Deletes the old file, then writes the new one and forces it to the disk. The error, if any step
-// failed; a file written in part is deleted again.
-[[nodiscard]] std::error_code WriteBytes(const std::filesystem::path& file, std::string_view bytes);
+// Deletes the old file, then writes the new one and forces it to the disk. A file written in part is
+// deleted again.
+[[nodiscard]] Result<> WriteBytes(const std::filesystem::path& file, std::string_view bytes);
 
 // CR LF or a lone CR ends a line; in a text without any CR, LF does. A line end at the very end begins
 // no further line.

@@ -70,13 +70,13 @@ void FormCandWeb::Arreter() {
   browser_.Stop();
 }
 
-std::error_code FormCandWeb::MajListeSites() {
+Result<> FormCandWeb::MajListeSites() {
   shell_.PumpEvents();
   browser_.Navigate(principale_.AdresseWeb + u"listesites.htm");
   if (!AttendrePage()) return {};
   const Text sites = browser_.BodyText(DocumentBrowser::Whole);
   // A page that could not be loaded leaves the sites that are known.
-  return sites.empty() ? std::error_code{} : SiteDirectory::MajListeSites(sites);
+  return sites.empty() ? Result<>{} : SiteDirectory::MajListeSites(sites);
 }
 
 ApplyTexts FormCandWeb::Postuler() const {

@@ -94,9 +94,9 @@ class FormCandWeb {
   void ConsulterOrigine();
   // The user ends the load under way.
   void Arreter();
-  // Rebuilds the file of sites from the page of sites, unless that page has no text; the error, if the
-  // file could not be written.
-  [[nodiscard]] std::error_code MajListeSites();
+  // Rebuilds the file of sites from the page of sites, unless that page has no text. Fails when the file
+  // cannot be written.
+  [[nodiscard]] Result<> MajListeSites();
 
  private:
   void Enregistrer();

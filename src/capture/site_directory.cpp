@@ -23,7 +23,7 @@ std::vector<Text> DeliveredRows() {
   return rows;
 }
 
-std::error_code WriteRows(const std::vector<Text>& rows) {
+Result<> WriteRows(const std::vector<Text>& rows) {
   Text lines;
   for (const Text& row : rows) lines.append(row).append(LineEnd);
   return WriteBytes(FileName, ToCodePage(lines));
@@ -34,7 +34,7 @@ std::error_code WriteRows(const std::vector<Text>& rows) {
 void SiteDirectory::Charger() {
   List1 = DeliveredRows();
   std::error_code error;
-  if (!std::filesystem::exists(FileName, error) && WriteRows(List1)) return;
+  if (!std::filesystem::exists(FileName, error) && WriteRows(List1).Failed()) return;
   const auto lines = ReadLines(FileName);
   if (lines) List1 = RowsOf(*lines);
 }
@@ -60,7 +60,7 @@ Text SiteDirectory::FileTextOf(TextView pageText) {
   return ReplaceAll(ReplaceAll(pageText, u"/ ", u"/\r\n"), u" ", u"   \t");
 }
 
-std::error_code SiteDirectory::MajListeSites(TextView pageText) {
+Result<> SiteDirectory::MajListeSites(TextView pageText) {
   return WriteBytes(FileName, ToCodePage(FileTextOf(pageText)));
 }
 

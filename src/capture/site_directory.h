@@ -1,10 +1,9 @@
 // The directory of job sites, kept in the file Listesites.txt of the data folder.
 #pragma once
 
-#include <system_error>
 #include <vector>
 
-#include "base/text.h"
+#include "base/result.h"
 
 namespace talvor {
 
@@ -27,8 +26,8 @@ class SiteDirectory {
   // What the text of a directory page gives for the file: a run of names and addresses, each address
   // ended by "/" and a blank, becomes a line a site.
   [[nodiscard]] static Text FileTextOf(TextView pageText);
-  // Replaces the file by that. The error, if it could not be written.
-  [[nodiscard]] static std::error_code MajListeSites(TextView pageText);
+  // Replaces the file by that.
+  [[nodiscard]] static Result<> MajListeSites(TextView pageText);
 };
 
 }  // namespace talvor

@@ -50,8 +50,8 @@ fs::path WritePage(CvDocument cv, const std::vector<fs::path>& folders, const fs
   const Text filled =
       FillTemplate(cv, *std::move(page), photo ? PhotoOnPage::Picture : PhotoOnPage::None).append(LineEnd);
   const fs::path file = folder / "CVtemp.html";
-  if (const auto error = WriteBytes(file, ToCodePage(filled)))
-    throw fs::filesystem_error("page", file, error);
+  if (const auto written = WriteBytes(file, ToCodePage(filled)); written.Failed())
+    throw fs::filesystem_error("page", file, written.Code());
   return file;
 }
 
@@ -69,8 +69,8 @@ ExitCode ConvertirCv(const std::string& workspace, const ConvertOptions& options
                        "\u00A0: Le fichier est en cours d'utilisation. Conversion impossible");
   const TemporaryFolder scratch;
   const fs::path page = WritePage(std::move(cv), ModelFolders(workspace, options.file), scratch.Path());
-  const Text fault = office.Export(page, target);
-  if (!fault.empty()) throw CommandError(ToUtf8(fault));
+  const auto exported = office.Export(page, target);
+  if (exported.Failed()) throw CommandError(ToUtf8(exported.Why().Cause()));
   console.out << options.target << '\n';
   return Done;
 }

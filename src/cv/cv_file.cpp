@@ -118,7 +118,7 @@ bool SauvegarderCV(CvDocument& cv, Dialogs& dialogs, Principale& principale) {
   }
   if (cv.NomCV.empty()) cv.NomCV = cv.Nom + u" " + cv.Prénom;
   cv.NomCV = NomPropre(Normaliser(cv.NomCV));
-  if (SaveDocument(CvFile(cv.NomCV), ToCodePage(CvFileText(cv)))) {
+  if (SaveDocument(CvFile(cv.NomCV), ToCodePage(CvFileText(cv))).Failed()) {
     dialogs.Tell(Text{WriteFailedMessage} + cv.NomCV);
     return false;
   }

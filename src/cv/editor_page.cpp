@@ -83,7 +83,7 @@ void FormRédigerCV::VisualisationCV() {
 
   // A page that cannot be written is not shown either; the CV is saved all the same.
   const auto output = ModelFile(u"CVtemp.html");
-  if (!WriteBytes(output, ToCodePage(filled)))
+  if (!WriteBytes(output, ToCodePage(filled)).Failed())
     if (const auto address = TextOf(output)) around_.webBrowser1.Navigate(*address);
 
   if (around_.layOut) around_.layOut();

@@ -1,5 +1,4 @@
 // The part of the editor that changes the photo of a CV.
-#include "base/failure_cause.h"
 #include "base/line_file.h"
 #include "cv/editor.h"
 #include "cv/editor_texts.h"
@@ -32,10 +31,10 @@ void FormRédigerCV::RattacherPhoto() {
   if (!chosen) return;
   auto picture = ReadBytes(*chosen);
   // The bytes are copied as they stand, whatever kind of picture they are.
-  const auto failure = picture ? SaveDocument(PhotoFile(NomCV), *picture) : ReadFailure(*chosen);
-  if (failure)
+  const auto saved = picture ? SaveDocument(PhotoFile(NomCV), *picture) : Result<>(picture.Why());
+  if (saved.Failed())
     return around_.dialogs.Tell(u"La photographie " + Quoted(TextOf(*chosen).value_or(Text{})) +
-                                u" n’a pas pu être copiée\u00A0: " + CauseOf(failure) + u".");
+                                u" n’a pas pu être copiée\u00A0: " + saved.Why().Cause() + u".");
   Photo = *std::move(picture);
   VisualisationCV();
 }

@@ -87,7 +87,7 @@ Text NameFor(const LetterModel& model) {
 bool WriteLetter(const LetterModel& model) {
   // A name can hold neither of these two; elsewhere they would lead to another file.
   if (model.NomLettre.find_first_of(TextView{u"/\0", 2}) != Text::npos) return false;
-  return !SaveDocument(LetterFile(model.NomLettre), ToCodePage(LetterFileText(model)));
+  return !SaveDocument(LetterFile(model.NomLettre), ToCodePage(LetterFileText(model))).Failed();
 }
 
 }  // namespace

@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-#include "base/text.h"
+#include "base/result.h"
 
 namespace talvor {
 
@@ -11,10 +11,10 @@ class PageExporter {
  public:
   virtual ~PageExporter() = default;
   // Writes the page (a file of the workspace) to `target`, whose ending tells the format. A document
-  // of that name is replaced in one step once the new one is complete. Empty when it is written, and
-  // otherwise the reason in French, for the user; the old document stands then.
-  [[nodiscard]] virtual Text Export(const std::filesystem::path& page,
-                                    const std::filesystem::path& target) = 0;
+  // of that name is replaced in one step once the new one is complete. The cause of a failure is a
+  // sentence for the user; the old document stands then.
+  [[nodiscard]] virtual Result<> Export(const std::filesystem::path& page,
+                                        const std::filesystem::path& target) = 0;
 };
 
 // The word processor of the user's machine; writes .doc, .docx, .odt and .pdf.

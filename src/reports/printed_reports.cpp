@@ -114,8 +114,8 @@ std::filesystem::path PrintedReports::WritePage(ReportMode mode) const {
   Database database = Database::Open(clock_);
   const Text page = ReportPage(database, mode, principale_, clock_.Today());
   const std::filesystem::path file = PathOf(environment_.Variable(u"temp")) / "ImpTalvor.html";
-  if (const auto error = WriteBytes(file, ToCodePage(page)))
-    throw std::filesystem::filesystem_error("report", file, error);
+  if (const auto written = WriteBytes(file, ToCodePage(page)); written.Failed())
+    throw std::filesystem::filesystem_error("report", file, written.Code());
   return file;
 }
 

@@ -66,7 +66,7 @@ bool CvConversion::CanConvert(const fs::path& target) {
   return false;
 }
 
-Text CvConversion::Export(PageExporter& exporter, const fs::path& target) const {
+Result<> CvConversion::Export(PageExporter& exporter, const fs::path& target) const {
   const Hourglass hourglass(around_.waitCursor);
   return exporter.Export(*ExistingModelFile(u"CVtemp.html"), target);
 }
@@ -81,10 +81,10 @@ void CvConversion::ConvertirWord() {
   OldVersion old(target);
   if (!old.IsGone()) return around_.dialogs.Tell(InUse);
 
-  const Text fault = Export(around_.wordProcessor, target);
-  if (!fault.empty()) {
+  const auto exported = Export(around_.wordProcessor, target);
+  if (exported.Failed()) {
     old.BringBack();
-    return around_.dialogs.Tell(fault);
+    return around_.dialogs.Tell(exported.Why().Cause());
   }
   old.Forget();
 
@@ -96,8 +96,8 @@ void CvConversion::Replace(TextView ending, PageExporter& exporter) {
   if (!around_.shell.FormeVisible(EditorForm)) return;
   const fs::path target = Target(ending);
   if (!CanConvert(target)) return;
-  const Text fault = Export(exporter, target);
-  if (!fault.empty()) return around_.dialogs.Tell(fault);
+  const auto exported = Export(exporter, target);
+  if (exported.Failed()) return around_.dialogs.Tell(exported.Why().Cause());
   OuvrirDocument(TextOf(target).value_or(Text{}), around_.documents, around_.dialogs);
 }
 

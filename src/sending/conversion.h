@@ -40,7 +40,7 @@ class CvConversion {
  private:
   [[nodiscard]] bool CanConvert(const std::filesystem::path& target);
   [[nodiscard]] std::filesystem::path Target(TextView ending) const;
-  [[nodiscard]] Text Export(PageExporter& exporter, const std::filesystem::path& target) const;
+  [[nodiscard]] Result<> Export(PageExporter& exporter, const std::filesystem::path& target) const;
   void Replace(TextView ending, PageExporter& exporter);
 
   Surroundings around_;

@@ -35,15 +35,15 @@ std::error_code MakePlaceForNewest(const fs::path& document) {
 
 std::error_code Keep(const fs::path& document) {
   const auto bytes = ReadBytes(document);
-  if (!bytes) return ReadFailure(document);
+  if (!bytes) return bytes.Why().Code();
   const fs::path newest = KeptVersion(document, 1);
-  if (ReadBytes(newest) == bytes) return {};
+  if (ReadBytes(newest) == *bytes) return {};
   std::error_code error;
   fs::create_directories(newest.parent_path(), error);
   if (error) return error;
   // The new copy is whole before an old one moves.
   const fs::path arriving = KeptVersion(document, 0);
-  error = WriteBytes(arriving, *bytes);
+  error = WriteBytes(arriving, *bytes).Code();
   if (!error) error = MakePlaceForNewest(document);
   if (!error) fs::rename(arriving, newest, error);
   return error;
@@ -51,8 +51,8 @@ std::error_code Keep(const fs::path& document) {
 
 std::error_code MoveToOtherDisk(const fs::path& from, const fs::path& to) {
   const auto bytes = ReadBytes(from);
-  if (!bytes) return ReadFailure(from);
-  std::error_code error = WriteBytes(to, *bytes);
+  if (!bytes) return bytes.Why().Code();
+  std::error_code error = WriteBytes(to, *bytes).Code();
   if (!error) fs::remove(from, error);
   return error;
 }
@@ -99,13 +99,13 @@ fs::path KeptVersion(const fs::path& document, int age) {
   return workspace_paths::BackupFolder() / document.parent_path().filename() / name;
 }
 
-std::error_code SaveDocument(const fs::path& document, std::string_view bytes) {
+Result<> SaveDocument(const fs::path& document, std::string_view bytes) {
   const auto old = ExistingFile(document);
   std::error_code error = old ? Keep(*old) : std::error_code{};
   if (!error) fs::create_directories(KeptVersion(document, 0).parent_path(), error);
   // Whole before it takes the place of the old one, so that no moment is without the document.
   const fs::path arriving = KeptVersion(document, 0);
-  if (!error) error = WriteBytes(arriving, bytes);
+  if (!error) error = WriteBytes(arriving, bytes).Code();
   if (!error) error = PutInPlace(arriving, document);
   if (error) return error;
   // The old file under a name of other case.
@@ -113,19 +113,18 @@ std::error_code SaveDocument(const fs::path& document, std::string_view bytes) {
   return error;
 }
 
-std::error_code DeleteDocument(const fs::path& document) {
-  if (!IsFile(document)) return std::make_error_code(std::errc::no_such_file_or_directory);
+Result<> DeleteDocument(const fs::path& document) {
+  if (!IsFile(document)) return Failure(std::errc::no_such_file_or_directory);
   std::error_code error = Keep(document);
   if (!error) fs::remove(document, error);
   return error;
 }
 
-std::error_code RenameDocument(const fs::path& from, const fs::path& to) {
+Result<> RenameDocument(const fs::path& from, const fs::path& to) {
   std::error_code error;
-  if (!IsFile(from)) return std::make_error_code(std::errc::no_such_file_or_directory);
+  if (!IsFile(from)) return Failure(std::errc::no_such_file_or_directory);
   const fs::path taken = ExistingFile(to).value_or(to);
-  if (fs::exists(taken, error) && !fs::equivalent(from, taken, error))
-    return std::make_error_code(std::errc::file_exists);
+  if (fs::exists(taken, error) && !fs::equivalent(from, taken, error)) return Failure(std::errc::file_exists);
   fs::rename(from, to, error);
   return error == std::errc::cross_device_link ? MoveToOtherDisk(from, to) : error;
 }

@@ -5,8 +5,8 @@
 #include <filesystem>
 #include <optional>
 #include <string_view>
-#include <system_error>
 
+#include "base/result.h"
 #include "base/text.h"
 
 namespace talvor {
@@ -29,17 +29,16 @@ inline constexpr std::chrono::minutes KeptVersionsApart{10};
 
 // Writes a document anew in the place of the old file, whatever the case of its name. Before that the
 // old version joins the five kept ones and pushes one of them out; one that is kept already is not kept
-// twice. The error, if any step failed: the old file then stands as it was.
-[[nodiscard]] std::error_code SaveDocument(const std::filesystem::path& document, std::string_view bytes);
+// twice. When a step fails the old file stands as it was.
+[[nodiscard]] Result<> SaveDocument(const std::filesystem::path& document, std::string_view bytes);
 
-// Deletes a document, whose last version joins the kept ones before. The error, if any step failed; a
-// version that cannot be kept is not deleted.
-[[nodiscard]] std::error_code DeleteDocument(const std::filesystem::path& document);
+// Deletes a document, whose last version joins the kept ones before; a version that cannot be kept
+// is not deleted.
+[[nodiscard]] Result<> DeleteDocument(const std::filesystem::path& document);
 
 // Gives a file another name, in its folder or elsewhere, on another disk as well. A name that is taken,
-// in whatever case, is refused; the file itself may change the case of its name. The error, if any step
-// failed; the file then stands where it was.
-[[nodiscard]] std::error_code RenameDocument(const std::filesystem::path& from,
-                                             const std::filesystem::path& to);
+// in whatever case, is refused; the file itself may change the case of its name. When a step fails the file
+// stands where it was.
+[[nodiscard]] Result<> RenameDocument(const std::filesystem::path& from, const std::filesystem::path& to);
 
 }  // namespace talvor

@@ -34,7 +34,7 @@ class Samples : public testing::TestWithParam<std::string> {};
 
 TEST_P(Samples, GiveTheirFields) {
   const fs::path sample = fs::path{TALVOR_TEST_DATA} / "annonces" / GetParam();
-  Text texte = WithCrLf(*FromUtf8(ReadBytes(sample).value()));
+  Text texte = WithCrLf(*FromUtf8(*ReadBytes(sample)));
   AdFields record;
   AnalyserAnnonce(texte, record, {.today = *DayOf({2026, 11, 22})});
   const std::string printed = Printed(record);

@@ -14,8 +14,8 @@ namespace fs = std::filesystem;
 // The real steps, counted.
 class CountedSteps : public CopySteps {
  public:
-  std::error_code CopyFile(const fs::path& from, const fs::path& to,
-                           const std::function<bool(std::uintmax_t)>& onBytes) override {
+  Result<> CopyFile(const fs::path& from, const fs::path& to,
+                    const std::function<bool(std::uintmax_t)>& onBytes) override {
     ++files;
     return refuse ? std::make_error_code(std::errc::io_error) : CopySteps::CopyFile(from, to, onBytes);
   }
@@ -28,7 +28,7 @@ class FolderCopyTest : public testing::Test {
  protected:
   FolderCopyTest() {
     fs::create_directories("a/CV");
-    EXPECT_FALSE(WriteBytes("a/CV/cv.dat", "cv"));
+    EXPECT_FALSE(WriteBytes("a/CV/cv.dat", "cv").Failed());
   }
   // What the copy is refused with, empty when it has been made.
   Text Refusal(const fs::path& source, const fs::path& destination) {
@@ -56,7 +56,7 @@ TEST_F(FolderCopyTest, AFolderIsNotCopiedIntoItselfUnderWhateverName) {
 
 TEST_F(FolderCopyTest, LinksAreFollowedAndOnesThatLeadBackEndThere) {
   fs::create_directory("ailleurs");
-  ASSERT_FALSE(WriteBytes("ailleurs/f", "f"));
+  ASSERT_FALSE(WriteBytes("ailleurs/f", "f").Failed());
   fs::create_directory_symlink("../../ailleurs", "a/CV/lien");
   fs::create_directory_symlink("..", "a/CV/tour");
   EXPECT_EQ(Refusal("a", "b"), u"");
@@ -80,7 +80,7 @@ TEST_F(FolderCopyTest, WhatIsNoOrdinaryFileIsNamedAndNothingIsCopied) {
 TEST_F(FolderCopyTest, ADiskWithoutTheRoomIsToldBeforeTheFirstByte) {
   // A file of nothing but a hole takes no room itself.
   const std::uintmax_t room = fs::space(".").available;
-  ASSERT_FALSE(WriteBytes("a/trou", ""));
+  ASSERT_FALSE(WriteBytes("a/trou", "").Failed());
   fs::resize_file("a/trou", room + 10'000'000'000);
   steps.refuse = true;
   const Text told = Refusal("a", "absent/b");

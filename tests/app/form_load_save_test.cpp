@@ -23,8 +23,8 @@ using namespace std::string_literals;
 // The real steps, one of which fails: the `failAt`-th copy or, counted on from there, renaming.
 class FailingSteps : public CopySteps {
  public:
-  std::error_code CopyFile(const fs::path& from, const fs::path& to,
-                           const std::function<bool(std::uintmax_t)>& onBytes) override {
+  Result<> CopyFile(const fs::path& from, const fs::path& to,
+                    const std::function<bool(std::uintmax_t)>& onBytes) override {
     copied.insert(from);
     if (Fails()) return Failure();
     if (!byLinks) return CopySteps::CopyFile(from, to, onBytes);
@@ -32,10 +32,10 @@ class FailingSteps : public CopySteps {
     fs::create_hard_link(from, to, error);
     return error;
   }
-  std::error_code Put(const fs::path& from, const fs::path& to) override {
+  Result<> Put(const fs::path& from, const fs::path& to) override {
     return Fails() ? Failure() : CopySteps::Put(from, to);
   }
-  std::error_code Settle(const fs::path&) override { return {}; }
+  Result<> Settle(const fs::path&) override { return {}; }
 
   int failAt = 0;
   int step = 0;

@@ -50,7 +50,7 @@ class OfficePageTest : public testing::Test {
 };
 
 TEST_F(OfficePageTest, ThePhotoStandsInThePageWithTheHeightOfItsProportions) {
-  ASSERT_FALSE(WriteBytes("Photo.jpg", Png));
+  ASSERT_FALSE(WriteBytes("Photo.jpg", Png).Failed());
   const std::string page =
       Page(u"<p>a<IMG STYLE='border: 1.00pt solid #123456; padding: 0.05cm' SRC='Photo.jpg' WIDTH=100>b</p>");
   const std::string before =
@@ -62,7 +62,7 @@ TEST_F(OfficePageTest, ThePhotoStandsInThePageWithTheHeightOfItsProportions) {
 }
 
 TEST_F(OfficePageTest, NothingElseIsReadFromDiskOrNetwork) {
-  ASSERT_FALSE(WriteBytes("Photo.jpg", "no picture"));
+  ASSERT_FALSE(WriteBytes("Photo.jpg", "no picture").Failed());
   for (const TextView page :
        {u"<img src='http://a/b.png'>", u"<IMG SRC=/etc/x.png>", u"<img src='../Photo.jpg'>",
         u"<img src='Photo.jpg'>", u"<img>", u"<img src='absent.png'", u"<link rel=stylesheet href=x>",
@@ -92,7 +92,7 @@ TEST_F(OfficePageTest, APictureOutsideTheFolderOfThePageStaysOut) {
   fs::create_directories("Modeles/Autre");
   for (const char* file :
        {"Photo.jpg", "Modeles/Photo.jpg", "Modeles/Autre/Photo.jpg", "Modeles/.\\Photo.jpg"})
-    ASSERT_FALSE(WriteBytes(file, Png));
+    ASSERT_FALSE(WriteBytes(file, Png).Failed());
   const auto page = [](const Text& source) { return OfficePage(u"<img src='" + source + u"'>", "Modeles"); };
   EXPECT_NE(page(u"Photo.jpg"), "");
   for (const Text& source : {Text{u"../Photo.jpg"}, Text{u"Autre/../../Photo.jpg"}, Text{u"Autre/Photo.jpg"},
@@ -145,10 +145,15 @@ TEST_F(ProcessTest, BeyondTheLimitTheProgramGoesWithAllItHasStarted) {
 class LibreOfficeTest : public ProcessTest {
  protected:
   LibreOfficeTest() {
-    EXPECT_FALSE(WriteBytes("page.html", "<p>Bonjour \xE9</p>"));
-    EXPECT_FALSE(WriteBytes("cv.doc", "old"));
+    EXPECT_FALSE(WriteBytes("page.html", "<p>Bonjour \xE9</p>").Failed());
+    EXPECT_FALSE(WriteBytes("cv.doc", "old").Failed());
   }
-  Text Export() { return office.Export("page.html", scratch.Path() / "cv.doc"); }
+  // What the export says of its failure, nothing when it has worked.
+  Text Fault(const fs::path& page, const fs::path& target) {
+    const auto exported = office.Export(page, target);
+    return exported.Failed() ? exported.Why().Cause() : Text{};
+  }
+  Text Export() { return Fault("page.html", scratch.Path() / "cv.doc"); }
   static std::string Target() { return ReadBytes("cv.doc").value_or("(missing)"); }
   // What else a conversion leaves behind in the folder of its target.
   static std::ptrdiff_t Left() {
@@ -174,8 +179,8 @@ TEST_F(LibreOfficeTest, AFailureOfAnyKindIsToldInFrenchAndLeavesTheOldDocument) 
   }
   office.program = Script("echo 'Error: no export filter' >&2; exit 1");
   EXPECT_EQ(Export(), u"LibreOffice n’a pas pu convertir le CV\u00A0: Error: no export filter");
-  EXPECT_TRUE(Contains(office.Export("absent.html", "cv.doc"), u"introuvable"));
-  EXPECT_EQ(office.Export("page.html", "absent/cv.doc"),
+  EXPECT_TRUE(Contains(Fault("absent.html", "cv.doc"), u"introuvable"));
+  EXPECT_EQ(Fault("page.html", "absent/cv.doc"),
             u"Le document n’a pas pu être écrit dans le dossier «\u00A0absent\u00A0»\u00A0: ce fichier ou ce "
             u"dossier n’existe pas.");
 }
@@ -214,7 +219,7 @@ TEST_F(LibreOfficeTest, ADocumentWrittenHalfwayNeverBearsTheName) {
 TEST_F(LibreOfficeTest, ADocumentIsInUseWhileItsLockStandsBesideIt) {
   const fs::path target = scratch.Path() / "cv.doc";
   EXPECT_FALSE(office.HasOpen(target));
-  ASSERT_FALSE(WriteBytes(".~lock.cv.doc#", ""));
+  ASSERT_FALSE(WriteBytes(".~lock.cv.doc#", "").Failed());
   EXPECT_TRUE(office.HasOpen(target));
 }
 

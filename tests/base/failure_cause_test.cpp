@@ -4,6 +4,8 @@
 
 #include <new>
 
+#include "base/result.h"
+
 namespace talvor {
 namespace {
 
@@ -22,6 +24,16 @@ TEST(FailureCause, EveryFailureIsReportedInFrench) {
 
 TEST(FailureCause, ACauseWithoutWordsIsToldByItsNumber) {
   EXPECT_EQ(CauseOf({ECHILD, std::generic_category()}), u"erreur n°\u00A010");
+}
+
+TEST(Results, AFailedStepTellsItsCauseAndACodeOfNoErrorIsNoFailure) {
+  EXPECT_FALSE(Result<>(std::error_code{}).Failed());
+  EXPECT_EQ(Result<>(std::make_error_code(std::errc::permission_denied)).Why().Cause(),
+            u"l’accès est refusé");
+  const Result<int> own = Failure(u"La page manque.");
+  EXPECT_TRUE(own.Failed());
+  EXPECT_EQ(own.Why().Cause(), u"La page manque.");
+  EXPECT_FALSE(own == Result<int>(0));
 }
 
 }  // namespace

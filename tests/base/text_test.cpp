@@ -112,15 +112,14 @@ TEST(Lines, EndAtCrOrCrLfAndAtLfOnlyWithoutAnyCr) {
 
 TEST(Files, WritingReplacesTheOldFileAndAFailureSaysSo) {
   const ScratchFolder scratch;
-  EXPECT_FALSE(WriteBytes("a.dat", "un texte assez long"));
-  EXPECT_FALSE(WriteBytes("a.dat", "court"));
+  EXPECT_FALSE(WriteBytes("a.dat", "un texte assez long").Failed());
+  EXPECT_FALSE(WriteBytes("a.dat", "court").Failed());
   EXPECT_EQ(ReadBytes("a.dat"), "court");
-  EXPECT_TRUE(WriteBytes("absent/a.dat", "x"));
-  EXPECT_FALSE(ReadBytes("absent").has_value());
-  EXPECT_FALSE(ReadBytes(".").has_value()) << "a folder is no file";
+  EXPECT_TRUE(WriteBytes("absent/a.dat", "x").Failed());
+  EXPECT_TRUE(ReadBytes("absent").Failed());
+  EXPECT_TRUE(ReadBytes(".").Failed()) << "a folder is no file";
   std::filesystem::resize_file("a.dat", LargestFile + 1);
-  EXPECT_FALSE(ReadBytes("a.dat").has_value());
-  EXPECT_EQ(ReadFailure("a.dat"), std::errc::file_too_large);
+  EXPECT_EQ(ReadBytes("a.dat").Why().Code(), std::errc::file_too_large);
 }
 
 TEST(Files, APipeOfThatNameIsNoFileAndHoldsNobodyUp) {
@@ -130,7 +129,7 @@ TEST(Files, APipeOfThatNameIsNoFileAndHoldsNobodyUp) {
   const auto end = reading.wait_for(std::chrono::seconds(5));
   ::close(::open("tube", O_RDWR | O_NONBLOCK));  // lets go of one who waits for the other end
   EXPECT_EQ(end, std::future_status::ready);
-  EXPECT_FALSE(reading.get().has_value());
+  EXPECT_TRUE(reading.get().Failed());
 }
 
 }  // namespace

@@ -100,7 +100,7 @@ TEST(StartPage, LinksEverySiteAndLetsNoRowBreakItsMarkup) {
 
 TEST(SiteDirectory, APageOfSitesBecomesTheFile) {
   const ScratchFolder scratch;
-  EXPECT_FALSE(SiteDirectory::MajListeSites(u"UN http://a.example/ DEUX MOTS http://b.example/"));
+  EXPECT_FALSE(SiteDirectory::MajListeSites(u"UN http://a.example/ DEUX MOTS http://b.example/").Failed());
   EXPECT_EQ(ReadBytes("Listesites.txt"), "UN   \thttp://a.example/\r\nDEUX   \tMOTS   \thttp://b.example/");
   SiteDirectory directory;
   directory.Charger();

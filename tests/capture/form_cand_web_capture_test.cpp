@@ -237,7 +237,8 @@ TEST_F(WebTest, AKnownFormIsFilledWhileTheApplyFormIsOnScreen) {
 }
 
 TEST_F(WebTest, TheDirectoryLeadsThePane) {
-  ASSERT_FALSE(WriteBytes("Listesites.txt", "UN DEUX   http://a.example/?u=http://b/\r\nsans/http\r\n"));
+  ASSERT_FALSE(
+      WriteBytes("Listesites.txt", "UN DEUX   http://a.example/?u=http://b/\r\nsans/http\r\n").Failed());
   web.Charger();
   web.ClicImage6();
   EXPECT_TRUE(web.List1Visible);
@@ -261,15 +262,15 @@ TEST_F(WebTest, TheDirectoryLeadsThePane) {
 TEST_F(WebTest, TheFileOfSitesIsRebuiltFromItsPage) {
   const Text page = principale.AdresseWeb + u"listesites.htm";
   browser.pages[page] = {.text = u"UN http://a.example/ DEUX http://b.example/", .loading = 2};
-  EXPECT_FALSE(web.MajListeSites());
+  EXPECT_FALSE(web.MajListeSites().Failed());
   EXPECT_EQ(ReadBytes("Listesites.txt"), "UN   \thttp://a.example/\r\nDEUX   \thttp://b.example/");
   browser.pages[page] = {.text = u"", .loading = -1};
   shell.whileWaiting = [this] { web.Arreter(); };
-  EXPECT_FALSE(web.MajListeSites());
+  EXPECT_FALSE(web.MajListeSites().Failed());
   EXPECT_NE(ReadBytes("Listesites.txt"), "") << "a page that never came replaces nothing";
   browser.pages[page].loading = 1;
   shell.whileWaiting = {};
-  EXPECT_FALSE(web.MajListeSites());
+  EXPECT_FALSE(web.MajListeSites().Failed());
   EXPECT_NE(ReadBytes("Listesites.txt"), "") << "nor does one that could not be loaded";
 }
 

@@ -21,7 +21,7 @@ class CvFiles : public testing::Test {
   CvFiles() { fs::create_directories("CV"); }
 
   CvDocument Read(std::string_view bytes) {
-    EXPECT_FALSE(WriteBytes("CV/essai.dat", bytes));
+    EXPECT_FALSE(WriteBytes("CV/essai.dat", bytes).Failed());
     CvDocument cv;
     EXPECT_TRUE(ReadCv("CV/essai.dat", cv));
     return cv;
@@ -244,7 +244,7 @@ TEST_F(CvFiles, ARunOfSavesDoesNotPushOutWhatStoodBeforeIt) {
 }
 
 TEST_F(CvFiles, AnotherCaseOfTheNameIsTheSameFile) {
-  ASSERT_FALSE(WriteBytes("CV/DUPONT MARIE.dat", "Nom=ancien\r\n"));
+  ASSERT_FALSE(WriteBytes("CV/DUPONT MARIE.dat", "Nom=ancien\r\n").Failed());
   CvDocument cv;
   cv.NomCV = u"dupont marie";
   EXPECT_TRUE(Save(cv));
@@ -260,9 +260,9 @@ TEST_F(CvFiles, AFailedSaveIsToldAndLosesNothing) {
   EXPECT_EQ(dialogs_.told.back(), u"Pb lors de l'enregistrement du CV : A/b");
   EXPECT_EQ(principale_.ImageMenu[0].picture, SlotPicture::None) << "the menu is not rebuilt";
 
-  ASSERT_FALSE(WriteBytes("CV/Essai.dat", "Nom=ancien\r\n"));
+  ASSERT_FALSE(WriteBytes("CV/Essai.dat", "Nom=ancien\r\n").Failed());
   std::filesystem::remove_all("Sauvegardes");
-  ASSERT_FALSE(WriteBytes("Sauvegardes", "a file where the folder should be"));
+  ASSERT_FALSE(WriteBytes("Sauvegardes", "a file where the folder should be").Failed());
   cv.NomCV = u"Essai";
   EXPECT_FALSE(Save(cv));
   EXPECT_EQ(ReadBytes("CV/Essai.dat"), "Nom=ancien\r\n") << "what cannot be kept is not deleted";

@@ -24,7 +24,9 @@ class Editor : public testing::Test {
     clock_.today = *DayOf({2026, 6, 15});
   }
 
-  static void Write(const fs::path& file, std::string_view bytes) { ASSERT_FALSE(WriteBytes(file, bytes)); }
+  static void Write(const fs::path& file, std::string_view bytes) {
+    ASSERT_FALSE(WriteBytes(file, bytes).Failed());
+  }
   static std::string Page() { return ReadBytes("Modeles/CVtemp.html").value_or("no page"); }
 
   // Runs what the user does and tells how many renders it made.

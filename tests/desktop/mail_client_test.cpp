@@ -73,7 +73,7 @@ class MailClientTest : public testing::Test {
 
   Text File(TextView name, const char* bytes = "x") {
     const fs::path file = scratch.Path() / PathOf(name);
-    EXPECT_FALSE(WriteBytes(file, bytes));
+    EXPECT_FALSE(WriteBytes(file, bytes).Failed());
     return *TextOf(file);
   }
   bool Send(TextView to, TextView subject, Text text, TextView pieces = {}) {

@@ -29,7 +29,7 @@ class SendingWindowTest : public DesktopTest {
   ~SendingWindowTest() override { qunsetenv("MAILER"); }
 
   static void Write(TextView file, TextView text) {
-    ASSERT_FALSE(WriteBytes(PathOf(file), ToCodePage(text)));
+    ASSERT_FALSE(WriteBytes(PathOf(file), ToCodePage(text)).Failed());
   }
   // The user's mail client, which refuses or takes the message.
   void Client(const char* outcome) {
@@ -248,9 +248,11 @@ TEST_F(ConvertWindowTest, APdfThatNoProgramOpensIsToldWithItsPlace) {
 TEST_F(ConvertWindowTest, APdfThatCannotBeWrittenLeavesTheOldOne) {
   std::ofstream(Converted("Riche.pdf")) << "old";
   PagePdf printer;
-  EXPECT_TRUE(Contains(printer.Export("absent.html", Converted("Riche.pdf")), u"pas pu être lue"));
   EXPECT_TRUE(
-      Contains(printer.Export("Modeles/CVtemp.html", scratch.Path() / "absent" / "a.pdf"), u"n’existe pas"));
+      Contains(printer.Export("absent.html", Converted("Riche.pdf")).Why().Cause(), u"pas pu être lue"));
+  EXPECT_TRUE(
+      Contains(printer.Export("Modeles/CVtemp.html", scratch.Path() / "absent" / "a.pdf").Why().Cause(),
+               u"n’existe pas"));
   EXPECT_EQ(ReadBytes(Converted("Riche.pdf")), "old");
 }
 

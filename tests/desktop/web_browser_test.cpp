@@ -409,7 +409,7 @@ TEST_F(BrowserTest, TheListOfSitesServesTheKeyboardAndTheMouse) {
 TEST_F(BrowserTest, TheDirectoryIsRebuiltFromTheDeliveredPage) {
   std::filesystem::copy_file(TALVOR_DATA_FOLDER "/listesites.htm", "listesites.htm");
   desktop->Model().AdresseWeb = StartPage;
-  EXPECT_FALSE(Web().MajListeSites());
+  EXPECT_FALSE(Web().MajListeSites().Failed());
   SiteDirectory rebuilt;
   rebuilt.Charger();
   EXPECT_GE(rebuilt.List1.size(), 195u + 20u);

@@ -50,9 +50,9 @@ class FakeMailClient : public MailClient {
 // Writes the bytes of the page and the name of the format, as a conversion of a kind.
 class FakeWordProcessor : public WordProcessor {
  public:
-  Text Export(const std::filesystem::path& page, const std::filesystem::path& target) override {
+  Result<> Export(const std::filesystem::path& page, const std::filesystem::path& target) override {
     stoodBefore = std::filesystem::exists(target);
-    if (!fault.empty()) return fault;
+    if (!fault.empty()) return Failure(fault);
     std::ofstream(target, std::ios::binary) << target.extension().string() << ' ' << *ReadBytes(page);
     return {};
   }

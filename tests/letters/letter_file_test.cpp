@@ -87,7 +87,7 @@ TEST_F(LetterFileTest, EmptyBinaryAndHugeFilesAreRead) {
   model.Nom = u"Durand";
   for (const std::string& bytes : {std::string{}, std::string{"\x00\xFF\r\x81=\r\n9:=", 11},
                                    std::string(5'000'000, '1'), "Objet" + std::string(5'000'000, ':')}) {
-    EXPECT_FALSE(WriteBytes("Lettres/x.dat", bytes));
+    EXPECT_FALSE(WriteBytes("Lettres/x.dat", bytes).Failed());
     EXPECT_TRUE(ReadLetter("Lettres/x.dat", model));
     EXPECT_EQ(model.Nom, u"Durand");
   }

@@ -21,7 +21,7 @@ class LettersTest : public testing::Test {
   }
 
   static std::filesystem::path Write(const std::filesystem::path& file, TextView text) {
-    EXPECT_FALSE(WriteBytes(file, ToCodePage(text)));
+    EXPECT_FALSE(WriteBytes(file, ToCodePage(text)).Failed());
     return file;
   }
 

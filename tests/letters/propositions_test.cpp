@@ -129,7 +129,7 @@ TEST(PropositionsOfAnEditor, AreReadInUtf8AsWell) {
                                   "\xEF\xBB\xBF"
                                   "1;prêt\n1;à l’œuvre\n",
                                   "1;pr\xEAt\r\n1;\xE0 l\x92\x9Cuvre\r\n"}) {
-    ASSERT_FALSE(WriteBytes("propositions.txt", bytes));
+    ASSERT_FALSE(WriteBytes("propositions.txt", bytes).Failed());
     Propositions table;
     table.Load();
     EXPECT_EQ(table.Next(0, u""), u"à l’œuvre") << bytes;

@@ -114,7 +114,7 @@ TEST_F(ReportsTest, ThePageIsWrittenInTheCodePageAndPreviewedOnceComplete) {
   Insert({.Intitule = u"Éclusier \U0001F603"});
   std::ofstream{"ImpTalvor.html"} << "ancien";
   reports.ImprimerListe(ReportMode::Liste);
-  const std::string page = ReadBytes("ImpTalvor.html").value();
+  const std::string page = *ReadBytes("ImpTalvor.html");
   EXPECT_NE(page.find("\xC9"
                       "clusier &#128515;"),
             std::string::npos);

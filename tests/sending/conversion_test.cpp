@@ -29,7 +29,9 @@ class ConversionTest : public testing::Test {
     shell.visible.emplace(EditorForm);
   }
 
-  static void Write(const fs::path& file, const char* bytes) { ASSERT_FALSE(WriteBytes(file, bytes)); }
+  static void Write(const fs::path& file, const char* bytes) {
+    ASSERT_FALSE(WriteBytes(file, bytes).Failed());
+  }
   static std::string Bytes(const fs::path& file) { return ReadBytes(file).value_or("(missing)"); }
   fs::path Documents(const char* name) { return scratch.Path() / "Documents" / name; }
   static std::vector<Text> Names(const fs::path& folder) {

@@ -55,7 +55,7 @@ class FormPostulerTest : public testing::Test {
   }
 
   static void Write(TextView file, TextView text = {}) {
-    ASSERT_FALSE(WriteBytes(PathOf(file), ToCodePage(text)));
+    ASSERT_FALSE(WriteBytes(PathOf(file), ToCodePage(text)).Failed());
   }
   static void Model(TextView name) {
     Write(u"Lettres/" + Text{name}, u"Text1=" + Text{name} +

@@ -13,7 +13,7 @@ class MailTest : public testing::Test {
   // A document in the scratch folder, by its full path.
   Text File(TextView name) {
     const auto file = scratch.Path() / PathOf(name);
-    EXPECT_FALSE(WriteBytes(file, "x"));
+    EXPECT_FALSE(WriteBytes(file, "x").Failed());
     return *TextOf(file);
   }
   bool Send(TextView pieces) { return EnvoyerParMAPI(client, u"a@b.fr", u"Objet", texte, pieces); }

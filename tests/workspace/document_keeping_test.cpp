@@ -13,7 +13,7 @@ namespace fs = std::filesystem;
 TEST(DocumentKeeping, ANameThatIsAWholePathStaysInTheFolder) {
   const ScratchFolder scratch;
   fs::create_directory("CV");
-  ASSERT_FALSE(WriteBytes("secret.dat", "x"));
+  ASSERT_FALSE(WriteBytes("secret.dat", "x").Failed());
   const auto absolute = TextOf(scratch.Path() / "secret.dat");
   EXPECT_EQ(ExistingFile(FileIn("CV", *absolute)), std::nullopt);
   EXPECT_EQ(ToUtf8(*TextOf(FileIn("CV", *absolute))), "CV/" + ToUtf8(*absolute));

@@ -17,7 +17,7 @@ class DocumentsFolderTest : public testing::Test {
   Text Profile() const { return *TextOf(scratch.Path()); }
   static void Write(const fs::path& file) {
     fs::create_directories(file.parent_path());
-    ASSERT_FALSE(WriteBytes(file, "x"));
+    ASSERT_FALSE(WriteBytes(file, "x").Failed());
   }
 
   ScratchFolder scratch;

@@ -136,7 +136,7 @@ std::optional<fs::path> LeaveMessage(const PreparedMail& mail, const fs::path& f
     const Text number = copy == 1 ? Text{} : u" (" + NumberText(copy) + u")";
     const fs::path file = FileIn(folder, stem + number + u".eml");
     if (fs::exists(fs::symlink_status(file, error))) continue;
-    if (WriteBytes(file, MimeOf(mail))) return std::nullopt;
+    if (WriteBytes(file, MimeOf(mail)).Failed()) return std::nullopt;
     return file;
   }
   return std::nullopt;

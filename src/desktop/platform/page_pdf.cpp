@@ -63,23 +63,24 @@ QByteArray Printed(CvPageView& view) {
 
 }  // namespace
 
-Text PagePdf::Export(const fs::path& page, const fs::path& target) {
+Result<> PagePdf::Export(const fs::path& page, const fs::path& target) {
   const auto source = TextOf(fs::absolute(page));
   CvPageView view(nullptr);
   view.resize(800, 1000);  // wide enough for the page at its own size
-  if (!source || !Shown(view, ToQt(*source))) return u"La page du CV n’a pas pu être lue.";
+  if (!source || !Shown(view, ToQt(*source))) return Failure(u"La page du CV n’a pas pu être lue.");
   try {
     // Beside the target, so that the whole document takes its name in one step.
     const TemporaryFolder outcome(target.parent_path());
     const fs::path made = outcome.Path() / "cv.pdf";
     const QByteArray document = Printed(view);
-    if (document.isEmpty()) return u"La page du CV n’a pas pu être imprimée en PDF.";
-    if (const auto fault = WriteBytes(made, document.toStdString()))
-      throw fs::filesystem_error({}, made, fault);
+    if (document.isEmpty()) return Failure(u"La page du CV n’a pas pu être imprimée en PDF.");
+    if (const auto written = WriteBytes(made, document.toStdString()); written.Failed())
+      throw fs::filesystem_error({}, made, written.Code());
     fs::rename(made, target);
   } catch (const fs::filesystem_error& fault) {
-    return u"Le document n’a pas pu être écrit dans le dossier «\u00A0" +
-           TextOf(target.parent_path()).value_or(Text{}) + u"\u00A0»\u00A0: " + CauseOf(fault.code()) + u".";
+    return Failure(u"Le document n’a pas pu être écrit dans le dossier " +
+                   Quoted(TextOf(target.parent_path()).value_or(Text{})) + u"\u00A0: " +
+                   CauseOf(fault.code()) + u".");
   }
   return {};
 }

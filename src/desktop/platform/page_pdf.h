@@ -8,7 +8,8 @@ namespace talvor {
 class PagePdf : public PageExporter {
  public:
   // The interface takes no input meanwhile.
-  [[nodiscard]] Text Export(const std::filesystem::path& page, const std::filesystem::path& target) override;
+  [[nodiscard]] Result<> Export(const std::filesystem::path& page,
+                                const std::filesystem::path& target) override;
 };
 
 }  // namespace talvor
