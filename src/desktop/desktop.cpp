@@ -375,9 +375,9 @@ bool Desktop::LoadPrincipale() {
 }
 
 bool Desktop::Start() {
-  const QSize screen = QGuiApplication::primaryScreen()->size();
+  const QScreen& screen = *QGuiApplication::primaryScreen();
   shell_.Show(SplashForm);
-  return depart_.Charger({screen.width(), screen.height()},
+  return depart_.Charger({screen.size().width(), screen.size().height(), screen.devicePixelRatio()},
                          {.prepareFolder = [this] { PreparerDossier(environment_); },
                           .showPrincipale = [this] { return LoadPrincipale(); },
                           .principaleWidth = [this] { return main_->width(); },

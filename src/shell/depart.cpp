@@ -9,14 +9,20 @@ constexpr TextView SmallScreen =
 
 }  // namespace
 
+bool IsTooSmall(const ScreenSize& screen) {
+  constexpr int MinWidth = 15000;  // twips
+  constexpr int MinHeight = 11000;
+  const bool roomForWindow =
+      screen.width >= RoomForPrincipale.width && screen.height >= RoomForPrincipale.height;
+  const double twips = TwipsPerPixel * (roomForWindow ? screen.zoom : 1);
+  return screen.height * twips < MinHeight || screen.width * twips < MinWidth;
+}
+
 Depart::Depart(Dialogs& dialogs, Shell& shell) : dialogs_(dialogs), shell_(shell) {}
 
 bool Depart::Charger(ScreenSize screen, const Steps& steps) {
   // The check only warns.
-  constexpr int MinWidth = 15000;
-  constexpr int MinHeight = 11000;
-  if (screen.height * TwipsPerPixel < MinHeight || screen.width * TwipsPerPixel < MinWidth)
-    dialogs_.Tell(SmallScreen);
+  if (IsTooSmall(screen)) dialogs_.Tell(SmallScreen);
 
   steps.prepareFolder();
   PlaySplash(steps);

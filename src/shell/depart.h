@@ -9,10 +9,20 @@
 
 namespace talvor {
 
+// A screen as the windows see it, in units of the layout: its pixels divided by the system's zoom.
 struct ScreenSize {
-  int width = 0;  // pixels
+  int width = 0;
   int height = 0;
+  double zoom = 1;  // 1.5 at 150 %
 };
+
+// What the smallest main window needs, with its frame, in units of the layout.
+inline constexpr ScreenSize RoomForPrincipale{860, 480};
+
+// Whether the screen is too small for the warning to be spared. Its least definition is told in pixels, so
+// the pixels of the screen are counted: a Full-HD screen stays one at 125 to 200 %, where what does not fit
+// scrolls. Where the zoom leaves too little for the main window itself, the units that are left are counted.
+[[nodiscard]] bool IsTooSmall(const ScreenSize& screen);
 
 class Depart {
  public:

@@ -119,6 +119,25 @@ TEST_F(DepartTest, ASmallScreenIsToldAndAMissingBaseEndsTheStart) {
   EXPECT_EQ(std::count(shell.calls.begin(), shell.calls.end(), u"Load AssistantTexte"), 0);
 }
 
+TEST(Depart, AFullHdScreenIsNoSmallOneAtAnyUsualZoom) {
+  struct Case {
+    ScreenSize screen;
+    bool small;
+    const char* what;
+  };
+  for (const auto& [screen, small, what] : {Case{{1536, 864, 1.25}, false, "Full HD at 125 %"},
+                                            {{1280, 720, 1.5}, false, "Full HD at 150 %"},
+                                            {{1097, 617, 1.75}, false, "Full HD at 175 %"},
+                                            {{960, 540, 2}, false, "Full HD at 200 %"},
+                                            {{910, 512, 1.5}, false, "1366x768 at 150 %"},
+                                            {{1280, 720, 1}, true, "1280x720, not zoomed"},
+                                            {{800, 600, 1}, true, "800x600"},
+                                            {{640, 480, 1.25}, true, "800x600 at 125 %"},
+                                            {{683, 384, 2}, true, "1366x768 with no room for the window"},
+                                            {{640, 360, 3}, true, "Full HD with no room for the window"}})
+    EXPECT_EQ(IsTooSmall(screen), small) << what;
+}
+
 TEST_F(ShellTest, TheMenuClosesTheFormsUnlessTheAssistantStands) {
   MainMenu menu(shell);
   shell.visible = {u"Assistant"};
