@@ -2,11 +2,14 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QFontDatabase>
 #include <QGuiApplication>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QPainter>
 #include <QPalette>
+#include <QRegularExpression>
+#include <QScreen>
 #include <QStyle>
 #include <QStyleFactory>
 #include <QStyleHints>
@@ -23,6 +26,22 @@ namespace {
 QByteArray ReadResource(const QString& path) {
   QFile file(path);
   return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+constexpr int UsualFont = 13;  // pixels
+
+// The sheet is written for text of the usual size: its letters, and the least heights around them, grow.
+QString WithTextSizes(const QString& sheet) {
+  static const QRegularExpression length(QStringLiteral("(font-size|min-height): (\\d+)px"));
+  QString sized;
+  qsizetype behind = 0;
+  for (auto found = length.globalMatch(sheet); found.hasNext();) {
+    const QRegularExpressionMatch match = found.next();
+    sized += sheet.mid(behind, match.capturedStart(2) - behind) +
+             QString::number(TextPixels(match.captured(2).toInt()));
+    behind = match.capturedEnd(2);
+  }
+  return sized + sheet.mid(behind);
 }
 
 // The picture with an empty strip on its right.
@@ -59,6 +78,11 @@ constexpr std::array<Role, 13> Roles{{
 
 }  // namespace
 
+// The font of the application is the measure: every widget has it at hand.
+int TextPixels(int usual) {
+  return (usual * std::max(UsualFont, QApplication::font().pixelSize()) + UsualFont / 2) / UsualFont;
+}
+
 Theme::Theme(QObject* parent) : QObject(parent) {
   InitResources();
   const QJsonObject palettes =
@@ -90,7 +114,24 @@ Theme::Palette Theme::Preferred() {
              : Palette::Light;
 }
 
+// Desktops enlarge text in two ways: by more dots to the inch, or by a font of more points. What they start
+// with lies between 9 and 11 points.
+double Theme::DesktopTextScale() {
+  constexpr double UsualDots = 96;
+  constexpr double UsualPoints = 10;
+  constexpr double MostUsualPoints = 11;
+  constexpr double PointsOfPixel = 72 / UsualDots;
+  constexpr double Largest = 3;
+  const QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
+  const QScreen* screen = QGuiApplication::primaryScreen();
+  const double dots =
+      font.pixelSize() > 0 || screen == nullptr ? 1 : screen->logicalDotsPerInch() / UsualDots;
+  const double points = font.pixelSize() > 0 ? font.pixelSize() * PointsOfPixel : font.pointSizeF();
+  return std::clamp(dots * (points > MostUsualPoints ? points / UsualPoints : 1), 1.0, Largest);
+}
+
 void Theme::FollowDesktop() {
+  SetTextScale(DesktopTextScale());
   Apply(Preferred());
 #if QT_VERSION >= QT_VERSION_CHECK(6, 5, 0)
   connect(QGuiApplication::styleHints(), &QStyleHints::colorSchemeChanged, this,
@@ -110,7 +151,7 @@ void Theme::Apply(Palette palette) {
 
   QFont font = QApplication::font();
   font.setFamilies({QStringLiteral("Segoe UI"), QStringLiteral("Inter"), QStringLiteral("Noto Sans")});
-  font.setPixelSize(13);
+  font.setPixelSize(qRound(UsualFont * textScale_));
   QApplication::setFont(font);
   qApp->setStyleSheet(StyleSheet());
   Q_EMIT Changed();
@@ -131,7 +172,7 @@ QString Theme::StyleSheet() const {
   std::sort(names.begin(), names.end(),
             [](const QString& a, const QString& b) { return a.size() > b.size(); });
   for (const QString& name : names) sheet.replace(QLatin1Char('@') + name, tokens.value(name));
-  return sheet;
+  return WithTextSizes(sheet);
 }
 
 QPixmap Theme::Pixmap(const QString& icon, const QString& token, int size, qreal ratio) const {

@@ -12,6 +12,9 @@ namespace talvor {
 // The room between a button's icon and its text, beside the style's own.
 inline constexpr int TextGap = 3;
 
+// A length that text stands in, told in pixels for text of the usual size: it grows with the text.
+[[nodiscard]] int TextPixels(int usual);
+
 class Theme : public QObject {
   Q_OBJECT
 
@@ -24,6 +27,11 @@ class Theme : public QObject {
   void FollowDesktop();
   // Gives the application that palette, its style sheet and its font.
   void Apply(Palette palette);
+  // How large text is, 1 being usual; from the next Apply on, and for windows made after it.
+  void SetTextScale(double scale) { textScale_ = scale; }
+  // How large the user's desktop wants text. A zoom of the whole screen is no part of it: that scales every
+  // pixel by itself.
+  [[nodiscard]] static double DesktopTextScale();
 
   [[nodiscard]] Palette Current() const { return palette_; }
   // The colour of a token; black for a name that is no token.
@@ -44,6 +52,7 @@ class Theme : public QObject {
 
   QHash<QString, QString> tokens_[2];
   Palette palette_ = Palette::Light;
+  double textScale_ = 1;
   mutable QHash<QString, QPixmap> cache_;
 };
 
