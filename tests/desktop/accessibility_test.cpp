@@ -14,15 +14,11 @@
 #include <QWebEngineView>
 #include <fstream>
 
-#include "base/code_page.h"
-#include "base/line_file.h"
 #include "desktop/shell/user_guide.h"
-#include "tests/desktop/desktop_fixture.h"
+#include "tests/desktop/filled_fixture.h"
 
 namespace talvor {
 namespace {
-
-constexpr int Patience = 20000;  // milliseconds
 
 std::string Told(const QWidget& widget) {
   return std::string(widget.metaObject()->className()) + " \"" + widget.objectName().toStdString() + "\"";
@@ -135,22 +131,8 @@ void AddRoving(QSet<QWidget*>& reached) {
   }
 }
 
-class AccessibilityTest : public DesktopTest {
+class AccessibilityTest : public FilledDesktopTest {
  protected:
-  AccessibilityTest() {
-    environment.values[u"userprofile"] = environment.values[u"temp"] = *TextOf(scratch.Path());
-    std::filesystem::create_directory(scratch.Path() / "Documents");
-    for (const auto& entry : std::filesystem::directory_iterator{TALVOR_DATA_FOLDER "/Modeles"})
-      std::filesystem::copy_file(entry.path(), std::filesystem::path("Modeles") / entry.path().filename());
-    std::filesystem::copy_file(TALVOR_TEST_DATA "/cv/riche.dat", "CV/Riche.dat");
-    std::ofstream("CV/Anglais.dat") << "Nom=Roy\r\n";
-    std::ofstream("Lettres/Annonce (ER).dat", std::ios::binary)
-        << ToCodePage(u"Text1=Bonjour\r\nNom=Roy\r\nPrénom=Zoé\r\nEmail=zoe@mail.example\r\n");
-    std::ofstream("Lettres/Annonce (IR).dat") << "Text1=Bonjour\r\nNom=Roy\r\n";
-    Restart();
-    SaveRow(QStringLiteral("Maçon"));
-  }
-
   // Walks a window as it stands; `state` tells which.
   void Walk(QWidget* window, const char* state) {
     SCOPED_TRACE(state);
@@ -209,21 +191,6 @@ class AccessibilityTest : public DesktopTest {
       if (place == nullptr || place->window() != &window || !place->isVisible()) continue;
       if (shortcut->context() == Qt::WindowShortcut) take(shortcut->key(), shortcut->key().toString());
     }
-  }
-
-  QWidget* Main() { return &desktop->Main(); }
-  QWidget* Open(TextView form) {
-    desktop->Windows().Show(form);
-    return desktop->Windows().WindowOf(form);
-  }
-  void ChooseRow(const char16_t* title) {
-    for (auto* button : Main()->findChildren<QAbstractButton*>())
-      if (button->isVisible() && button->accessibleName() == QString::fromUtf16(title))
-        return button->click();
-    FAIL() << ToUtf8(title);
-  }
-  bool PageStands() {
-    return WaitFor([&] { return desktop->Pages().ReadyState() == DocumentBrowser::Complete; }, Patience);
   }
 };
 
