@@ -10,8 +10,11 @@ namespace talvor {
 
 CheckMarkLabel::CheckMarkLabel(const Theme& theme, QWidget& field, QWidget* parent)
     : QWidget(parent), theme_(theme), field_(field), sign_(new QLabel(this)), word_(new QLabel(this)) {
-  constexpr int Width = 52;
-  setFixedSize(Width, 22);
+  QFont bold = font();
+  bold.setPixelSize(TextPixels(12));
+  bold.setWeight(QFont::Bold);
+  constexpr int SignAndEdges = 38;
+  setFixedSize(QFontMetrics(bold).horizontalAdvance(ToQt(MarkOk.text)) + SignAndEdges, TextPixels(22));
   setAttribute(Qt::WA_StyledBackground);
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(9, 0, 9, 0);
@@ -41,8 +44,8 @@ void CheckMarkLabel::Paint() {
   sign_->setPixmap(theme_.Pixmap(fit ? QStringLiteral("check") : QStringLiteral("cross"), ink, 12));
   setStyleSheet(QStringLiteral("background: %1; border-radius: 11px;").arg(theme_.Color(ground).name()));
   const QString plain =
-      QStringLiteral("background: transparent; color: %1; font-weight: 700; font-size: 12px;");
-  word_->setStyleSheet(plain.arg(theme_.Color(ink).name()));
+      QStringLiteral("background: transparent; color: %1; font-weight: 700; font-size: %2px;");
+  word_->setStyleSheet(plain.arg(theme_.Color(ink).name()).arg(TextPixels(12)));
   sign_->setStyleSheet(QStringLiteral("background: transparent;"));
 }
 

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStringList>
+#include <algorithm>
 
 namespace talvor {
 namespace {
@@ -11,6 +12,7 @@ namespace {
 constexpr int PictureSize = 22;
 constexpr int HoverPictureSize = 26;
 constexpr int SlotFont = 11;
+constexpr int CaptionTop = 29;
 
 }  // namespace
 
@@ -33,6 +35,8 @@ QStringList TwoLines(const QString& name, const QFontMetrics& metrics, int width
   return lines;
 }
 
+int IconTile::Height() { return CaptionTop + 2 * TextPixels(CaptionLine) + 3; }
+
 IconTile::IconTile(const Theme& theme, QSize size, QWidget* parent)
     : QAbstractButton(parent), theme_(theme), size_(size) {
   setFocusPolicy(Qt::StrongFocus);
@@ -49,7 +53,9 @@ void IconTile::SetLook(const Look& look) {
 void IconTile::SetCompact(bool compact) {
   if (compact == compact_) return;
   compact_ = compact;
-  setFixedSize(compact ? QSize(52, size_.height()) : size_);
+  // The picture with its badge fits in.
+  constexpr int CompactWidth = 40;
+  setFixedSize(compact ? QSize(CompactWidth + TextPixels(6), size_.height()) : size_);
   update();
 }
 
@@ -81,7 +87,7 @@ void IconTile::PaintPlane(QPainter& painter) const {
 
 void IconTile::PaintCaption(QPainter& painter, const QRect& room) const {
   QFont face = font();
-  face.setPixelSize(text().isEmpty() ? SlotFont : CaptionFont);
+  face.setPixelSize(TextPixels(text().isEmpty() ? SlotFont : CaptionFont));
   if (look_.current) face.setWeight(QFont::DemiBold);
   painter.setFont(face);
   painter.setPen(theme_.Color(Tone()));
@@ -91,21 +97,22 @@ void IconTile::PaintCaption(QPainter& painter, const QRect& room) const {
   }
   const QFontMetrics metrics(face);
   const QStringList lines = TwoLines(look_.caption, metrics, room.width());
-  constexpr int LineHeight = 12;
-  int y = room.center().y() - static_cast<int>(lines.size()) * LineHeight / 2 + 1;
+  const int lineHeight = TextPixels(CaptionLine);
+  int y = room.center().y() - static_cast<int>(lines.size()) * lineHeight / 2 + 1;
   for (const QString& line : lines) {
-    painter.drawText(QRect(room.left(), y, room.width(), LineHeight + 2), Qt::AlignHCenter | Qt::AlignVCenter,
+    painter.drawText(QRect(room.left(), y, room.width(), lineHeight + 2), Qt::AlignHCenter | Qt::AlignVCenter,
                      line);
-    y += LineHeight;
+    y += lineHeight;
   }
 }
 
 void IconTile::PaintBadge(QPainter& painter, const QRect& picture) const {
   QFont face = font();
-  face.setPixelSize(10);
+  face.setPixelSize(TextPixels(10));
   face.setWeight(QFont::Bold);
   const int wide = QFontMetrics(face).horizontalAdvance(look_.badge) + 6;
-  const QRect badge(picture.right() - 5, picture.top() - 4, wide, 14);
+  const QRect badge(std::min(picture.right() - 5, width() - wide - 1), picture.top() - 4, wide,
+                    TextPixels(14));
   painter.setPen(Qt::NoPen);
   painter.setBrush(theme_.Color(QStringLiteral("newsoft")));
   painter.drawRoundedRect(badge, 4, 4);
@@ -124,7 +131,7 @@ void IconTile::paintEvent(QPaintEvent*) {
   const QRect picture((width() - side) / 2, middle - side / 2, side, side);
   painter.drawPixmap(picture, theme_.Pixmap(look_.icon, Tone(), side, devicePixelRatioF()));
   if (!look_.badge.isEmpty()) PaintBadge(painter, picture);
-  if (!compact_) PaintCaption(painter, QRect(3, 29, width() - 6, height() - 32));
+  if (!compact_) PaintCaption(painter, QRect(3, CaptionTop, width() - 6, height() - CaptionTop - 3));
 }
 
 void IconTile::Hover(bool over) {

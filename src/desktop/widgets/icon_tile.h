@@ -21,7 +21,11 @@ class IconTile : public QAbstractButton {
     bool operator==(const Look&) const = default;
   };
 
-  static constexpr int CaptionFont = 12;  // pixels, of a button that is no slot
+  // In pixels at the usual size of text.
+  static constexpr int CaptionFont = 12;  // of a button that is no slot
+  static constexpr int CaptionLine = 12;  // of two
+  // What the picture and two lines need.
+  [[nodiscard]] static int Height();
 
   IconTile(const Theme& theme, QSize size, QWidget* parent);
 

@@ -14,13 +14,12 @@ class FieldLabel : public QLabel {
 
  protected:
   void paintEvent(QPaintEvent* event) override {
-    if (contentsRect().width() >= sizeHint().width()) return QLabel::paintEvent(event);
+    if (wordWrap() || contentsRect().width() >= sizeHint().width()) return QLabel::paintEvent(event);
     QPainter painter(this);
-    style()->drawItemText(
-        &painter, contentsRect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, palette(),
-        isEnabled(),
-        fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width(), Qt::TextShowMnemonic),
-        foregroundRole());
+    const int mnemonic = buddy() != nullptr ? Qt::TextShowMnemonic : 0;
+    const int place = static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter) | mnemonic;
+    const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width(), mnemonic);
+    style()->drawItemText(&painter, contentsRect(), place, palette(), isEnabled(), shown, foregroundRole());
   }
 };
 
@@ -39,6 +38,18 @@ QLabel* MakeLabel(const QString& text, QWidget* field, QWidget* parent) {
   label->setBuddy(field);
   field->setAccessibleName(QString(text).remove(QLatin1Char('&')));
   return label;
+}
+
+QLabel* MakeElidedLabel(QWidget* parent) {
+  auto* label = new FieldLabel(parent);
+  label->setTextFormat(Qt::PlainText);
+  label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  return label;
+}
+
+int FieldWidth(const QWidget& field, const QString& text) {
+  constexpr int Edges = 18;
+  return field.fontMetrics().horizontalAdvance(text) + Edges;
 }
 
 QPushButton* MakeLink(const Theme& theme, const QString& icon, const QString& text, const QString& name,

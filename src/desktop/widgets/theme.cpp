@@ -32,7 +32,7 @@ constexpr int UsualFont = 13;  // pixels
 
 // The sheet is written for text of the usual size: its letters, and the least heights around them, grow.
 QString WithTextSizes(const QString& sheet) {
-  static const QRegularExpression length(QStringLiteral("(font-size|min-height): (\\d+)px"));
+  static const QRegularExpression length(QStringLiteral("(font-size|min-height|max-height): (\\d+)px"));
   QString sized;
   qsizetype behind = 0;
   for (auto found = length.globalMatch(sheet); found.hasNext();) {
