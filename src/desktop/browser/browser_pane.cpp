@@ -18,6 +18,8 @@
 namespace talvor {
 namespace {
 
+constexpr int LeastWidth = 284;
+constexpr int StripEdges = 24;
 constexpr int ToolSide = 28;
 constexpr int GaugeFull = 1300;
 
@@ -38,8 +40,7 @@ BrowserPane::BrowserPane(const Theme& theme, QWidget* parent) : QWidget(parent),
   setProperty("pane", true);
   setAttribute(Qt::WA_StyledBackground);
   setAccessibleName(tr("Navigateur"));
-  constexpr int LeastWidth = 284;
-  setMinimumWidth(LeastWidth);
+  setMinimumWidth(TextPixels(LeastWidth));
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
@@ -80,7 +81,7 @@ QToolButton* BrowserPane::AddTool(QBoxLayout& row, const QString& name, const QS
   auto* tool = new QToolButton(this);
   tool->setObjectName(name);
   tool->setProperty("role", QStringLiteral("flat"));
-  tool->setFixedSize(ToolSide, ToolSide);
+  tool->setFixedSize(TextPixels(ToolSide), TextPixels(ToolSide) + 2);
   tool->setAccessibleName(text);
   tool->setToolTip(text);
   tool->setFocusPolicy(Qt::TabFocus);
@@ -94,7 +95,7 @@ QToolButton* BrowserPane::AddTool(QBoxLayout& row, const QString& name, const QS
 
 QWidget* BrowserPane::MakeBar() {
   auto* bar = new QWidget(this);
-  bar->setFixedHeight(43);
+  bar->setFixedHeight(TextPixels(43));
   auto* row = new QHBoxLayout(bar);
   row->setContentsMargins(8, 0, 8, 0);
   row->setSpacing(2);
@@ -197,7 +198,12 @@ void BrowserPane::ShowStrip(int top) {
   constexpr int Way = FormCandWeb::StripOpen - FormCandWeb::StripClosed;
   const int wide = strip_->width();
   links_->setDirection(QBoxLayout::LeftToRight);
-  if (links_->sizeHint().width() + 24 > wide) links_->setDirection(QBoxLayout::TopToBottom);
+  if (links_->sizeHint().width() + StripEdges > wide) links_->setDirection(QBoxLayout::TopToBottom);
+  int widest = TextPixels(LeastWidth);
+  for (int i = 0; i < links_->count(); ++i)
+    if (!links_->itemAt(i)->isEmpty())
+      widest = std::max(widest, links_->itemAt(i)->minimumSize().width() + StripEdges);
+  setMinimumWidth(std::max(widest, layout()->minimumSize().width()));
   stripContent_->layout()->invalidate();
   const int whole = stripContent_->layout()->sizeHint().height();
   const int high = whole * (top - FormCandWeb::StripClosed) / Way;

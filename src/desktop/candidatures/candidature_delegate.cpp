@@ -13,7 +13,7 @@ constexpr int DateWidth = 77;
 constexpr int RightRoom = 8;
 
 QFont Sized(QFont font, int pixels, QFont::Weight weight) {
-  font.setPixelSize(pixels);
+  font.setPixelSize(TextPixels(pixels));
   font.setWeight(weight);
   return font;
 }
@@ -100,13 +100,14 @@ void CandidatureDelegate::PaintLeaf(QPainter& painter, const QRect& row, bool se
   const int right = row.right() - RightRoom;
   const int left = row.left() + LeafIndent;
 
+  const int dateWidth = TextPixels(DateWidth);
   const QFont plain = Sized(painter.font(), 13, QFont::Normal);
   painter.setFont(plain);
   painter.setPen(muted);
-  DrawElided(painter, left, row, left + DateWidth, text.left(blank));
+  DrawElided(painter, left, row, left + dateWidth, text.left(blank));
   painter.setPen(strong);
   if (selected) painter.setFont(Sized(plain, 13, QFont::DemiBold));
-  const int behind = DrawElided(painter, left + DateWidth, row, right, title);
+  const int behind = DrawElided(painter, left + dateWidth, row, right, title);
   painter.setFont(plain);
   painter.setPen(muted);
   if (behind < right - 10) DrawElided(painter, behind, row, right, company);

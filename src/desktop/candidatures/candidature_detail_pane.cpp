@@ -8,10 +8,10 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 #include <algorithm>
-#include <array>
 
 #include "ads/contracts.h"
 #include "desktop/widgets/pane.h"
+#include "desktop/widgets/scrolling.h"
 #include "desktop/widgets/status_dot.h"
 #include "desktop/widgets/text_edge.h"
 #include "tracking/status_lists.h"
@@ -22,16 +22,17 @@ namespace {
 constexpr int LabelColumn = 122;
 constexpr int ShortField = 102;
 constexpr int ShortLabel = 98;
-constexpr int ColumnWidth = 420;  // two columns from twice that on
+constexpr int ColumnWidth = 420;  // two columns from twice that on, at the usual size of text
+constexpr int ColumnGap = 24;
+constexpr int LabelGap = 8;
 constexpr int RowGap = 5;
-constexpr int Any = QWIDGETSIZE_MAX;
 const QString FirstColumn = QStringLiteral("libelle");  // names of the labels in them
 const QString SecondColumn = QStringLiteral("libelle2");
 
 QGridLayout* MakeGrid(QWidget* block) {
   auto* grid = new QGridLayout(block);
   grid->setContentsMargins(0, 0, 0, 0);
-  grid->setHorizontalSpacing(8);
+  grid->setHorizontalSpacing(LabelGap);
   grid->setVerticalSpacing(RowGap);
   grid->setColumnStretch(1, 1);
   return grid;
@@ -40,7 +41,6 @@ QGridLayout* MakeGrid(QWidget* block) {
 QLabel* MakeFirstLabel(const QString& caption, QWidget* field) {
   QLabel* label = MakeLabel(caption, field, field->parentWidget());
   label->setObjectName(FirstColumn);
-  label->setToolTip(QString(caption).remove(QLatin1Char('&')));
   return label;
 }
 
@@ -64,26 +64,6 @@ void AddTallRow(QGridLayout* grid, const QString& caption, QWidget* field, QWidg
   grid->setRowStretch(row, 1);
 }
 
-// Two short fields on one row.
-void AddPair(QGridLayout* grid, const QString& first, QWidget* left, const QString& second, QWidget* right) {
-  const int row = grid->rowCount();
-  grid->addWidget(MakeFirstLabel(first, left), row, 0);
-  auto* pair = new QHBoxLayout;
-  pair->setSpacing(8);
-  // A date always shows whole.
-  const int date = left->fontMetrics().horizontalAdvance(QStringLiteral("00/00/0000")) + 18;
-  constexpr int Least = 56;
-  for (QWidget* field : {left, right})
-    field->setMinimumWidth(field->objectName().startsWith(QStringLiteral("Date")) ? date : Least);
-  pair->addWidget(left, ShortField);
-  QLabel* label = MakeLabel(second, right, right->parentWidget());
-  label->setObjectName(SecondColumn);
-  label->setToolTip(second);
-  pair->addWidget(label);
-  pair->addWidget(right, ShortField);
-  grid->addLayout(pair, row, 1);
-}
-
 }  // namespace
 
 CandidatureDetailPane::CandidatureDetailPane(const Theme& theme, QWidget* parent)
@@ -92,7 +72,6 @@ CandidatureDetailPane::CandidatureDetailPane(const Theme& theme, QWidget* parent
   setProperty("pane", true);
   setAttribute(Qt::WA_StyledBackground);
   setAccessibleName(tr("Candidature"));
-  setMinimumWidth(ColumnWidth);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
@@ -116,8 +95,7 @@ CandidatureDetailPane::CandidatureDetailPane(const Theme& theme, QWidget* parent
     parts_.append(part);
   Arrange(false);
   scroll_->setWidget(content);
-  AlignLabels({Any, ShortLabel, Any});
-  roomyWidth_ = PartWidth() + EdgesWidth();
+  FitLabels();
   column->addWidget(scroll_, 1);
   FillChoices();
   ChainTabs();
@@ -129,8 +107,8 @@ int CandidatureDetailPane::EdgesWidth() const {
 }
 
 QWidget* CandidatureDetailPane::MakeActionBar() {
-  auto* bar = new QWidget(this);
-  bar->setFixedHeight(43);
+  auto* bar = actions_ = new QWidget(this);
+  bar->setFixedHeight(TextPixels(43));
   auto* row = new QHBoxLayout(bar);
   row->setContentsMargins(10, 0, 10, 0);
   row->setSpacing(6);
@@ -165,11 +143,38 @@ QPlainTextEdit* CandidatureDetailPane::Lines(const QString& name, int height, QW
   auto* field = new QPlainTextEdit(parent);
   field->setObjectName(name);
   field->setTabChangesFocus(true);
+  field->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);  // the lines are broken
   field->document()->setDocumentMargin(3);
-  field->setMinimumHeight(height);
+  field->setMinimumHeight(TextPixels(height));
   field->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
   fields_.append(field);
   return field;
+}
+
+// Two short fields, on one row where there is room for both.
+void CandidatureDetailPane::AddPair(QGridLayout* grid, const QString& first, QLineEdit* left,
+                                    const QString& second, QLineEdit* right) {
+  const int row = grid->rowCount();
+  // Folded, the label stands beside the first of the two.
+  QLabel* caption = MakeFirstLabel(first, left);
+  caption->setMinimumHeight(left->sizeHint().height());
+  grid->addWidget(caption, row, 0, Qt::AlignTop);
+  auto* pair = new FoldingRow(left->parentWidget());
+  pair->Row().setSpacing(LabelGap);
+  for (QLineEdit* field : {left, right}) {
+    const bool date = field->objectName().startsWith(QStringLiteral("Date"));
+    field->setMinimumWidth(FieldWidth(*field, date ? QStringLiteral("00/00/0000") : tr("Indéterminée")));
+  }
+  QLabel* label = MakeLabel(second, right, right->parentWidget());
+  label->setObjectName(SecondColumn);
+  auto* behind = new QHBoxLayout;
+  behind->setSpacing(LabelGap);
+  behind->addWidget(label);
+  behind->addWidget(right, 1);
+  pair->Row().addWidget(left, ShortField);
+  pair->Row().addLayout(behind, ShortField + ShortLabel);
+  pairs_.append(pair);
+  grid->addWidget(pair, row, 1);
 }
 
 QWidget* CandidatureDetailPane::MakePostBlock() {
@@ -208,16 +213,24 @@ QWidget* CandidatureDetailPane::MakeCompanyBlock() {
   QLineEdit* street = Line(QStringLiteral("Adresse"), block);
   QLineEdit* postcode = Line(QStringLiteral("CP"), block);
   QLineEdit* town = Line(QStringLiteral("Ville"), block);
-  grid->addWidget(MakeFirstLabel(tr("Adresse"), street), row, 0);
+  QLabel* caption = MakeFirstLabel(tr("Adresse"), street);
+  caption->setMinimumHeight(street->sizeHint().height());
+  grid->addWidget(caption, row, 0, Qt::AlignTop);
   postcode->setAccessibleName(tr("Code postal"));
-  postcode->setFixedWidth(postcode->fontMetrics().horizontalAdvance(QStringLiteral("000000")) + 18);
+  postcode->setFixedWidth(FieldWidth(*postcode, QStringLiteral("000000")));
   town->setAccessibleName(tr("Ville"));
+  street->setMinimumWidth(FieldWidth(*street, tr("18 quai des")));
+  town->setMinimumWidth(FieldWidth(*town, tr("Grenoble")));
+  auto* address = new FoldingRow(block);
+  address->Row().setSpacing(5);
   auto* place = new QHBoxLayout;
   place->setSpacing(5);
-  place->addWidget(street, 2);
   place->addWidget(postcode);
   place->addWidget(town, 1);
-  grid->addLayout(place, row, 1);
+  address->Row().addWidget(street, 2);
+  address->Row().addLayout(place, 1);
+  pairs_.append(address);
+  grid->addWidget(address, row, 1);
   return block;
 }
 
@@ -285,47 +298,44 @@ void CandidatureDetailPane::ChainTabs() {
 }
 
 // Every label of the first column has the width of the widest, so that the fields of all blocks stand in one
-// line.
-void CandidatureDetailPane::AlignLabels(const LabelWidths& most) {
-  int widest = LabelColumn;
+// line; those of the second column have one of their own, or what each of them asks for.
+void CandidatureDetailPane::AlignLabels(int second) {
+  int widest = TextPixels(LabelColumn);
   for (const QWidget* part : parts_)
     for (const QLabel* label : part->findChildren<QLabel*>(FirstColumn))
       widest = std::max(widest, label->sizeHint().width());
-  widest = std::min(widest, most.first);
   for (QWidget* part : parts_) {
     for (QLabel* label : part->findChildren<QLabel*>(FirstColumn)) label->setFixedWidth(widest);
     for (QLabel* label : part->findChildren<QLabel*>(SecondColumn))
-      label->setMinimumWidth(std::min(most.second, std::max(most.secondLeast, label->sizeHint().width())));
+      label->setMinimumWidth(std::max(second, label->sizeHint().width()));
     static_cast<QGridLayout*>(part->layout())->setColumnMinimumWidth(0, widest);
   }
 }
 
-// What the widest block asks for.
-int CandidatureDetailPane::PartWidth() const {
+// The widest block, with its pairs on one row or folded.
+int CandidatureDetailPane::PartWidth(bool folded) const {
   int width = 0;
   for (const QWidget* part : parts_) {
     part->layout()->activate();
     width = std::max(width, part->layout()->minimumSize().width());
   }
+  if (folded) return width;
+  const int label = parts_.front()->layout()->itemAt(0)->minimumSize().width() + LabelGap;
+  for (const FoldingRow* pair : pairs_) width = std::max(width, label + pair->WholeWidth());
   return width;
 }
 
-// Nothing of the form slides out of sight sideways: where the pane is narrow the labels lose their alignment
-// first, then their ends.
+// Nothing of the form slides out of sight sideways: where the pane is narrow the second labels lose their
+// alignment first, then the pairs stand on two rows.
 void CandidatureDetailPane::FitLabels() {
-  constexpr int LeastFirst = 70;
-  constexpr int LeastSecond = 45;
-  constexpr std::array<LabelWidths, 5> Steps{{{Any, ShortLabel, Any},
-                                              {Any, 0, Any},
-                                              {LabelColumn, 0, Any},
-                                              {LabelColumn, 0, LeastSecond},
-                                              {LeastFirst, 0, LeastSecond}}};
   const int columns = twoColumns_ ? 2 : 1;
-  const int room = (width() - EdgesWidth() - (columns - 1) * columns_->spacing()) / columns;
-  for (const LabelWidths& most : Steps) {
-    AlignLabels(most);
-    if (PartWidth() <= room) return;
-  }
+  const int room = (width() - EdgesWidth() - (columns - 1) * ColumnGap) / columns;
+  AlignLabels(TextPixels(ShortLabel));
+  roomyWidth_ = PartWidth(false) + EdgesWidth();
+  setMinimumWidth(std::max(actions_->minimumSizeHint().width(), PartWidth(true) + EdgesWidth()));
+  if (PartWidth(false) <= room) return;
+  AlignLabels(0);
+  if (PartWidth(false) > room) AlignLabels(TextPixels(ShortLabel));
 }
 
 // One column, or post and advertisement on the left, company and follow-up on the right.
@@ -353,12 +363,18 @@ void CandidatureDetailPane::Arrange(bool twoColumns) {
     column->addWidget(parts_[part], part == Post || part == FollowUp ? 1 : 0);
   }
   columns_->setStretch(1, twoColumns ? 1 : 0);
-  columns_->setSpacing(twoColumns ? 24 : 0);
+  columns_->setSpacing(twoColumns ? ColumnGap : 0);
+}
+
+void CandidatureDetailPane::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  FitLabels();
 }
 
 void CandidatureDetailPane::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
-  const bool twoColumns = width() >= 2 * ColumnWidth;
+  const bool twoColumns =
+      width() >= std::max(2 * TextPixels(ColumnWidth), 2 * PartWidth(true) + ColumnGap + EdgesWidth());
   if (twoColumns != twoColumns_) Arrange(twoColumns);
   FitLabels();
 }

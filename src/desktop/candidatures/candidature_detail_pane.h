@@ -9,6 +9,7 @@
 #include "desktop/widgets/choice_field.h"
 
 class QFrame;
+class QGridLayout;
 class QHBoxLayout;
 class QLineEdit;
 class QPlainTextEdit;
@@ -16,6 +17,8 @@ class QScrollArea;
 class QVBoxLayout;
 
 namespace talvor {
+
+class FoldingRow;
 
 class CandidatureDetailPane : public QWidget {
  public:
@@ -32,10 +35,11 @@ class CandidatureDetailPane : public QWidget {
   // Follows the text of the status with its dot.
   void ShowStatusDot(TextView status);
 
-  // The width at which no field of the single column is cut.
+  // The width at which every row of the single column stands on one line.
   [[nodiscard]] int RoomyWidth() const { return roomyWidth_; }
 
  protected:
+  void showEvent(QShowEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:
@@ -45,13 +49,10 @@ class CandidatureDetailPane : public QWidget {
   QWidget* MakeAdvertisementBlock();
   QWidget* MakeFollowUpBlock();
   void FillChoices();
-  // How far the labels are narrowed: the widest of the first column, the least that those of the second
-  // are given to stand in one line, and the most that they ask for.
-  struct LabelWidths {
-    int first, secondLeast, second;
-  };
-  void AlignLabels(const LabelWidths& most);
-  [[nodiscard]] int PartWidth() const;
+  void AddPair(QGridLayout* grid, const QString& first, QLineEdit* left, const QString& second,
+               QLineEdit* right);
+  void AlignLabels(int second);
+  [[nodiscard]] int PartWidth(bool folded) const;
   [[nodiscard]] int EdgesWidth() const;
   void FitLabels();
   void Arrange(bool twoColumns);
@@ -60,6 +61,7 @@ class CandidatureDetailPane : public QWidget {
   QPlainTextEdit* Lines(const QString& name, int height, QWidget* parent);
 
   const Theme& theme_;
+  QWidget* actions_ = nullptr;
   QPushButton* internet_ = nullptr;
   QPushButton* postuler_ = nullptr;
   ChoiceField* statut_ = nullptr;
@@ -70,7 +72,8 @@ class CandidatureDetailPane : public QWidget {
   QVBoxLayout* right_ = nullptr;
   QList<QFrame*> lines_;    // between the blocks
   QList<QWidget*> fields_;  // in reading order
-  QList<QWidget*> parts_;   // post, company, advertisement, follow-up
+  QList<FoldingRow*> pairs_;
+  QList<QWidget*> parts_;  // post, company, advertisement, follow-up
   bool twoColumns_ = false;
   int roomyWidth_ = 0;
   QAction* statusDot_ = nullptr;

@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "desktop/widgets/pane.h"
+#include "desktop/widgets/segment_button.h"
 
 namespace talvor {
 
@@ -27,7 +28,7 @@ CandidatureListPane::CandidatureListPane(const CandidatureTree& tree, const Them
 
 QWidget* CandidatureListPane::MakeSegments() {
   auto* bar = new QWidget(this);
-  bar->setFixedHeight(44);
+  bar->setFixedHeight(TextPixels(44));
   auto* row = new QHBoxLayout(bar);
   row->setContentsMargins(10, 7, 10, 7);
   auto* segments = new QFrame(bar);
@@ -38,9 +39,8 @@ QWidget* CandidatureListPane::MakeSegments() {
   inner->setSpacing(2);
   const std::array captions{tr("So&ciétés"), tr("&Dates"), tr("&Statuts"), tr("Ori&gine")};
   for (std::size_t i = 0; i < captions.size(); ++i) {
-    auto* option = new QPushButton(captions[i], segments);
+    auto* option = new SegmentButton(captions[i], segments);
     option->setObjectName(QStringLiteral("Tri%1").arg(i));
-    option->setCheckable(true);
     tri_->addButton(option, static_cast<int>(i));
     inner->addWidget(option);
     connect(option, &QPushButton::clicked, this, [this, i] {

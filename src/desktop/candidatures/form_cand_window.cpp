@@ -199,13 +199,13 @@ void FormCandWindow::showEvent(QShowEvent* event) {
 void FormCandWindow::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
   constexpr int NarrowWindow = 1200;
-  const bool narrow = width() < NarrowWindow;
+  const bool narrow = width() < TextPixels(NarrowWindow);
   if (narrow_ == narrow) return;
   narrow_ = narrow;
   const int room = width() - 2 * splitter_->handleWidth();
-  const int list = narrow ? list_->minimumSizeHint().width() : ListWidth;
+  const int list = narrow ? list_->minimumSizeHint().width() : TextPixels(ListWidth);
   const int detail =
-      narrow ? room - list - web_->minimumWidth() : std::max(DetailWidth, detail_->RoomyWidth());
+      narrow ? room - list - web_->minimumWidth() : std::max(TextPixels(DetailWidth), detail_->RoomyWidth());
   splitter_->setSizes({list, detail, room - list - detail});
 }
 
