@@ -1,33 +1,45 @@
 #include "desktop/letters/letter_sender_pane.h"
 
 #include <QFocusEvent>
-#include <QGridLayout>
+#include <QFormLayout>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QScrollArea>
+#include <QScrollBar>
 #include <QShortcut>
+#include <algorithm>
 
 #include "desktop/widgets/pane.h"
+#include "desktop/widgets/scrolling.h"
 #include "desktop/widgets/text_edge.h"
 
 namespace talvor {
 namespace {
 
-constexpr int LeastWidth = 288;
 constexpr int RowGap = 5;
+constexpr int Edge = 12;
 constexpr int CvRow = 26;
-constexpr int LeastTown = 44;
 
-QGridLayout* MakeGrid(QWidget* block) {
-  auto* grid = new QGridLayout(block);
+QFormLayout* MakeGrid(QWidget* block) {
+  auto* grid = new QFormLayout(block);
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setHorizontalSpacing(8);
   grid->setVerticalSpacing(RowGap);
-  grid->setColumnStretch(1, 1);
-  // Both blocks keep their fields in one line.
-  grid->setColumnMinimumWidth(0,
-                              block->fontMetrics().horizontalAdvance(block->tr("Dernier poste occupé")) + 2);
+  grid->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+  grid->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   return grid;
+}
+
+// The fields stand beside their labels where there is room for what they usually hold, else below.
+void FitRows(QFormLayout& form, int room) {
+  int label = 0;
+  int field = 0;
+  for (int row = 0; row < form.rowCount(); ++row) {
+    label = std::max(label, form.itemAt(row, QFormLayout::LabelRole)->minimumSize().width());
+    field = std::max(field, form.itemAt(row, QFormLayout::FieldRole)->minimumSize().width());
+  }
+  form.parentWidget()->setMinimumWidth(field);
+  form.setRowWrapPolicy(label + form.horizontalSpacing() + field > room ? QFormLayout::WrapAllRows
+                                                                        : QFormLayout::DontWrapRows);
 }
 
 QString IconOf(const QString& cv) {
@@ -42,24 +54,20 @@ LetterSenderPane::LetterSenderPane(const Theme& theme, QWidget* parent) : QWidge
   setProperty("pane", true);
   setAttribute(Qt::WA_StyledBackground);
   setAccessibleName(tr("Expéditeur"));
-  setMinimumWidth(LeastWidth);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
   auto* title = new QLabel(tr("Expéditeur"), this);
   title->setProperty("role", QStringLiteral("title"));
-  title->setFixedHeight(39);
+  title->setFixedHeight(TextPixels(39));
   title->setContentsMargins(12, 0, 12, 0);
   column->addWidget(title);
   column->addWidget(MakeLine(theme, this));
 
-  auto* scroll = new QScrollArea(this);
-  scroll->setFrameShape(QFrame::NoFrame);
-  scroll->setWidgetResizable(true);
-  scroll->setFocusPolicy(Qt::NoFocus);
+  auto* scroll = scroll_ = new PaneScroll(this);
   QWidget* content = MakePlane(QStringLiteral("surface"), scroll);
   auto* blocks = new QVBoxLayout(content);
-  blocks->setContentsMargins(12, 10, 12, 12);
+  blocks->setContentsMargins(Edge, 10, Edge, 12);
   blocks->setSpacing(8);
   blocks->addWidget(MakeIdentity());
   blocks->addWidget(MakeLine(theme, content));
@@ -69,6 +77,7 @@ LetterSenderPane::LetterSenderPane(const Theme& theme, QWidget* parent) : QWidge
   scroll->setWidget(content);
   column->addWidget(scroll, 1);
   connect(&theme, &Theme::Changed, this, &LetterSenderPane::FillCvs);
+  FitForms();
 }
 
 QLineEdit* LetterSenderPane::Line(const QString& name, QWidget* parent) {
@@ -78,40 +87,40 @@ QLineEdit* LetterSenderPane::Line(const QString& name, QWidget* parent) {
   return field;
 }
 
-void LetterSenderPane::AddRow(QGridLayout* grid, const QString& caption, QWidget* field) {
-  const int row = grid->rowCount();
-  grid->addWidget(MakeLabel(caption, field, field->parentWidget()), row, 0);
-  grid->addWidget(field, row, 1);
+void LetterSenderPane::AddRow(QFormLayout* grid, const QString& caption, QWidget* field,
+                              const QString& usual) {
+  field->setMinimumWidth(FieldWidth(*field, usual));
+  grid->addRow(MakeLabel(caption, field, field->parentWidget()), field);
 }
 
-void LetterSenderPane::AddPlace(QGridLayout* grid, QWidget* parent) {
-  const int row = grid->rowCount();
+void LetterSenderPane::AddPlace(QFormLayout* grid, QWidget* parent) {
   QLineEdit* postcode = Line(QStringLiteral("CP"), parent);
   QLineEdit* town = Line(QStringLiteral("Ville"), parent);
-  grid->addWidget(MakeLabel(tr("CP / Ville"), postcode, parent), row, 0);
+  QLabel* label = MakeLabel(tr("CP / Ville"), postcode, parent);
   postcode->setAccessibleName(tr("Code postal"));
-  postcode->setFixedWidth(postcode->fontMetrics().horizontalAdvance(QStringLiteral("000000")) + 18);
+  postcode->setFixedWidth(FieldWidth(*postcode, QStringLiteral("000000")));
   town->setAccessibleName(tr("Ville"));
-  town->setMinimumWidth(LeastTown);
+  town->setMinimumWidth(FieldWidth(*town, tr("Grenoble")));
   auto* place = new QHBoxLayout;
   place->setSpacing(5);
   place->addWidget(postcode);
   place->addWidget(town, 1);
-  grid->addLayout(place, row, 1);
+  grid->addRow(label, place);
 }
 
 QWidget* LetterSenderPane::MakeIdentity() {
   auto* block = new QWidget(this);
-  QGridLayout* grid = MakeGrid(block);
-  AddRow(grid, tr("Nom"), Line(QStringLiteral("Nom"), block));
-  AddRow(grid, tr("Prénom"), prenom_ = Line(QStringLiteral("Prénom"), block));
-  AddRow(grid, tr("Adresse 1"), Line(QStringLiteral("Adresse1"), block));
-  AddRow(grid, tr("Adresse 2"), Line(QStringLiteral("Adresse2"), block));
+  QFormLayout* grid = identity_ = MakeGrid(block);
+  AddRow(grid, tr("Nom"), Line(QStringLiteral("Nom"), block), tr("Marchand"));
+  AddRow(grid, tr("Prénom"), prenom_ = Line(QStringLiteral("Prénom"), block), tr("Jean-Christophe"));
+  AddRow(grid, tr("Adresse 1"), Line(QStringLiteral("Adresse1"), block), tr("18 quai des Tanneurs"));
+  AddRow(grid, tr("Adresse 2"), Line(QStringLiteral("Adresse2"), block), tr("18 quai des Tanneurs"));
   AddPlace(grid, block);
-  AddRow(grid, tr("Pays"), Line(QStringLiteral("Pays"), block));
-  AddRow(grid, tr("Tel fixe"), Line(QStringLiteral("Tel"), block));
-  AddRow(grid, tr("Mob"), Line(QStringLiteral("Mob"), block));
-  AddRow(grid, tr("Courriel"), email_ = Line(QStringLiteral("Email"), block));
+  AddRow(grid, tr("Pays"), Line(QStringLiteral("Pays"), block), tr("Française"));
+  AddRow(grid, tr("Tel fixe"), Line(QStringLiteral("Tel"), block), tr("06 00 00 00 00"));
+  AddRow(grid, tr("Mob"), Line(QStringLiteral("Mob"), block), tr("06 00 00 00 00"));
+  AddRow(grid, tr("Courriel"), email_ = Line(QStringLiteral("Email"), block),
+         tr("prenom.nom@fournisseur.com"));
   prenom_->installEventFilter(this);
   email_->installEventFilter(this);
   return block;
@@ -119,12 +128,14 @@ QWidget* LetterSenderPane::MakeIdentity() {
 
 QWidget* LetterSenderPane::MakeCareer() {
   auto* block = new QWidget(this);
-  QGridLayout* grid = MakeGrid(block);
-  AddRow(grid, tr("Dernier poste occupé"), Line(QStringLiteral("Poste"), block));
-  AddRow(grid, tr("Dernière société"), Line(QStringLiteral("LastSociete"), block));
-  AddRow(grid, tr("Compétences"), Line(QStringLiteral("Competences"), block));
-  AddRow(grid, tr("Domaine"), Line(QStringLiteral("Domaine"), block));
-  AddRow(grid, tr("Fonction"), Line(QStringLiteral("Fonction"), block));
+  QFormLayout* grid = career_ = MakeGrid(block);
+  AddRow(grid, tr("Dernier poste occupé"), Line(QStringLiteral("Poste"), block),
+         tr("Chargée de communication"));
+  AddRow(grid, tr("Dernière société"), Line(QStringLiteral("LastSociete"), block),
+         tr("Chargée de communication"));
+  AddRow(grid, tr("Compétences"), Line(QStringLiteral("Competences"), block), tr("Chargée de communication"));
+  AddRow(grid, tr("Domaine"), Line(QStringLiteral("Domaine"), block), tr("Chargée de communication"));
+  AddRow(grid, tr("Fonction"), Line(QStringLiteral("Fonction"), block), tr("Chargée de communication"));
   return block;
 }
 
@@ -144,7 +155,7 @@ QWidget* LetterSenderPane::MakeCvs() {
   list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   list_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   list_->setTextElideMode(Qt::ElideMiddle);
-  list_->setFixedHeight(CvRow * static_cast<int>(FormLettre::CvCount) + 4);
+  list_->setFixedHeight(TextPixels(CvRow) * static_cast<int>(FormLettre::CvCount) + 4);
   inside->addWidget(list_);
   column->addWidget(MakeLabel(tr("Reprendre les informations d'un CV"), list_, cvs_));
   column->addWidget(frame);
@@ -180,6 +191,21 @@ void LetterSenderPane::ShowCvs(const FormLettre& form) {
     FillCvs();
   }
   cvs_->setVisible(form.ListeCVVisible);
+}
+
+void LetterSenderPane::FitForms() {
+  const int room = width() - 2 * Edge - scroll_->verticalScrollBar()->sizeHint().width();
+  for (QFormLayout* form : {identity_, career_}) FitRows(*form, room);
+}
+
+void LetterSenderPane::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  FitForms();
+}
+
+void LetterSenderPane::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  FitForms();
 }
 
 bool LetterSenderPane::eventFilter(QObject* watched, QEvent* event) {

@@ -6,9 +6,10 @@
 #include "desktop/widgets/theme.h"
 #include "letters/form_lettre.h"
 
-class QGridLayout;
+class QFormLayout;
 class QLineEdit;
 class QListWidget;
+class QScrollArea;
 
 namespace talvor {
 
@@ -26,18 +27,26 @@ class LetterSenderPane : public QWidget {
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   QWidget* MakeIdentity();
   QWidget* MakeCareer();
   QWidget* MakeCvs();
   QLineEdit* Line(const QString& name, QWidget* parent);
-  void AddRow(QGridLayout* grid, const QString& caption, QWidget* field);
-  void AddPlace(QGridLayout* grid, QWidget* parent);
+  // `usual` is a text that the field shows whole.
+  static void AddRow(QFormLayout* grid, const QString& caption, QWidget* field, const QString& usual);
+  void AddPlace(QFormLayout* grid, QWidget* parent);
   void FillCvs();
   void ChooseCv(int row);
 
+  void FitForms();
+
   const Theme& theme_;
+  QScrollArea* scroll_ = nullptr;
+  QFormLayout* identity_ = nullptr;
+  QFormLayout* career_ = nullptr;
   QList<QWidget*> fields_;  // in the order of reading
   QLineEdit* email_ = nullptr;
   QLineEdit* prenom_ = nullptr;

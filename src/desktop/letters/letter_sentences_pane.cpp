@@ -2,31 +2,32 @@
 
 #include <QHBoxLayout>
 #include <QPlainTextEdit>
-#include <QScrollArea>
 #include <QShortcut>
 
 #include "desktop/letters/letter_tags.h"
 #include "desktop/widgets/bouton_tlv.h"
 #include "desktop/widgets/pane.h"
+#include "desktop/widgets/scrolling.h"
 
 namespace talvor {
 namespace {
 
-constexpr int LeastWidth = 320;
 constexpr int LeastSentence = 58;  // three lines
 constexpr int NarrowPane = 370;    // below it the buttons go without their arrows
 constexpr int Arrow = 14;
 
 // The number of a group, in a disc.
 QLabel* MakeNumber(std::size_t number, const Theme& theme, QWidget* parent) {
-  constexpr int Side = 20;
+  const int side = TextPixels(20);
   auto* disc = new QLabel(QString::number(number), parent);
-  disc->setFixedSize(Side, Side);
+  disc->setFixedSize(side, side);
   disc->setAlignment(Qt::AlignCenter);
-  const auto take = [disc, &theme] {
+  const auto take = [disc, side, &theme] {
     disc->setStyleSheet(
-        QStringLiteral("background: %1; color: %2; border-radius: 10px; font-size: 11px; font-weight: 700;")
-            .arg(theme.Color(QStringLiteral("psoft")).name(), theme.Color(QStringLiteral("onpsoft")).name()));
+        QStringLiteral("background: %1; color: %2; border-radius: %3px; font-size: %4px; font-weight: 700;")
+            .arg(theme.Color(QStringLiteral("psoft")).name(), theme.Color(QStringLiteral("onpsoft")).name())
+            .arg(side / 2)
+            .arg(TextPixels(11)));
   };
   QObject::connect(&theme, &Theme::Changed, disc, take);
   take();
@@ -41,17 +42,13 @@ LetterSentencesPane::LetterSentencesPane(const Theme& theme, QWidget* parent)
   setProperty("pane", true);
   setAttribute(Qt::WA_StyledBackground);
   setAccessibleName(tr("Formules"));
-  setMinimumWidth(LeastWidth);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
   column->addWidget(MakeHead());
   column->addWidget(MakeLine(theme, this));
 
-  auto* scroll = new QScrollArea(this);
-  scroll->setFrameShape(QFrame::NoFrame);
-  scroll->setWidgetResizable(true);
-  scroll->setFocusPolicy(Qt::NoFocus);
+  auto* scroll = new PaneScroll(this);
   QWidget* content = MakePlane(QStringLiteral("window"), scroll);
   auto* cards = new QVBoxLayout(content);
   cards->setContentsMargins(12, 10, 12, 10);
@@ -64,10 +61,12 @@ LetterSentencesPane::LetterSentencesPane(const Theme& theme, QWidget* parent)
 }
 
 QWidget* LetterSentencesPane::MakeHead() {
-  QWidget* head = MakePlane(QStringLiteral("surface"), this);
-  head->setFixedHeight(39);
-  auto* row = new QHBoxLayout(head);
-  row->setContentsMargins(12, 0, 8, 0);
+  auto* head = new FoldingRow(this);
+  head->setProperty("plane", QStringLiteral("surface"));
+  head->setAttribute(Qt::WA_StyledBackground);
+  head->SetLeastHeight(TextPixels(39));
+  QBoxLayout* row = &head->Row();
+  row->setContentsMargins(12, 3, 8, 3);
   auto* title = new QLabel(tr("Formules"), head);
   title->setProperty("role", QStringLiteral("title"));
   QPushButton* edit = MakeLink(theme_, QStringLiteral("edit"), tr("Modifier les p&ropositions"),
@@ -93,7 +92,8 @@ QWidget* LetterSentencesPane::MakeCard(std::size_t group, const QString& name, Q
   sentence->setObjectName(QStringLiteral("Corps%1").arg(group));
   sentence->setAccessibleName(name);
   sentence->setTabChangesFocus(true);
-  sentence->setMinimumHeight(LeastSentence);
+  sentence->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);  // the lines are broken
+  sentence->setMinimumHeight(TextPixels(LeastSentence));
   sentence->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
   sentence->document()->setDocumentMargin(3);
   sentence->setStyleSheet(
@@ -107,9 +107,10 @@ QWidget* LetterSentencesPane::MakeCard(std::size_t group, const QString& name, Q
 }
 
 QWidget* LetterSentencesPane::MakeCardHead(std::size_t group, const QString& name, QWidget* card) {
-  auto* head = new QWidget(card);
-  auto* row = new QHBoxLayout(head);
-  row->setContentsMargins(6, 0, 0, 0);
+  auto* head = new FoldingRow(card);
+  head->Row().setContentsMargins(6, 0, 0, 0);
+  head->Row().setSpacing(6);
+  auto* row = new QHBoxLayout;
   row->setSpacing(6);
   auto* title = new QLabel(name, head);
   QFont bold = title->font();
@@ -117,12 +118,16 @@ QWidget* LetterSentencesPane::MakeCardHead(std::size_t group, const QString& nam
   title->setFont(bold);
   row->addWidget(MakeNumber(group + 1, theme_, head));
   row->addWidget(title, 1);
-  AddButton(group, name, false, head);
-  AddButton(group, name, true, head);
+  auto* steps = new QHBoxLayout;
+  steps->setSpacing(6);
+  for (const bool next : {false, true}) steps->addWidget(MakeButton(group, name, next, head));
+  head->Row().addLayout(row, 1);
+  head->Row().addLayout(steps);
   return head;
 }
 
-void LetterSentencesPane::AddButton(std::size_t group, const QString& name, bool next, QWidget* head) {
+QPushButton* LetterSentencesPane::MakeButton(std::size_t group, const QString& name, bool next,
+                                             QWidget* head) {
   const QString caption = next ? tr("Suivant") : tr("Précédent");
   auto* button = new BoutonTLV(theme_, caption, head);
   button->setObjectName(QStringLiteral("BoutonTLV%1_%2").arg(next ? 2 : 1).arg(group));
@@ -146,12 +151,12 @@ void LetterSentencesPane::AddButton(std::size_t group, const QString& name, bool
   connect(shortcut, &QShortcut::activated, this, press);
   steps_.append(button);
   fields_.append(button);
-  head->layout()->addWidget(button);
+  return button;
 }
 
 void LetterSentencesPane::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
-  const QSize arrow = width() < NarrowPane ? QSize(0, 0) : QSize(Arrow + TextGap, Arrow);
+  const QSize arrow = width() < TextPixels(NarrowPane) ? QSize(0, 0) : QSize(Arrow + TextGap, Arrow);
   for (QAbstractButton* step : steps_) step->setIconSize(arrow);
 }
 

@@ -8,6 +8,7 @@
 #include "letters/letter_model.h"
 
 class QAbstractButton;
+class QPushButton;
 class QPlainTextEdit;
 
 namespace talvor {
@@ -30,7 +31,7 @@ class LetterSentencesPane : public QWidget {
   QWidget* MakeHead();
   QWidget* MakeCard(std::size_t group, const QString& name, QWidget* parent);
   QWidget* MakeCardHead(std::size_t group, const QString& name, QWidget* card);
-  void AddButton(std::size_t group, const QString& name, bool next, QWidget* head);
+  [[nodiscard]] QPushButton* MakeButton(std::size_t group, const QString& name, bool next, QWidget* head);
 
   const Theme& theme_;
   std::array<QPlainTextEdit*, CorpsCount> sentences_{};

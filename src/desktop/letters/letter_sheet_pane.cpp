@@ -8,11 +8,13 @@
 
 #include "desktop/letters/letter_tags.h"
 #include "desktop/widgets/pane.h"
+#include "desktop/widgets/scrolling.h"
+#include "desktop/widgets/segment_button.h"
 
 namespace talvor {
 namespace {
 
-constexpr int LeastWidth = 400;
+constexpr int LeastSheet = 340;
 
 void Check(QButtonGroup& group, const FlagPair& flags) {
   group.setExclusive(false);
@@ -33,7 +35,6 @@ LetterSheetPane::LetterSheetPane(const Theme& theme, QWidget* parent) : QWidget(
   setProperty("pane", true);
   setAttribute(Qt::WA_StyledBackground);
   setAccessibleName(tr("Lettre"));
-  setMinimumWidth(LeastWidth);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
@@ -83,18 +84,19 @@ QButtonGroup* LetterSheetPane::MakeSegments(const QString& name, const QString& 
   auto* segments = new QFrame(this);
   segments->setProperty("seg", true);
   segments->setAccessibleName(spoken);
-  auto* inner = new QHBoxLayout(segments);
+  auto* inner = new QVBoxLayout(segments);
   inner->setContentsMargins(2, 2, 2, 2);
-  inner->setSpacing(2);
+  auto* pair = new FoldingRow(segments);
+  pair->Row().setSpacing(2);
+  inner->addWidget(pair);
   auto* group = new QButtonGroup(segments);
   for (std::size_t i = 0; i < captions.size(); ++i) {
-    auto* option = new QPushButton(captions[i], segments);
+    auto* option = new SegmentButton(captions[i], pair);
     option->setObjectName(QStringLiteral("%1%2").arg(name).arg(i));
-    option->setCheckable(true);
     option->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     option->setToolTip(QString(captions[i]).remove(QLatin1Char('&')));
     group->addButton(option, static_cast<int>(i));
-    inner->addWidget(option, 1);
+    pair->Row().addWidget(option, 1);
     fields_.append(option);
   }
   // Of an exclusive pair only the one that was not chosen is turned over.
@@ -128,6 +130,7 @@ QWidget* LetterSheetPane::MakePaper() {
   letter_->setObjectName(QStringLiteral("Text1"));
   letter_->setAccessibleName(tr("Lettre composée"));
   letter_->setTabChangesFocus(true);
+  letter_->setMinimumWidth(TextPixels(LeastSheet));
   letter_->document()->setDocumentMargin(14);
   new TagHighlighter(theme_, *letter_);
   column->addWidget(letter_, 1);
@@ -156,7 +159,29 @@ void LetterSheetPane::TellNote(const Note& note, const QString& icon, const QStr
                                const QString& text) {
   note.icon->setPixmap(theme_.Pixmap(icon, token, 16));
   note.text->setText(text);
-  note.text->setStyleSheet(QStringLiteral("color: %1; font-size: 12px;").arg(theme_.Color(token).name()));
+  note.text->setStyleSheet(
+      QStringLiteral("color: %1; font-size: %2px;").arg(theme_.Color(token).name()).arg(TextPixels(12)));
+}
+
+// The height of a text on several lines depends on its width: the pane cannot know it beforehand.
+void LetterSheetPane::FitNotes() {
+  for (const Note& note : {edit_, failure_}) {
+    note.text->setMinimumHeight(0);
+    note.text->setMinimumHeight(note.text->heightForWidth(note.text->width()));
+  }
+  // With such a text in it the layout takes the wanted height of the letter for its least, too.
+  setMinimumHeight(layout()->totalHeightForWidth(width()));
+}
+
+void LetterSheetPane::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  FitLater();
+}
+
+// When the layout under way is done.
+void LetterSheetPane::FitLater() {
+  QMetaObject::invokeMethod(
+      this, [this] { FitNotes(); }, Qt::QueuedConnection);
 }
 
 void LetterSheetPane::TellNotes() {
@@ -172,12 +197,16 @@ void LetterSheetPane::TellNotes() {
       failure_, QStringLiteral("warn"), QStringLiteral("bad"),
       tr("Le modèle n’a pas pu être enregistré. Vérifiez son nom et la place disponible\u00A0; un nouvel "
          "essai suivra le prochain changement de la lettre."));
+  FitLater();
 }
 
 void LetterSheetPane::ShowState(const FormLettre& form, bool edited) {
   Check(*modele_, form.Check_Modele);
   Check(*candidature_, form.Check_candidature);
-  object_->setVisible(form.CadreObjetVisible);
+  if (object_->isHidden() == form.CadreObjetVisible) {
+    object_->setVisible(form.CadreObjetVisible);
+    FitLater();
+  }
   if (edited != edited_) {
     edited_ = edited;
     TellNotes();
@@ -185,6 +214,7 @@ void LetterSheetPane::ShowState(const FormLettre& form, bool edited) {
   }
   if (form.saveFailed != failure_.line->isHidden()) return;
   failure_.line->setVisible(form.saveFailed);
+  FitLater();
   if (form.saveFailed) Announce(failure_.text);
 }
 

@@ -28,6 +28,9 @@ class LetterSheetPane : public QWidget {
   [[nodiscard]] QPlainTextEdit& Letter() { return *letter_; }
   [[nodiscard]] const QList<QWidget*>& Fields() const { return fields_; }
 
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
  private:
   // A line of text with an icon before it.
   struct Note {
@@ -45,6 +48,8 @@ class LetterSheetPane : public QWidget {
   Note MakeNote(const QString& name, QWidget* parent);
   void TellNote(const Note& note, const QString& icon, const QString& token, const QString& text);
   void TellNotes();
+  void FitNotes();
+  void FitLater();
 
   const Theme& theme_;
   QList<QWidget*> fields_;  // in the order of reading

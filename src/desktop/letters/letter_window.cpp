@@ -5,11 +5,12 @@
 #include <QPointer>
 #include <QScrollBar>
 #include <QSplitter>
+#include <algorithm>
 
 namespace talvor {
 namespace {
 
-const QList<int> WideSizes{322, 424, 522};
+QList<int> WideSizes() { return {TextPixels(322), TextPixels(424), TextPixels(522)}; }
 
 }  // namespace
 
@@ -25,7 +26,7 @@ LetterWindow::LetterWindow(FormLettre& form, const Theme& theme, QWidget* parent
   sentences_ = new LetterSentencesPane(theme, splitter_);
   sheet_ = new LetterSheetPane(theme, splitter_);
   for (int i = 0; i < splitter_->count(); ++i) splitter_->setStretchFactor(i, i == 2 ? 1 : 0);
-  splitter_->setSizes(WideSizes);
+  splitter_->setSizes(WideSizes());
   row->addWidget(splitter_);
 
   Bind();
@@ -105,17 +106,19 @@ void LetterWindow::showEvent(QShowEvent* event) {
   if (auto* name = findChild<QWidget*>(QStringLiteral("Nom"))) name->setFocus(Qt::OtherFocusReason);
 }
 
-// In a narrow window the letter keeps what it needs; the sender gives way first.
+// In a narrow window the letter keeps what it needs, and the sentences a little.
 void LetterWindow::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
   constexpr int NarrowWindow = 1200;
-  const bool narrow = width() < NarrowWindow;
+  constexpr int NarrowSentences = 300;
+  const bool narrow = width() < TextPixels(NarrowWindow);
   if (narrow == narrow_) return;
   narrow_ = narrow;
-  if (!narrow) return splitter_->setSizes(WideSizes);
-  const int letter = sheet_->minimumWidth();
-  const int sender = sender_->minimumWidth();
-  splitter_->setSizes({sender, width() - sender - letter - 2 * splitter_->handleWidth(), letter});
+  if (!narrow) return splitter_->setSizes(WideSizes());
+  const int letter = sheet_->minimumSizeHint().width();
+  const int room = width() - letter - 2 * splitter_->handleWidth();
+  const int sender = std::max(sender_->minimumSizeHint().width(), room - TextPixels(NarrowSentences));
+  splitter_->setSizes({sender, room - sender, letter});
 }
 
 }  // namespace talvor
