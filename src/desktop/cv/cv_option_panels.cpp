@@ -11,6 +11,7 @@
 
 #include "cv/editor_texts.h"
 #include "desktop/widgets/pane.h"
+#include "desktop/widgets/scrolling.h"
 #include "desktop/widgets/text_edge.h"
 
 namespace talvor {
@@ -97,20 +98,25 @@ void CvOptionPanels::MakeFonts() {
 
 void CvOptionPanels::MakeParagraphs() {
   QWidget* panel = MakePanel(u"FrameParagraphe");
-  auto* grid = new QGridLayout(panel);
-  grid->setContentsMargins(12, 8, 12, 8);
-  grid->setHorizontalSpacing(16);
-  grid->setVerticalSpacing(2);
+  auto* around = new QVBoxLayout(panel);
+  around->setContentsMargins(12, 8, 12, 8);
+  auto* columns = new FoldingRow(panel);
+  columns->Row().setSpacing(2);
+  around->addWidget(columns);
+  std::array<QVBoxLayout*, 2> halves{new QVBoxLayout, new QVBoxLayout};
+  for (QVBoxLayout* half : halves) {
+    half->setSpacing(2);
+    columns->Row().addLayout(half, 1);
+  }
   for (std::size_t i = 0; i < paragraphs_.size(); ++i) {
     auto* box = new QCheckBox(talvor::ToQt(editor_texts::ParagraphLabels[i]), panel);
     box->setObjectName(QStringLiteral("CheckParagraphe%1").arg(i));
     connect(box, &QCheckBox::clicked, this, [this, i] {
       if (OnParagraph) OnParagraph(i);
     });
-    grid->addWidget(box, static_cast<int>(i / 2), static_cast<int>(i % 2));
+    halves[i * halves.size() / paragraphs_.size()]->addWidget(box);
     paragraphs_[i] = box;
   }
-  grid->setColumnStretch(1, 1);
 }
 
 QPushButton* CvOptionPanels::MakeSwatch(std::size_t index, QWidget* panel) {
@@ -128,8 +134,11 @@ QPushButton* CvOptionPanels::MakeSwatch(std::size_t index, QWidget* panel) {
 
 void CvOptionPanels::MakeColours() {
   QWidget* panel = MakePanel(u"CadreCouleur");
-  auto* row = new QHBoxLayout(panel);
-  row->setContentsMargins(12, 10, 12, 10);
+  auto* around = new QVBoxLayout(panel);
+  around->setContentsMargins(12, 10, 12, 10);
+  auto* folding = new FoldingRow(panel);
+  around->addWidget(folding);
+  QBoxLayout* row = &folding->Row();
   row->setSpacing(16);
   auto* grid = new QGridLayout;
   grid->setSpacing(5);
@@ -137,7 +146,10 @@ void CvOptionPanels::MakeColours() {
     swatches_[i] = MakeSwatch(i, panel);
     grid->addWidget(swatches_[i], static_cast<int>(i) / RowOfSwatches, static_cast<int>(i) % RowOfSwatches);
   }
-  row->addLayout(grid);
+  auto* palette = new QHBoxLayout;  // keeps the swatches together
+  palette->addLayout(grid);
+  palette->addStretch(1);
+  row->addLayout(palette);
   auto* side = new QGridLayout;
   side->setHorizontalSpacing(6);
   side->setVerticalSpacing(5);
@@ -158,8 +170,10 @@ void CvOptionPanels::MakeColours() {
     if (OnOtherColour) OnOtherColour();
   });
   side->addWidget(other, 1, 0, 1, 4);
-  row->addLayout(side);
-  row->addStretch(1);
+  auto* chosen = new QHBoxLayout;
+  chosen->addLayout(side);
+  chosen->addStretch(1);
+  row->addLayout(chosen, 1);
 }
 
 void CvOptionPanels::ShowTemplates(const FormRédigerCV& form) {
@@ -168,7 +182,7 @@ void CvOptionPanels::ShowTemplates(const FormRédigerCV& form) {
     templates_->clear();
     for (const Text& row : form.templateRows) templates_->addItem(talvor::ToQt(row));
     const int rows = std::clamp(templates_->count(), 1, MostRows);
-    const int height = std::max(26, templates_->sizeHintForRow(0));
+    const int height = std::max(TextPixels(26), templates_->sizeHintForRow(0));
     templates_->setFixedHeight(rows * height + 4);
   }
   if (!panels_[0]->isHidden()) return;  // the keyboard may stand on another row

@@ -12,12 +12,16 @@
 
 #include "cv/editor_texts.h"
 #include "desktop/widgets/pane.h"
+#include "desktop/widgets/scrolling.h"
 #include "desktop/widgets/text_edge.h"
 
 namespace talvor {
 namespace {
 
-constexpr int LeastPane = 420;
+constexpr int CaptionGap = 8;
+constexpr int EntryGap = 1;
+constexpr int EntryIcon = 16;
+constexpr int EntrySign = 16;  // of a menu
 const QString FlatAtRest = QStringLiteral(
     "QPushButton:!checked:!hover:!focus { background: transparent; border-color: transparent; }");
 
@@ -29,7 +33,6 @@ CvPagePane::CvPagePane(const Theme& theme, QWidget* parent) : QWidget(parent), t
   setProperty("pane", true);
   setAttribute(Qt::WA_StyledBackground);
   setAccessibleName(tr("Page du CV"));
-  setMinimumWidth(LeastPane);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
@@ -61,10 +64,10 @@ QWidget* CvPagePane::MakeEntries() {
                                    {QStringLiteral("print"), tr("Im&primer"), true},
                                    {QStringLiteral("convert"), tr("Con&vertir"), true}}};
   auto* bar = new QWidget(this);
-  bar->setFixedHeight(43);
+  bar->setMinimumHeight(TextPixels(43));
   auto* row = new QHBoxLayout(bar);
   row->setContentsMargins(4, 0, 4, 0);
-  row->setSpacing(1);
+  row->setSpacing(EntryGap);
   for (std::size_t i = 0; i < rows.size(); ++i) {
     auto* entry = new QPushButton(rows[i].caption, bar);
     entry->setObjectName(QStringLiteral("Entree%1").arg(i));
@@ -100,30 +103,53 @@ void CvPagePane::AddChevron(QPushButton& entry) {
   entry.setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
-// In a narrow pane words come before pictures.
-void CvPagePane::resizeEvent(QResizeEvent* event) {
-  QWidget::resizeEvent(event);
-  constexpr int Narrow = 560;
-  constexpr int Icon = 16;
-  const bool narrow = width() < Narrow;
+int CvPagePane::EntryPadding(bool icons) { return icons ? 8 : 4; }
+
+int CvPagePane::EntriesWidth(bool icons) const {
+  constexpr int Edges = 6;
+  int width = 2 * Edges;
+  for (const QPushButton* entry : entries_) {
+    const int text = entry->fontMetrics().size(Qt::TextShowMnemonic, entry->text()).width();
+    width += text + 2 * EntryPadding(icons) + Edges + EntryGap + (icons ? EntryIcon + 2 * TextGap : 0) +
+             (entry->isCheckable() ? 0 : EntrySign);
+  }
+  return width;
+}
+
+// In a narrow pane words come before pictures, and the captions of the fields go before their row folds.
+void CvPagePane::Fit() {
+  const bool icons = width() >= EntriesWidth(true);
   for (QPushButton* entry : entries_) {
-    entry->setIconSize(narrow ? QSize(0, 0) : QSize(Icon + TextGap, Icon));
-    const int side = narrow ? 4 : 8;
-    constexpr int Sign = 16;
+    entry->setIconSize(icons ? QSize(EntryIcon + TextGap, EntryIcon) : QSize(0, 0));
+    const int side = EntryPadding(icons);
     entry->setStyleSheet(FlatAtRest + QStringLiteral("QPushButton { padding: 0 %1px 0 %2px; }")
-                                          .arg(entry->isCheckable() ? side : side + Sign)
+                                          .arg(entry->isCheckable() ? side : side + EntrySign)
                                           .arg(side));
   }
-  for (QLabel* caption : captions_) caption->setHidden(narrow);
+  int captions = 0;
+  for (const QLabel* caption : captions_) captions += caption->sizeHint().width() + CaptionGap;
+  const int bare = options_->WholeWidth() - (captions_[0]->isHidden() ? 0 : captions);
+  const bool hidden = bare <= width() && bare + captions > width();
+  for (QLabel* caption : captions_)
+    if (caption->isHidden() != hidden) caption->setHidden(hidden);
+  setMinimumWidth(std::max({EntriesWidth(false), options_->minimumSizeHint().width(),
+                            panels_->isHidden() ? 0 : panels_->minimumSizeHint().width()}));
+}
+
+void CvPagePane::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  Fit();
+}
+
+void CvPagePane::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  Fit();
 }
 
 QLineEdit* CvPagePane::MakeChoice(const char16_t* name, const QString& image, const QString& spoken,
                                   std::function<void()> CvPagePane::*open, QWidget* bar) {
   auto* field = new QLineEdit(bar);
   field->setObjectName(QString::fromUtf16(name));
-  constexpr int Least = 70;
-  field->setMinimumWidth(Least);
-  field->setMaximumWidth(Least);  // until its entries are known
   field->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
   field->setCursorPosition(0);
   field->installEventFilter(this);
@@ -141,42 +167,51 @@ QLineEdit* CvPagePane::MakeChoice(const char16_t* name, const QString& image, co
   return field;
 }
 
-// As wide as its longest entry, where the pane has that room.
+// As wide as its longest entry, but for a name of the user that is longer than most.
 void CvPagePane::GiveRoom(QLineEdit& field, const QString& entry) {
-  constexpr int SignAndEdges = 50;
-  const int wanted = field.fontMetrics().horizontalAdvance(entry) + SignAndEdges;
-  if (field.maximumWidth() < wanted) field.setMaximumWidth(wanted);
+  constexpr int Sign = 26;
+  constexpr int MostLeast = 170;
+  const int wanted = FieldWidth(field, entry) + Sign;
+  field.setMinimumWidth(std::max(field.minimumWidth(), std::min(wanted, TextPixels(MostLeast))));
+  const int most = field.maximumWidth() == QWIDGETSIZE_MAX ? 0 : field.maximumWidth();
+  field.setMaximumWidth(std::max({most, wanted, field.minimumWidth()}));
 }
 
 QWidget* CvPagePane::MakeOptions() {
-  auto* bar = new QWidget(this);
-  bar->setFixedHeight(39);
-  auto* row = new QHBoxLayout(bar);
-  row->setContentsMargins(12, 0, 12, 0);
-  row->setSpacing(8);
+  options_ = new FoldingRow(this);
+  options_->SetLeastHeight(TextPixels(39));
+  options_->Row().setContentsMargins(12, 3, 12, 3);
+  options_->Row().setSpacing(8);
   template_ = MakeChoice(u"NomModele", QStringLiteral("Image2"), tr("Choisir un modèle"),
-                         &CvPagePane::OnTemplates, bar);
+                         &CvPagePane::OnTemplates, options_);
   // A name that is typed would be that of no file: the list chooses.
   template_->setReadOnly(true);
-  font_ =
-      MakeChoice(u"Police", QStringLiteral("Image3"), tr("Choisir une police"), &CvPagePane::OnFonts, bar);
-  captions_ = {MakeLabel(tr("Modèle"), template_, bar), MakeLabel(tr("Police"), font_, bar)};
-  row->addWidget(captions_[0]);
-  row->addWidget(template_, 3);  // the names of templates are the users' own
-  row->addWidget(captions_[1]);
-  row->addWidget(font_, 1);
-  row->addStretch(0);
+  font_ = MakeChoice(u"Police", QStringLiteral("Image3"), tr("Choisir une police"), &CvPagePane::OnFonts,
+                     options_);
+  captions_ = {MakeLabel(tr("Modèle"), template_, options_), MakeLabel(tr("Police"), font_, options_)};
+  auto* choices = new QHBoxLayout;
+  choices->setSpacing(CaptionGap);
+  choices->addWidget(captions_[0]);
+  choices->addWidget(template_, 3);  // the names of templates are the users' own
+  choices->addWidget(captions_[1]);
+  choices->addWidget(font_, 1);
+  choices->addStretch(0);
+  options_->Row().addLayout(choices, 1);
   for (const TextView font : editor_texts::Fonts) GiveRoom(*font_, ToQt(font));
+  auto* checks = new QHBoxLayout;
+  checks->setSpacing(8);
   for (std::size_t i = 0; i < dispositions_.size(); ++i) {
-    auto* box = new QCheckBox(QLatin1Char('&') + ToQt(editor_texts::DispositionLabels[i]), bar);
+    auto* box = new QCheckBox(QLatin1Char('&') + ToQt(editor_texts::DispositionLabels[i]), options_);
     box->setObjectName(QStringLiteral("CheckDisposition%1").arg(i));
     connect(box, &QCheckBox::clicked, this, [this, i] {
       if (OnDisposition) OnDisposition(i);
     });
-    row->addWidget(box);
+    checks->addWidget(box);
     dispositions_[i] = box;
   }
-  return bar;
+  checks->addStretch(1);
+  options_->Row().addLayout(checks);
+  return options_;
 }
 
 void CvPagePane::Show(const FormRédigerCV& form) {
@@ -187,6 +222,7 @@ void CvPagePane::Show(const FormRédigerCV& form) {
     dispositions_[i]->setChecked(form.CheckDisposition[i]);
   for (const Text& name : form.templateRows) GiveRoom(*template_, ToQt(name));
   panels_->Show(form);
+  Fit();
 }
 
 void CvPagePane::StepFont(int step) {

@@ -18,6 +18,8 @@ class QPushButton;
 
 namespace talvor {
 
+class FoldingRow;
+
 class CvPagePane : public QWidget {
  public:
   CvPagePane(const Theme& theme, QWidget* parent);
@@ -34,9 +36,13 @@ class CvPagePane : public QWidget {
  protected:
   // The arrows step through the open list of the field that has the focus.
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void showEvent(QShowEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:
+  void Fit();
+  [[nodiscard]] static int EntryPadding(bool icons);
+  [[nodiscard]] int EntriesWidth(bool icons) const;
   QWidget* MakeEntries();
   QWidget* MakeOptions();
   static void GiveRoom(QLineEdit& field, const QString& entry);
@@ -47,6 +53,7 @@ class CvPagePane : public QWidget {
 
   const Theme& theme_;
   std::array<QPushButton*, 5> entries_{};
+  FoldingRow* options_ = nullptr;
   QLineEdit* template_ = nullptr;
   QLineEdit* font_ = nullptr;
   std::array<QCheckBox*, 2> dispositions_{};

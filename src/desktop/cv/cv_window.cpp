@@ -11,7 +11,7 @@
 namespace talvor {
 namespace {
 
-const QList<int> WideSizes{684, 590};
+QList<int> WideSizes() { return {TextPixels(684), TextPixels(590)}; }
 
 }  // namespace
 
@@ -27,7 +27,7 @@ CvWindow::CvWindow(FormRédigerCV& form, QtMenus& menus, const Theme& theme, QWi
   page_ = new CvPagePane(theme, splitter_);
   splitter_->setStretchFactor(0, 0);
   splitter_->setStretchFactor(1, 1);
-  splitter_->setSizes(WideSizes);
+  splitter_->setSizes(WideSizes());
   row->addWidget(splitter_);
 
   BindFields();
@@ -157,11 +157,11 @@ void CvWindow::Refresh() {
 void CvWindow::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
   constexpr int NarrowWindow = 1200;
-  const bool narrow = width() < NarrowWindow;
+  const bool narrow = width() < TextPixels(NarrowWindow);
   if (narrow == narrow_) return;
   narrow_ = narrow;
-  const int zones = zones_->minimumWidth();
-  splitter_->setSizes(narrow ? QList<int>{zones, width() - zones - splitter_->handleWidth()} : WideSizes);
+  const int zones = zones_->minimumSizeHint().width();
+  splitter_->setSizes(narrow ? QList<int>{zones, width() - zones - splitter_->handleWidth()} : WideSizes());
 }
 
 void CvWindow::showEvent(QShowEvent* event) {

@@ -27,7 +27,9 @@ QPlainTextEdit* MakeTextField(TextView field, int height, QWidget* parent) {
   text->setObjectName(ToQt(field));
   text->setAccessibleName(ZoneCaption(field));
   text->setTabChangesFocus(true);
-  text->setMinimumHeight(height);
+  text->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);  // the lines are broken
+  constexpr int Least = 170;
+  text->setMinimumSize(TextPixels(Least), TextPixels(height));
   text->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   return text;
 }

@@ -5,14 +5,15 @@
 #include <QGridLayout>
 #include <QImage>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <algorithm>
 
 #include "cv/editor_texts.h"
+#include "desktop/cv/cv_identity_form.h"
 #include "desktop/cv/cv_zone_fields.h"
 #include "desktop/widgets/pane.h"
+#include "desktop/widgets/scrolling.h"
 #include "desktop/widgets/text_edge.h"
 
 namespace talvor {
@@ -21,7 +22,6 @@ namespace {
 constexpr QSize PhotoSize{92, 112};
 constexpr int RowGap = 4;
 constexpr int ColumnGap = 14;
-constexpr int LeastPane = 520;
 const char* const HelpIcon = "helpIcon";
 
 struct HelpPlace {
@@ -46,20 +46,14 @@ QToolButton* MakeFlat(const Theme& theme, const QString& icon, const QString& na
   return button;
 }
 
-// A row of the identity: a label and one or two fields.
-void AddFields(QGridLayout* grid, int row, int column, QLabel* label, QWidget* field,
-               QWidget* second = nullptr, int narrow = 0) {
-  grid->addWidget(label, row, column);
-  if (second == nullptr) {
-    grid->addWidget(field, row, column + 1);
-    return;
-  }
-  auto* pair = new QHBoxLayout;
-  pair->setSpacing(5);
-  field->setFixedWidth(narrow);
-  pair->addWidget(field);
-  pair->addWidget(second, 1);
-  grid->addLayout(pair, row, column + 1);
+// Several fields that count as one.
+QWidget* Together(const QList<QWidget*>& fields, QWidget* parent) {
+  auto* together = new QWidget(parent);
+  auto* row = new QHBoxLayout(together);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->setSpacing(5);
+  for (QWidget* field : fields) row->addWidget(field);
+  return together;
 }
 
 }  // namespace
@@ -70,18 +64,14 @@ CvZonesPane::CvZonesPane(const Theme& theme, QWidget* parent) : QWidget(parent),
   setProperty("pane", true);
   setAttribute(Qt::WA_StyledBackground);
   setAccessibleName(ToQt(editor_texts::ZonesLabel));
-  setMinimumWidth(LeastPane);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
   column->addWidget(MakeTitleBar());
   column->addWidget(MakeLine(theme, this));
 
-  scroll_ = new QScrollArea(this);
-  scroll_->setFrameShape(QFrame::NoFrame);
-  scroll_->setWidgetResizable(true);
-  scroll_->setFocusPolicy(Qt::NoFocus);
-  content_ = MakePlane(QStringLiteral("surface"), scroll_);
+  auto* scroll = new PaneScroll(this);
+  content_ = MakePlane(QStringLiteral("surface"), scroll);
   content_->setObjectName(QStringLiteral("Frame1"));
   auto* stack = new QVBoxLayout(content_);
   stack->setContentsMargins(12, 9, 12, 10);
@@ -96,28 +86,26 @@ CvZonesPane::CvZonesPane(const Theme& theme, QWidget* parent) : QWidget(parent),
   stack->addLayout(zones_, 1);
   MakeZones();
   PlaceZones();
-  scroll_->setWidget(content_);
-  column->addWidget(scroll_, 1);
+  scroll->setWidget(content_);
+  column->addWidget(scroll, 1);
 }
 
 QWidget* CvZonesPane::MakeTitleBar() {
   auto* bar = new QWidget(this);
-  bar->setFixedHeight(39);
+  bar->setMinimumHeight(TextPixels(39));
   auto* row = new QHBoxLayout(bar);
   row->setContentsMargins(12, 0, 8, 0);
   row->setSpacing(2);
-  title_ = new QLabel(bar);
+  title_ = MakeElidedLabel(bar);
   title_->setObjectName(QStringLiteral("Label5"));
   title_->setProperty("role", QStringLiteral("title"));
-  title_->setTextFormat(Qt::PlainText);
-  title_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   row->addWidget(title_, 1);
   auto* generate =
       MakeFlat(theme_, QStringLiteral("refresh"), QStringLiteral("Génère"), tr("Actualiser la page"), bar);
   compactButton_ = MakeFlat(theme_, QStringLiteral("strip"), QStringLiteral("BoutonTLV1"),
                             tr("Disposition compacte"), bar);
   for (QToolButton* button : {generate, compactButton_}) {
-    button->setFixedSize(30, 30);
+    button->setFixedSize(TextPixels(28) + 2, TextPixels(28) + 2);
     row->addWidget(button);
   }
   connect(generate, &QToolButton::clicked, this, [this] {
@@ -137,7 +125,7 @@ QWidget* CvZonesPane::MakeIdentityBox() {
   column->setSpacing(RowGap);
   constexpr int Height = 120;
   QPlainTextEdit* text = MakeTextField(u"Identite", Height, box);
-  text->setFixedHeight(Height);
+  text->setFixedHeight(TextPixels(Height));
   QLabel* label = MakeZoneLabel(u"Identite", QLatin1Char('I'), text, box);
   column->addWidget(label);
   column->addWidget(text);
@@ -158,48 +146,45 @@ QWidget* CvZonesPane::MakeIdentity() {
   auto* row = new QHBoxLayout(block);
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(ColumnGap);
-  auto* grid = identity_ = new QGridLayout;
-  grid->setHorizontalSpacing(6);
-  grid->setVerticalSpacing(RowGap);
-  grid->setColumnStretch(1, 1);
-  grid->setColumnStretch(4, 1);
-  grid->setColumnMinimumWidth(2, ColumnGap - 12);
-  row->addLayout(grid, 1);
+  identity_ = new CvIdentityForm(block);
+  row->addWidget(identity_, 1);
   // Made in the order of reading, which is that of the Tab key.
-  AddAddress(*grid, block);
-  AddMailAndSituation(*grid, block);
-  AddBirthAndFamily(*grid, block);
+  AddAddress();
+  AddMailAndSituation();
+  AddBirthAndFamily();
   row->addWidget(MakePhotoBox());
   return block;
 }
 
-// Rows 0 to 3: name, address, telephone.
-void CvZonesPane::AddAddress(QGridLayout& grid, QWidget* block) {
-  const auto pair = [&](int row, TextView left, TextView right, QChar key = {}) {
-    QLineEdit* first = MakeLineField(left, block);
-    QLineEdit* second = MakeLineField(right, block);
-    AddFields(&grid, row, 0, MakeZoneLabel(left, key, first, block), first);
-    AddFields(&grid, row, 3, MakeZoneLabel(right, {}, second, block), second);
-  };
-  pair(0, u"Nom", u"Prénom", QLatin1Char('N'));
-  pair(1, u"Adresse1", u"Adresse2");
-  QLineEdit* code = MakeLineField(u"CP", block);
-  QLineEdit* town = MakeLineField(u"Ville", block);
-  QLineEdit* country = MakeLineField(u"Pays", block);
-  constexpr int LeastTown = 56;
-  town->setMinimumWidth(LeastTown);
-  const int digits = fontMetrics().horizontalAdvance(QStringLiteral("00000")) + 20;
-  AddFields(&grid, 2, 0, MakeZoneLabel(u"CP", {}, code, block), code, town, digits);
-  AddFields(&grid, 2, 3, MakeZoneLabel(u"Pays", {}, country, block), country);
-  code->setAccessibleName(tr("Code postal"));
-  town->setAccessibleName(tr("Ville"));
-  pair(3, u"Tel", u"Mob");
+// `usual` is a text that the field shows whole.
+QLineEdit* CvZonesPane::AddLine(TextView field, const QString& usual, QChar key) {
+  QLineEdit* line = MakeLineField(field, identity_);
+  line->setMinimumWidth(FieldWidth(*line, usual));
+  identity_->Add(MakeZoneLabel(field, key, line, identity_), line);
+  return line;
 }
 
-// Row 4.
-void CvZonesPane::AddMailAndSituation(QGridLayout& grid, QWidget* block) {
-  QLineEdit* mail = MakeLineField(u"Email", block);
-  auto* situation = new QComboBox(block);
+// Name, address, telephone.
+void CvZonesPane::AddAddress() {
+  AddLine(u"Nom", tr("Marchand"), QLatin1Char('N'));
+  AddLine(u"Prénom", tr("Jean-Christophe"));
+  AddLine(u"Adresse1", tr("18 quai des Tanneurs"));
+  AddLine(u"Adresse2", tr("18 quai des Tanneurs"));
+  QLineEdit* code = MakeLineField(u"CP", identity_);
+  QLineEdit* town = MakeLineField(u"Ville", identity_);
+  code->setFixedWidth(FieldWidth(*code, QStringLiteral("00000")));
+  town->setMinimumWidth(FieldWidth(*town, tr("Grenoble")));
+  identity_->Add(MakeZoneLabel(u"CP", {}, code, identity_), Together({code, town}, identity_));
+  code->setAccessibleName(tr("Code postal"));
+  town->setAccessibleName(tr("Ville"));
+  AddLine(u"Pays", tr("Française"));
+  AddLine(u"Tel", tr("06 00 00 00 00"));
+  AddLine(u"Mob", tr("06 00 00 00 00"));
+}
+
+void CvZonesPane::AddMailAndSituation() {
+  AddLine(u"Email", tr("prenom.nom@fournisseur.com"));
+  auto* situation = new QComboBox(identity_);
   situation->setObjectName(QStringLiteral("ListeSituations"));
   situation->setEditable(true);
   situation->setInsertPolicy(QComboBox::NoInsert);
@@ -209,44 +194,35 @@ void CvZonesPane::AddMailAndSituation(QGridLayout& grid, QWidget* block) {
   situation->lineEdit()->setObjectName(QStringLiteral("Situation"));
   situation->lineEdit()->setStyleSheet(
       QStringLiteral("border: 0; padding: 0; min-height: 0; background: transparent;"));
-  situation->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
   connect(situation, &QComboBox::activated, this, [this](int index) {
     if (OnSituation) OnSituation(static_cast<std::size_t>(index));
   });
-  AddFields(&grid, 4, 0, MakeZoneLabel(u"Email", {}, mail, block), mail);
-  AddFields(&grid, 4, 3, MakeZoneLabel(u"Situation", {}, situation, block), situation);
+  identity_->Add(MakeZoneLabel(u"Situation", {}, situation, identity_), situation);
   situation->lineEdit()->setAccessibleName(ZoneCaption(u"Situation"));
 }
 
-// Row 5.
-void CvZonesPane::AddBirthAndFamily(QGridLayout& grid, QWidget* block) {
-  QLineEdit* birth = MakeLineField(u"DateNaissance", block);
-  QLineEdit* place = MakeLineField(u"LieuNaissance", block);
-  const int date = fontMetrics().horizontalAdvance(QStringLiteral("00/00/0000")) + 24;
-  AddFields(&grid, 5, 0, MakeZoneLabel(u"DateNaissance", {}, birth, block), birth, place, date);
-  birthRow_ = static_cast<QHBoxLayout*>(grid.itemAtPosition(5, 1)->layout());
-  birthplace_ = place;
+void CvZonesPane::AddBirthAndFamily() {
+  QLineEdit* birth = MakeLineField(u"DateNaissance", identity_);
+  QLineEdit* place = MakeLineField(u"LieuNaissance", identity_);
+  birth->setFixedWidth(FieldWidth(*birth, QStringLiteral("00/00/0000")));
+  place->setMinimumWidth(FieldWidth(*place, tr("Grenoble")));
+  identity_->Add(MakeZoneLabel(u"DateNaissance", {}, birth, identity_), Together({birth, place}, identity_));
   place->setPlaceholderText(tr("Lieu"));
   birth->setAccessibleName(tr("Date de naissance"));
   place->setAccessibleName(tr("Lieu de naissance"));
-  QLineEdit* age = MakeLineField(u"Age", block);
-  QLineEdit* children = MakeLineField(u"NbEnfants", block);
-  grid.addWidget(MakeZoneLabel(u"Age", {}, age, block), 5, 3);
-  auto* family = new QHBoxLayout;
-  family->setSpacing(5);
-  age->setFixedWidth(36);
-  children->setFixedWidth(34);
-  family->addWidget(age);
-  family->addStretch(1);
-  family->addWidget(children);
-  family->addWidget(MakeZoneLabel(u"NbEnfants", {}, children, block));
-  grid.addLayout(family, 5, 4);
+  QLineEdit* age = MakeLineField(u"Age", identity_);
+  QLineEdit* children = MakeLineField(u"NbEnfants", identity_);
+  for (QLineEdit* number : {age, children}) number->setFixedWidth(FieldWidth(*number, QStringLiteral("00")));
+  QWidget* family =
+      Together({age, children, MakeZoneLabel(u"NbEnfants", {}, children, identity_)}, identity_);
+  static_cast<QHBoxLayout*>(family->layout())->insertStretch(1, 1);
+  identity_->Add(MakeZoneLabel(u"Age", {}, age, identity_), family);
   children->setAccessibleName(tr("Nombre d’enfants"));
 }
 
 QWidget* CvZonesPane::MakePhotoBox() {
   auto* box = new QWidget(content_);
-  box->setFixedWidth(PhotoSize.width());
+  box->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
   auto* column = new QVBoxLayout(box);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(RowGap);
@@ -262,7 +238,7 @@ QWidget* CvZonesPane::MakePhotoBox() {
     photoShown_ = false;
     ShowPhoto(std::string(shownPhoto_));
   });
-  column->addWidget(photo_);
+  column->addWidget(photo_, 0, Qt::AlignHCenter);
   column->addWidget(MakeZoneLabel(u"Photo", {}, photo_, box));
   auto* browse = new QPushButton(ZoneCaption(u"CopierPhoto"), box);
   browse->setObjectName(QStringLiteral("CopierPhoto"));
@@ -299,9 +275,11 @@ QWidget* CvZonesPane::MakeFunction() {
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(6);
   QLineEdit* function = MakeLineField(u"Fonction", block);
-  constexpr int LabelColumn = 60;
   QLabel* label = MakeZoneLabel(u"Fonction", QLatin1Char('F'), function, block);
-  label->setMinimumWidth(LabelColumn);
+  // In one line with the fields above.
+  for (const TextView above : {u"Nom", u"Adresse1", u"CP", u"Tel", u"Email", u"DateNaissance"})
+    label->setMinimumWidth(
+        std::max(label->minimumWidth(), fontMetrics().horizontalAdvance(ZoneCaption(above))));
   row->addWidget(label);
   row->addWidget(function, 1);
   row->addWidget(MakeHelp(u"Fonction", block));
@@ -317,10 +295,9 @@ QWidget* CvZonesPane::MakeZone(TextView field, QChar key, int height) {
   auto* head = new QHBoxLayout;
   head->setSpacing(4);
   QLabel* label = MakeZoneLabel(field, key, text, zone);
-  label->setStyleSheet(QStringLiteral("font-size: 12px;"));
-  label->setMinimumHeight(22);
-  label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-  label->setToolTip(ZoneCaption(field));
+  label->setStyleSheet(QStringLiteral("font-size: %1px;").arg(TextPixels(12)));
+  label->setMinimumHeight(TextPixels(22));
+  label->setWordWrap(true);
   head->addWidget(label, 1);
   if (QToolButton* help = MakeHelp(field, zone)) head->addWidget(help);
   column->addLayout(head);
@@ -397,39 +374,6 @@ void CvZonesPane::SetCompact(bool compact) {
   if (compact == compact_) return;
   compact_ = compact;
   PlaceZones();
-}
-
-// The fields never slide out of sight sideways.
-void CvZonesPane::showEvent(QShowEvent* event) {
-  QWidget::showEvent(event);
-  constexpr int ScrollBar = 12;
-  setMinimumWidth(std::max(LeastPane, content_->minimumSizeHint().width() + ScrollBar));
-  PlaceBirthplace();
-}
-
-// Beside its date, or on a row of its own where too little of the row is left.
-void CvZonesPane::PlaceBirthplace() {
-  constexpr int Row = 6;
-  constexpr int Column = 1;
-  constexpr int LeastPlace = 60;
-  // What the pane has beyond its least width goes to both columns of fields alike.
-  const bool below = width() < minimumWidth() + 2 * (LeastPlace - LeastField);
-  if (below == birthplaceBelow_) return;
-  birthplaceBelow_ = below;
-  if (below) {
-    birthRow_->removeWidget(birthplace_);
-    birthRow_->addStretch(1);
-    identity_->addWidget(birthplace_, Row, Column);
-  } else {
-    identity_->removeWidget(birthplace_);
-    delete birthRow_->takeAt(1);
-    birthRow_->addWidget(birthplace_, 1);
-  }
-}
-
-void CvZonesPane::resizeEvent(QResizeEvent* event) {
-  QWidget::resizeEvent(event);
-  PlaceBirthplace();
 }
 
 bool CvZonesPane::eventFilter(QObject* watched, QEvent* event) {

@@ -9,17 +9,16 @@
 #include "desktop/cv/cv_language_grid.h"
 #include "desktop/widgets/theme.h"
 
-class QComboBox;
 class QGridLayout;
-class QHBoxLayout;
 class QLabel;
 class QLineEdit;
 class QPlainTextEdit;
-class QScrollArea;
 class QToolButton;
 class QVBoxLayout;
 
 namespace talvor {
+
+class CvIdentityForm;
 
 class CvZonesPane : public QWidget {
  public:
@@ -43,33 +42,27 @@ class CvZonesPane : public QWidget {
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
-  void showEvent(QShowEvent* event) override;
-  void resizeEvent(QResizeEvent* event) override;
 
  private:
   QWidget* MakeTitleBar();
   QWidget* MakeIdentityBox();
   QWidget* MakeIdentity();
-  void AddAddress(QGridLayout& grid, QWidget* block);
-  void AddMailAndSituation(QGridLayout& grid, QWidget* block);
-  void AddBirthAndFamily(QGridLayout& grid, QWidget* block);
+  QLineEdit* AddLine(TextView field, const QString& usual, QChar key = {});
+  void AddAddress();
+  void AddMailAndSituation();
+  void AddBirthAndFamily();
   QWidget* MakePhotoBox();
   QWidget* MakeFunction();
   QWidget* MakeZone(TextView field, QChar key, int height);
   QToolButton* MakeHelp(TextView field, QWidget* parent);
   void MakeZones();
   void PlaceZones();
-  void PlaceBirthplace();
 
   const Theme& theme_;
   QLabel* title_;
-  QScrollArea* scroll_;
   QWidget* content_;
   QWidget* identityBox_;
-  QGridLayout* identity_;
-  QHBoxLayout* birthRow_;
-  QLineEdit* birthplace_;
-  bool birthplaceBelow_ = false;
+  CvIdentityForm* identity_;
   QGridLayout* zones_;
   std::array<QWidget*, 7> zoneOf_{};
   CvLanguageGrid* languages_;
