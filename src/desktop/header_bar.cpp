@@ -14,9 +14,11 @@
 namespace talvor {
 namespace {
 
-constexpr QSize SlotSize{66, 56};
-constexpr QSize CandidatureSlotSize{94, 56};
-constexpr QSize ButtonSize{58, 56};
+// In pixels at the usual size of text.
+constexpr int SlotWidth = 66;
+constexpr int CandidatureSlotWidth = 94;
+constexpr int ButtonWidth = 58;
+constexpr int NameFont = 18;
 constexpr int NarrowWindow = 1200;     // the name and `Information` go
 constexpr int NarrowestWindow = 1100;  // slots show their picture alone
 
@@ -25,7 +27,7 @@ class Tray : public QFrame {
  public:
   Tray(const Theme& theme, QWidget* parent) : QFrame(parent), theme_(theme) {
     setProperty("tray", true);
-    setFixedHeight(SlotSize.height() + 4);
+    setFixedHeight(IconTile::Height() + 4);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(2, 2, 2, 2);
@@ -72,7 +74,7 @@ QString IconOf(const MenuSlot& slot) {
 HeaderBar::HeaderBar(Principale& principale, const Theme& theme, QWidget* parent)
     : QFrame(parent), principale_(principale), theme_(theme) {
   setObjectName(QStringLiteral("Entete"));
-  setFixedHeight(68);
+  setFixedHeight(IconTile::Height() + 12);
   // A menu that opened at once would swallow the second click.
   constexpr int LongestWait = 250;
   doubleClick_.setSingleShot(true);
@@ -115,10 +117,11 @@ void HeaderBar::MakeLogo() {
   logo_->setAccessibleName(tr("Talvor, à propos"));
   logo_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   QFont face = logo_->font();
-  face.setPixelSize(18);
+  face.setPixelSize(TextPixels(NameFont));
   face.setWeight(QFont::DemiBold);
   logo_->setFont(face);
-  logo_->setStyleSheet(QStringLiteral("QToolButton { font-size: 18px; font-weight: 600; padding: 2px; }"));
+  logo_->setStyleSheet(QStringLiteral("QToolButton { font-size: %1px; font-weight: 600; padding: 2px; }")
+                           .arg(TextPixels(NameFont)));
   constexpr int Side = 34;
   QPixmap picture(Side * 2, Side * 2);
   picture.fill(Qt::transparent);
@@ -137,10 +140,10 @@ IconTile* HeaderBar::MakeButton(const QString& icon, const QString& caption, con
                                 std::function<void()> HeaderBar::*click) {
   // A wide font widens the button rather than cut its caption.
   QFont face = font();
-  face.setPixelSize(IconTile::CaptionFont);
+  face.setPixelSize(TextPixels(IconTile::CaptionFont));
   constexpr int Margin = 10;
   const int needed = QFontMetrics(face).size(Qt::TextShowMnemonic, caption).width() + Margin;
-  auto* button = new IconTile(theme_, {std::max(ButtonSize.width(), needed), ButtonSize.height()}, this);
+  auto* button = new IconTile(theme_, {std::max(ButtonWidth, needed), IconTile::Height()}, this);
   button->setObjectName(name);
   button->setText(caption);
   button->SetLook({.icon = icon});
@@ -162,8 +165,8 @@ QWidget* HeaderBar::MakeTray(std::size_t from, std::size_t to, const QString& na
 }
 
 void HeaderBar::MakeSlot(std::size_t index, QWidget* tray) {
-  auto* slot =
-      new IconTile(theme_, index == Principale::CandidatureSlot ? CandidatureSlotSize : SlotSize, tray);
+  const int wide = index == Principale::CandidatureSlot ? CandidatureSlotWidth : SlotWidth;
+  auto* slot = new IconTile(theme_, {TextPixels(wide), IconTile::Height()}, tray);
   slot->setObjectName(QStringLiteral("ImageMenu%1").arg(index));
   QSizePolicy policy = slot->sizePolicy();
   policy.setRetainSizeWhenHidden(true);
@@ -208,7 +211,7 @@ void HeaderBar::MoveFocus(std::size_t index, int step) {
 
 void HeaderBar::HoverSlot(std::size_t index, bool over) {
   if (index == Principale::CandidatureSlot) SurvolerCandidatures(principale_, over);
-  if (over && width() >= NarrowWindow) ShowInformation(SlotInformation(principale_, index));
+  if (over && width() >= TextPixels(NarrowWindow)) ShowInformation(SlotInformation(principale_, index));
 }
 
 void HeaderBar::ShowInformation(TextView text) { information_->setText(ToQt(text)); }
@@ -241,10 +244,10 @@ void HeaderBar::Refresh(TextView page) {
 
 void HeaderBar::resizeEvent(QResizeEvent* event) {
   QFrame::resizeEvent(event);
-  const bool narrow = width() < NarrowWindow;
+  const bool narrow = width() < TextPixels(NarrowWindow);
   if (narrow) information_->clear();
   logo_->setToolButtonStyle(narrow ? Qt::ToolButtonIconOnly : Qt::ToolButtonTextBesideIcon);
-  for (IconTile* slot : slots_) slot->SetCompact(width() < NarrowestWindow);
+  for (IconTile* slot : slots_) slot->SetCompact(width() < TextPixels(NarrowestWindow));
 }
 
 // A pointer over the label empties it.

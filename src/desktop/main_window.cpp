@@ -4,16 +4,19 @@
 #include <QCloseEvent>
 #include <QQuickWidget>
 #include <QScreen>
+#include <QScrollArea>
 #include <QShortcut>
 #include <QVBoxLayout>
 
 #include "desktop/platform/window_place.h"
+#include "desktop/widgets/scrolling.h"
 
 namespace talvor {
 namespace {
 
 constexpr QSize FirstSize{1280, 800};
-constexpr QSize LeastSize{1000, 600};
+// The header fits in; what does not fit of a page scrolls.
+constexpr QSize LeastSize{840, 440};
 
 }  // namespace
 
@@ -29,9 +32,18 @@ MainWindow::MainWindow(Principale& principale, QtShell& shell, const Theme& them
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
   header_ = new HeaderBar(principale, theme, centre);
-  pages_ = new QStackedWidget(centre);
+  pages_ = new PageStack(centre);
   column->addWidget(header_);
-  column->addWidget(pages_, 1);
+  auto* scroll = new QScrollArea(centre);
+  scroll->setFrameShape(QFrame::NoFrame);
+  scroll->setWidgetResizable(true);
+  scroll->setFocusPolicy(Qt::NoFocus);
+  scroll->setWidget(pages_);
+  column->addWidget(scroll, 1);
+  // What has the focus is in view, however it came there.
+  connect(qApp, &QApplication::focusChanged, scroll, [this, scroll](QWidget*, QWidget* now) {
+    if (now != nullptr && pages_->isAncestorOf(now)) scroll->ensureWidgetVisible(now, 0, 0);
+  });
   setCentralWidget(centre);
 
   shell.SetFrame(this, pages_);

@@ -219,7 +219,9 @@ TEST(MainWindow, IsNoLargerThanItsScreenNorSmallerThanItsLeast) {
   for (const auto& [screen, size] : {std::pair{QSize(1920, 1050), QSize(1280, 800)},
                                      {QSize(1366, 740), QSize(1280, 700)},
                                      {QSize(1024, 768), QSize(1024, 728)},
-                                     {QSize(800, 600), QSize(1000, 600)}})
+                                     {QSize(960, 540), QSize(960, 500)},
+                                     {QSize(800, 600), QSize(840, 560)},
+                                     {QSize(640, 480), QSize(840, 440)}})
     EXPECT_EQ(MainWindow::FirstSizeOn(screen), size) << screen.width();
 }
 

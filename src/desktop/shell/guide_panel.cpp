@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include "desktop/widgets/icon_tile.h"
 #include "desktop/widgets/text_edge.h"
 
 namespace talvor {
@@ -14,7 +15,6 @@ namespace {
 constexpr int PanelWidth = 340;
 constexpr int HelpWidth = 320;
 constexpr int Margin = 16;
-constexpr int HeaderHeight = 68;
 
 }  // namespace
 
@@ -23,7 +23,7 @@ GuidePanel::GuidePanel(const Theme& theme, QWidget* parent)
   setObjectName(QStringLiteral("Guide"));
   setFocusPolicy(Qt::NoFocus);
   setAttribute(Qt::WA_TransparentForMouseEvents);
-  setFixedWidth(PanelWidth);
+  setFixedWidth(TextPixels(PanelWidth));
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(14, 12, 14, 12);
   row->setSpacing(10);
@@ -40,9 +40,10 @@ GuidePanel::GuidePanel(const Theme& theme, QWidget* parent)
 
 void GuidePanel::Place(Guide::Place place) {
   const QWidget* frame = parentWidget();
-  setFixedHeight(layout()->heightForWidth(PanelWidth));
-  move(place == Guide::Place::BottomLeft ? QPoint(Margin, frame->height() - height() - Margin)
-                                         : QPoint(frame->width() - width() - Margin, HeaderHeight + Margin));
+  setFixedHeight(layout()->heightForWidth(width()));
+  move(place == Guide::Place::BottomLeft
+           ? QPoint(Margin, frame->height() - height() - Margin)
+           : QPoint(frame->width() - width() - Margin, IconTile::Height() + 12 + Margin));
 }
 
 void GuidePanel::Show(const Guide& guide) {
@@ -60,7 +61,7 @@ void GuidePanel::Show(const Guide& guide) {
 
 AidePanel::AidePanel(QWidget* parent) : QFrame(parent), info_(new QLabel(this)) {
   setObjectName(QStringLiteral("CadreAide"));
-  setFixedWidth(HelpWidth);
+  setFixedWidth(TextPixels(HelpWidth));
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(12, 10, 12, 10);
   auto* title = new QLabel(tr("Aide"), this);
