@@ -10,10 +10,10 @@
 
 namespace talvor {
 
-AboutBox::AboutBox(const Theme& theme, QWidget* parent) : QDialog(parent) {
+AboutBox::AboutBox(const Theme& theme, QWidget* parent) : ScrollingDialog(parent) {
   setObjectName(QStringLiteral("APropos"));
   setWindowTitle(tr("À propos de Talvor"));
-  auto* column = new QVBoxLayout(this);
+  auto* column = new QVBoxLayout(Body());
   column->setContentsMargins(32, 24, 32, 20);
   column->setSpacing(8);
   auto* logo = new QLabel(this);

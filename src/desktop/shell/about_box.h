@@ -1,14 +1,14 @@
 #pragma once
 
-#include <QDialog>
 #include <functional>
 
+#include "desktop/widgets/scrolling.h"
 #include "desktop/widgets/theme.h"
 
 namespace talvor {
 
 // `APropos`: what the program is and since when.
-class AboutBox : public QDialog {
+class AboutBox : public ScrollingDialog {
  public:
   AboutBox(const Theme& theme, QWidget* parent);
 

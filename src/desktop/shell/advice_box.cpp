@@ -13,11 +13,12 @@ constexpr int BoxWidth = 520;
 
 }  // namespace
 
-AdviceBox::AdviceBox(MiseEnPage& form, const Theme& theme, QWidget* parent) : QDialog(parent), form_(form) {
+AdviceBox::AdviceBox(MiseEnPage& form, const Theme& theme, QWidget* parent)
+    : ScrollingDialog(parent), form_(form) {
   setObjectName(ToQt(PrintAdviceForm));
   setWindowTitle(tr("Mise en page"));
-  setFixedWidth(BoxWidth);
-  auto* column = new QVBoxLayout(this);
+  SetWanted({TextPixels(BoxWidth), 0});
+  auto* column = new QVBoxLayout(Body());
   column->setContentsMargins(20, 18, 20, 16);
   column->setSpacing(12);
   auto* buttons = new QHBoxLayout;

@@ -1,14 +1,13 @@
 // The window of `MiseEnPage`.
 #pragma once
 
-#include <QDialog>
-
+#include "desktop/widgets/scrolling.h"
 #include "desktop/widgets/theme.h"
 #include "shell/mise_en_page.h"
 
 namespace talvor {
 
-class AdviceBox : public QDialog {
+class AdviceBox : public ScrollingDialog {
  public:
   // The view model must outlive the window.
   AdviceBox(MiseEnPage& form, const Theme& theme, QWidget* parent);

@@ -1,20 +1,29 @@
 #include "desktop/shell/assistant_figure.h"
 
 #include <QPainter>
+#include <QPointer>
+
+#include "desktop/shell/road_picture.h"
 
 namespace talvor {
 namespace {
 
 constexpr int Side = 44;
-constexpr QPoint Place{94, 226};  // at the beginning of the road
 
 }  // namespace
 
-AssistantFigure::AssistantFigure(Assistant& assistant, const Theme& theme, QWidget* road)
-    : QWidget(road), theme_(theme) {
+AssistantFigure::AssistantFigure(Assistant& assistant, const Theme& theme, QWidget* parent)
+    : QWidget(parent), theme_(theme) {
   setObjectName(QStringLiteral("Assistant"));
   setAttribute(Qt::WA_TransparentForMouseEvents);
-  setGeometry(QRect(Place, QSize(Side, Side)));
+  resize(Side, Side);
+  if (auto* road = dynamic_cast<RoadPicture*>(parent)) {
+    const auto place = [this, road] { move(road->BeginningOfRoad()); };
+    place();
+    road->OnResized = [self = QPointer<AssistantFigure>(this), place] {
+      if (self) place();
+    };
+  }
   constexpr int TickMilliseconds = 500;
   connect(&timer1_, &QTimer::timeout, this, [&assistant] { assistant.Timer1(); });
   timer1_.start(TickMilliseconds);

@@ -12,7 +12,7 @@ namespace talvor {
 class AssistantFigure : public QWidget {
  public:
   // The view model must outlive the figure.
-  AssistantFigure(Assistant& assistant, const Theme& theme, QWidget* road);
+  AssistantFigure(Assistant& assistant, const Theme& theme, QWidget* parent);
 
  protected:
   void paintEvent(QPaintEvent* event) override;

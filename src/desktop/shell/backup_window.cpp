@@ -47,7 +47,7 @@ BackupLink::BackupLink(const Theme& theme, const FormLoadSave::Link& link, const
 
 QFont BackupLink::Title() const {
   QFont face = font();
-  face.setPixelSize(14);
+  face.setPixelSize(TextPixels(14));
   face.setWeight(QFont::DemiBold);
   face.setUnderline(underMouse() || hasFocus());
   return face;
@@ -59,12 +59,17 @@ QRect BackupLink::TextRoom(int width) const {
 }
 
 int BackupLink::heightForWidth(int width) const {
-  return std::max(Tile, TitleHeight + TextRoom(width).height()) + 2 * Padding;
+  return std::max(Tile, TextPixels(TitleHeight) + TextRoom(width).height()) + 2 * Padding;
 }
 
 QSize BackupLink::sizeHint() const {
-  constexpr int Wide = WindowWidth - 40;
-  return {Wide, heightForWidth(Wide)};
+  const int wide = TextPixels(WindowWidth) - 40;
+  return {wide, heightForWidth(wide)};
+}
+
+QSize BackupLink::minimumSizeHint() const {
+  const int title = QFontMetrics(Title()).size(Qt::TextShowMnemonic, text()).width();
+  return {title + TextLeft + TextRight, Tile + 2 * Padding};
 }
 
 void BackupLink::paintEvent(QPaintEvent*) {
@@ -73,27 +78,27 @@ void BackupLink::paintEvent(QPaintEvent*) {
   constexpr int Picture = 22;
   PaintTile(painter, {15, (height() - Tile) / 2, Tile, Tile}, icon_, Picture);
 
-  const int texts = TitleHeight + TextRoom(width()).height();
+  const int title = TextPixels(TitleHeight);
+  const int texts = title + TextRoom(width()).height();
   const int top = (height() - texts) / 2;
   const int room = width() - TextLeft - TextRight;
   painter.setFont(Title());
   painter.setPen(Ink(QStringLiteral("primary")));
-  painter.drawText(QRect(TextLeft, top, room, TitleHeight), Qt::AlignVCenter | Qt::TextShowMnemonic, text());
+  painter.drawText(QRect(TextLeft, top, room, title), Qt::AlignVCenter | Qt::TextShowMnemonic, text());
   painter.setFont(font());
   painter.setPen(Ink(QStringLiteral("text2")));
-  painter.drawText(QRect(TextLeft, top + TitleHeight, room, texts - TitleHeight + 2), Qt::TextWordWrap,
-                   explanation_);
+  painter.drawText(QRect(TextLeft, top + title, room, texts - title + 2), Qt::TextWordWrap, explanation_);
   painter.drawPixmap(width() - 34, height() / 2 - 9,
                      Look().Pixmap(QStringLiteral("chev-r"),
                                    isEnabled() ? QStringLiteral("text2") : QStringLiteral("edge"), 18));
 }
 
 BackupWindow::BackupWindow(FormLoadSave& form, const Theme& theme, QWidget* parent)
-    : QDialog(parent), form_(form), theme_(theme) {
+    : ScrollingDialog(parent), form_(form), theme_(theme) {
   setObjectName(QStringLiteral("FormLoadSave"));
   setWindowTitle(ToQt(FormLoadSave::Title));
-  setFixedWidth(WindowWidth);
-  auto* column = new QVBoxLayout(this);
+  SetWanted({TextPixels(WindowWidth), 0});
+  auto* column = new QVBoxLayout(Body());
   column->setContentsMargins(20, 18, 20, 16);
   column->setSpacing(10);
   auto* explanation = new QLabel(ToQt(FormLoadSave::Explanation), this);
@@ -167,7 +172,7 @@ void BackupWindow::Refresh() {
   }
   if (copying_->isHidden() == shown) {
     copying_->setVisible(shown);
-    adjustSize();
+    FitContent();
   }
 }
 

@@ -1,7 +1,6 @@
 // The window of `FormLoadSave`: three links, and the progress of a copy.
 #pragma once
 
-#include <QDialog>
 #include <QPointer>
 #include <array>
 #include <functional>
@@ -9,6 +8,7 @@
 #include "app/form_load_save.h"
 #include "desktop/widgets/bouton_tlv.h"
 #include "desktop/widgets/card_button.h"
+#include "desktop/widgets/scrolling.h"
 
 class QLabel;
 class QProgressBar;
@@ -23,6 +23,7 @@ class BackupLink : public CardButton {
   [[nodiscard]] bool hasHeightForWidth() const override { return true; }
   [[nodiscard]] int heightForWidth(int width) const override;
   [[nodiscard]] QSize sizeHint() const override;
+  [[nodiscard]] QSize minimumSizeHint() const override;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -35,7 +36,7 @@ class BackupLink : public CardButton {
   QString explanation_;
 };
 
-class BackupWindow : public QDialog {
+class BackupWindow : public ScrollingDialog {
  public:
   // The view model must outlive the window.
   BackupWindow(FormLoadSave& form, const Theme& theme, QWidget* parent);

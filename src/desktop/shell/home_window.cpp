@@ -16,10 +16,16 @@
 namespace talvor {
 namespace {
 
-constexpr QSize RowSize{600, 92};
+constexpr int RowWidth = 600;
+constexpr int TextLeft = 92;
+constexpr int TextRight = 52;
+constexpr int TitleFont = 17;
+constexpr int TitleHeight = 27;
+constexpr int LineHeight = 18;
 constexpr int SideWidth = 408;
-constexpr int RoomForSide = 1100;  // the right column narrows under that width, and goes where it would
-constexpr int LeastSide = 320;     // be narrower than this
+constexpr int LeastSide = 320;  // where it has not even that, the right column goes below the rows
+constexpr int Margin = 24;
+constexpr int Gap = 56;
 
 struct RowLook {
   const char16_t* title;
@@ -48,7 +54,7 @@ const RowLook* LookOf(TextView title) {
 }
 
 QFont Sized(QFont font, int pixels, QFont::Weight weight) {
-  font.setPixelSize(pixels);
+  font.setPixelSize(TextPixels(pixels));
   font.setWeight(weight);
   return font;
 }
@@ -57,7 +63,17 @@ QFont Sized(QFont font, int pixels, QFont::Weight weight) {
 
 HomeRowButton::HomeRowButton(const Theme& theme, QWidget* parent) : CardButton(theme, parent) {}
 
-QSize HomeRowButton::sizeHint() const { return RowSize; }
+QSize HomeRowButton::sizeHint() const { return {TextPixels(RowWidth), minimumSizeHint().height()}; }
+
+// The title stands on one line, the explanation on two at most.
+QSize HomeRowButton::minimumSizeHint() const {
+  constexpr int Air = 33;
+  constexpr int LeastWidth = 440;
+  const QFontMetrics title(Sized(font(), TitleFont, QFont::DemiBold));
+  return {std::max(LeastWidth,
+                   TextLeft + TextRight + title.size(Qt::TextShowMnemonic, text()).width() + 2 * TextGap),
+          TextPixels(TitleHeight) + 2 * TextPixels(LineHeight) + Air};
+}
 
 void HomeRowButton::SetRow(const QString& icon, const HomeRow& row, qsizetype mnemonic) {
   icon_ = icon;
@@ -78,17 +94,20 @@ void HomeRowButton::paintEvent(QPaintEvent*) {
   const QRect tile(21, (height() - Tile) / 2, Tile, Tile);
   PaintTile(painter, tile, icon_, Picture);
 
-  const int left = tile.right() + 19;
-  const QRect texts(left, 0, width() - left - 52, height());
+  const QFont plain = Sized(font(), 13, QFont::Normal);
+  const QString explanation = ToQt(row_.explanation);
+  const QRect room(TextLeft, 0, width() - TextLeft - TextRight, 2 * TextPixels(LineHeight));
+  const int lines = QFontMetrics(plain).boundingRect(room, Qt::TextWordWrap, explanation).height();
+  const int title = TextPixels(TitleHeight);
   const int middle = height() / 2;
-  painter.setFont(Sized(font(), 17, QFont::DemiBold));
+  const int top = middle - (title + std::min(lines, room.height())) / 2;
+  painter.setFont(Sized(font(), TitleFont, QFont::DemiBold));
   painter.setPen(Look().Color(QStringLiteral("text")));
-  painter.drawText(QRect(texts.left(), middle - 25, texts.width(), 26),
+  painter.drawText(QRect(room.left(), top, room.width(), title),
                    Qt::AlignVCenter | Qt::TextShowMnemonic | Qt::TextSingleLine, text());
-  painter.setFont(Sized(font(), 13, QFont::Normal));
+  painter.setFont(plain);
   painter.setPen(Look().Color(QStringLiteral("text2")));
-  painter.drawText(QRect(texts.left(), middle + 2, texts.width(), 20), Qt::AlignVCenter | Qt::TextSingleLine,
-                   painter.fontMetrics().elidedText(ToQt(row_.explanation), Qt::ElideRight, texts.width()));
+  painter.drawText(room.translated(0, top + title), Qt::AlignTop | Qt::TextWordWrap, explanation);
   painter.drawPixmap(width() - 42, middle - 10,
                      Look().Pixmap(QStringLiteral("chev-r"), QStringLiteral("text2"), 20));
 }
@@ -99,9 +118,9 @@ HomeWindow::HomeWindow(AssistantTexte& panel, const Theme& theme, QWidget* paren
   setProperty("plane", QStringLiteral("window"));
   setProperty("pane", true);
   setAttribute(Qt::WA_StyledBackground);
-  auto* columns = new QHBoxLayout(this);
-  columns->setContentsMargins(24, 24, 24, 24);
-  columns->setSpacing(56);
+  auto* columns = columns_ = new QBoxLayout(QBoxLayout::LeftToRight, this);
+  columns->setContentsMargins(Margin, Margin, Margin, Margin);
+  columns->setSpacing(Gap);
   columns->addStretch(1);
 
   auto* left = new QVBoxLayout;
@@ -141,9 +160,8 @@ QWidget* HomeWindow::MakeRows() {
   rowsColumn_->setSpacing(8);
   for (HomeRowButton*& row : rows_) {
     row = new HomeRowButton(theme_, box);
-    row->setFixedHeight(RowSize.height() + 4);
-    row->setMinimumWidth(440);
-    row->setMaximumWidth(RowSize.width() + 4);
+    row->setMaximumWidth(TextPixels(RowWidth) + 4);
+    row->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     connect(row, &QAbstractButton::clicked, this, [this, row] { Click(*row); });
     rowsColumn_->addWidget(row);
   }
@@ -180,7 +198,7 @@ QWidget* HomeWindow::MakeCounts() {
     countNames_[i] = new QLabel(card);
     countNames_[i]->setProperty("role", QStringLiteral("label"));
     counts_[i] = new QLabel(card);
-    counts_[i]->setStyleSheet(QStringLiteral("font-size: 20px; font-weight: 600;"));
+    counts_[i]->setStyleSheet(QStringLiteral("font-size: %1px; font-weight: 600;").arg(TextPixels(20)));
     line->addWidget(countNames_[i], 1);
     line->addWidget(counts_[i]);
     lines->addLayout(line);
@@ -211,6 +229,7 @@ void HomeWindow::Refresh() {
                      look == nullptr ? -1 : ToQt(row.title).indexOf(QString::fromUtf16(look->mnemonic)));
     rows_[i]->setVisible(!row.title.empty());
   }
+  PlaceSide();
   if (panel_.Ecart > 0 && !timer1_.isActive()) BeginSlide();
   const QStringList lines = ShownText(panel_.Compteurs).split(QLatin1Char('\n'));
   for (std::size_t i = 0; i < counts_.size(); ++i) {
@@ -227,10 +246,33 @@ void HomeWindow::showEvent(QShowEvent* event) {
   rows_.front()->setFocus(Qt::OtherFocusReason);
 }
 
+int HomeWindow::RowsWidth() const {
+  int widest = 0;
+  for (const HomeRowButton* row : rows_)
+    if (!row->isHidden()) widest = std::max(widest, row->minimumSizeHint().width());
+  return widest;
+}
+
+// Of the narrowest arrangement, so that a window may become narrow.
+QSize HomeWindow::minimumSizeHint() const {
+  return {std::max(RowsWidth(), side_->minimumSizeHint().width()) + 2 * Margin,
+          columns_->minimumSize().height()};
+}
+
+// The rows shrink first, then the right column narrows, then it goes below them.
+void HomeWindow::PlaceSide() {
+  constexpr int Slack = 2;  // of the shares that the layout rounds
+  const int room = width() - RowsWidth() - Gap - 2 * Margin - Slack;
+  const bool below = room < std::max(LeastSide, side_->minimumSizeHint().width());
+  columns_->setDirection(below ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+  side_->setFixedWidth(below ? std::min(TextPixels(SideWidth), width() - 2 * Margin)
+                             : std::min(TextPixels(SideWidth), room));
+  updateGeometry();
+}
+
 void HomeWindow::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
-  const int room = width() - RowSize.width() - 110;
-  side_->setFixedWidth(std::clamp(width() < RoomForSide ? room : SideWidth, LeastSide, SideWidth));
+  PlaceSide();
 }
 
 }  // namespace talvor

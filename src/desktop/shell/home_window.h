@@ -11,6 +11,7 @@
 
 class QGraphicsOpacityEffect;
 class QLabel;
+class QBoxLayout;
 class QVBoxLayout;
 
 namespace talvor {
@@ -24,6 +25,7 @@ class HomeRowButton : public CardButton {
   void SetRow(const QString& icon, const HomeRow& row, qsizetype mnemonic);
   [[nodiscard]] const HomeRow& Row() const { return row_; }
   [[nodiscard]] QSize sizeHint() const override;
+  [[nodiscard]] QSize minimumSizeHint() const override;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -41,12 +43,15 @@ class HomeWindow : public QWidget {
   void Refresh();
   // Where the figure of `Assistant` stands.
   [[nodiscard]] QWidget* Road() const { return road_; }
+  [[nodiscard]] QSize minimumSizeHint() const override;
 
  protected:
   void showEvent(QShowEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:
+  [[nodiscard]] int RowsWidth() const;
+  void PlaceSide();
   QWidget* MakeRows();
   QWidget* MakeCounts();
   void BeginSlide();
@@ -57,6 +62,7 @@ class HomeWindow : public QWidget {
   const Theme& theme_;
   QTimer timer1_;  // the slide of the rows
   QGraphicsOpacityEffect* fade_ = nullptr;
+  QBoxLayout* columns_ = nullptr;
   QVBoxLayout* rowsColumn_ = nullptr;
   QWidget* side_;
   QWidget* road_;

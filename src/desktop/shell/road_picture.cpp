@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QPainterPath>
+#include <algorithm>
 
 namespace talvor {
 namespace {
@@ -82,6 +83,20 @@ void RoadPicture::PaintStations(QPainter& painter) const {
   painter.drawPolyline(QPolygonF({{328, 74}, {335, 81}, {350, 64}}));
 }
 
+double RoadPicture::Scale() const { return std::min(1.0, width() / Canvas.width()); }
+
+QPoint RoadPicture::BeginningOfRoad() const {
+  constexpr QPointF Beginning{94, 226};
+  return (Beginning * Scale() + QPointF((width() - Canvas.width() * Scale()) / 2, 0)).toPoint();
+}
+
+// In a narrow column the whole road is drawn smaller.
+void RoadPicture::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  setFixedHeight(static_cast<int>(Canvas.height() * Scale()));
+  if (OnResized) OnResized();
+}
+
 void RoadPicture::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
@@ -89,8 +104,8 @@ void RoadPicture::paintEvent(QPaintEvent*) {
   frame.addRoundedRect(QRectF(rect()), 16, 16);
   painter.setClipPath(frame);
   painter.fillRect(rect(), theme_.Color(QStringLiteral("psoft")));
-  // The picture keeps its proportions; what a narrow column leaves over at the sides is cut.
-  painter.translate((width() - Canvas.width()) / 2, 0);
+  painter.translate((width() - Canvas.width() * Scale()) / 2, 0);
+  painter.scale(Scale(), Scale());
   PaintHills(painter);
   const QColor sun = theme_.Color(QStringLiteral("today"));
   painter.setPen(QPen(sun, 1.5, Qt::DotLine));

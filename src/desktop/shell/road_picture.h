@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QWidget>
+#include <functional>
 
 #include "desktop/widgets/theme.h"
 
@@ -11,10 +12,16 @@ class RoadPicture : public QWidget {
  public:
   RoadPicture(const Theme& theme, QWidget* parent);
 
+  // Where a figure stands that sets out on it.
+  [[nodiscard]] QPoint BeginningOfRoad() const;
+  std::function<void()> OnResized;
+
  protected:
+  void resizeEvent(QResizeEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  [[nodiscard]] double Scale() const;
   void PaintHills(QPainter& painter) const;
   void PaintStations(QPainter& painter) const;
 

@@ -53,7 +53,7 @@ void SplashWindow::paintEvent(QPaintEvent*) {
   QSvgRenderer(QStringLiteral(":/icons/logo.svg"))
       .render(&painter, QRectF((width() - Side) / 2.0, 44, Side, Side));
   QFont name = font();
-  name.setPixelSize(28);
+  name.setPixelSize(TextPixels(28));
   name.setWeight(QFont::DemiBold);
   painter.setFont(name);
   painter.setPen(theme_.Color(QStringLiteral("text")));

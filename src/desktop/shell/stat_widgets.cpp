@@ -33,10 +33,12 @@ QString Description(MonthCalendar::Cells cells) {
 
 StatBar::StatBar(const Theme& theme, int width, QWidget* parent)
     : QWidget(parent), theme_(theme), width_(width) {
+  constexpr int Least = 90;
+  setMinimumWidth(Least);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 
-QSize StatBar::sizeHint() const { return {266, 18}; }
+QSize StatBar::sizeHint() const { return {266, TextPixels(18)}; }
 
 void StatBar::paintEvent(QPaintEvent*) {
   constexpr int LeastWidth = 2;
@@ -60,28 +62,30 @@ MonthCalendar::MonthCalendar(const Theme& theme, const QString& title, Cells cel
 }
 
 QSize MonthCalendar::sizeHint() const {
-  return {DaysOfAWeek * CellWidth, 2 * TitleHeight + Weeks * CellHeight};
+  return {DaysOfAWeek * TextPixels(CellWidth), 2 * TextPixels(TitleHeight) + Weeks * TextPixels(CellHeight)};
 }
 
 void MonthCalendar::paintEvent(QPaintEvent*) {
+  const int titleHeight = TextPixels(TitleHeight);
+  const QSize cell(TextPixels(CellWidth), TextPixels(CellHeight));
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   QFont bold = font();
   bold.setBold(true);
   painter.setFont(bold);
   painter.setPen(theme_.Color(QStringLiteral("text")));
-  painter.drawText(QRect(0, 0, width(), TitleHeight), Qt::AlignCenter, title_.trimmed());
+  painter.drawText(QRect(0, 0, width(), titleHeight), Qt::AlignCenter, title_.trimmed());
 
   painter.setFont(font());
   painter.setPen(theme_.Color(QStringLiteral("text2")));
   for (int day = 0; day < DaysOfAWeek; ++day)
-    painter.drawText(QRect(day * CellWidth, TitleHeight, CellWidth, TitleHeight), Qt::AlignCenter,
+    painter.drawText(QRect(day * cell.width(), titleHeight, cell.width(), titleHeight), Qt::AlignCenter,
                      WeekdayLetters.mid(day, 1));
   for (std::size_t i = 0; i < cells_.size(); ++i) {
     const int row = static_cast<int>(i) / DaysOfAWeek;
     const int column = static_cast<int>(i) % DaysOfAWeek;
     PaintDay(painter, cells_[i],
-             {column * CellWidth, 2 * TitleHeight + row * CellHeight, CellWidth, CellHeight});
+             {QPoint(column * cell.width(), 2 * titleHeight + row * cell.height()), cell});
   }
 }
 

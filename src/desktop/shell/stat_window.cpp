@@ -22,31 +22,31 @@ QLabel* MakeTitle(const QString& text, QWidget* parent) {
 }  // namespace
 
 StatWindow::StatWindow(const FormStat& stat, const Theme& theme, QWidget* parent)
-    : QDialog(parent), stat_(stat), theme_(theme) {
+    : ScrollingDialog(parent), stat_(stat), theme_(theme) {
   setObjectName(QStringLiteral("FormStat"));
   setWindowTitle(tr("Statistiques"));
   auto* date = MakeTitle(ToQt(stat.DateJour), this);
   date->setObjectName(QStringLiteral("DateJour"));
+  auto* columns = new FoldingRow(Body());
+  columns->Row().setSpacing(32);
+  columns->Row().addWidget(MakeBars(), 1);
   auto* right = new QVBoxLayout;
   right->setSpacing(16);
   right->addLayout(MakeCalendars());
   right->addWidget(MakeInterviews(), 1);
-  auto* columns = new QHBoxLayout;
-  columns->setSpacing(32);
-  columns->addWidget(MakeBars(), 1);
-  columns->addLayout(right);
+  columns->Row().addLayout(right);
   auto* close = new BoutonTLV(theme, tr("&Fermer"), this);
   close->setObjectName(QStringLiteral("BoutonTLV1"));
   close->setDefault(true);
   connect(close, &QPushButton::clicked, this, &QDialog::close);
 
-  auto* page = new QVBoxLayout(this);
+  auto* page = new QVBoxLayout(Body());
   page->setContentsMargins(20, 16, 20, 16);
   page->setSpacing(12);
   page->addWidget(date);
-  page->addLayout(columns, 1);
+  page->addWidget(columns, 1);
   page->addWidget(close, 0, Qt::AlignRight);
-  resize(1064, 580);
+  SetWanted({TextPixels(1064), TextPixels(580)});
 }
 
 QWidget* StatWindow::MakeBars() {
@@ -94,6 +94,7 @@ QWidget* StatWindow::MakeInterviews() {
   list->setText(ShownText(stat_.RDV).trimmed());
   list->setAlignment(Qt::AlignTop | Qt::AlignLeft);
   list->setWordWrap(true);
+  list->setProperty("plane", QStringLiteral("surface"));
   list->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   list->setAccessibleName(title->text());
   auto* scroll = new QScrollArea(panel);

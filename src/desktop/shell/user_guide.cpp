@@ -29,7 +29,7 @@ QString AnchorOf(const QString& heading) {
 void LayOut(QTextDocument& guide) {
   constexpr int Air = 8;
   constexpr int AirAboveHeading = 24;
-  constexpr int PictureWidth = 900;
+  constexpr int PictureWidth = 860;
   for (QTextBlock block = guide.begin(); block.isValid(); block = block.next()) {
     QTextCursor cursor(block);
     QTextBlockFormat format = block.blockFormat();
@@ -62,10 +62,10 @@ void LayOut(QTextDocument& guide) {
 }  // namespace
 
 UserGuideWindow::UserGuideWindow(const Theme& theme, QWidget* parent)
-    : QDialog(parent), text_(new QTextBrowser(this)) {
+    : ScrollingDialog(parent), text_(new QTextBrowser(this)) {
   setObjectName(ToQt(UserGuideForm));
   setWindowTitle(tr("Guide de Talvor"));
-  auto* column = new QVBoxLayout(this);
+  auto* column = new QVBoxLayout(Body());
   column->setContentsMargins(0, 0, 0, 12);
   text_->setObjectName(QStringLiteral("Texte"));
   text_->setAccessibleName(tr("Guide de Talvor"));
@@ -82,7 +82,7 @@ UserGuideWindow::UserGuideWindow(const Theme& theme, QWidget* parent)
   connect(close, &QPushButton::clicked, this, &QDialog::close);
   column->addWidget(close, 0, Qt::AlignCenter);
   constexpr QSize Size(1010, 700);
-  resize(Size);
+  SetWanted(Size);
 }
 
 void UserGuideWindow::ShowChapter(const QUrl& link) {

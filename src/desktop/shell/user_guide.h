@@ -1,9 +1,8 @@
 // The user's guide, in a window of its own: the document docs/guide.md with its pictures.
 #pragma once
 
-#include <QDialog>
-
 #include "base/text.h"
+#include "desktop/widgets/scrolling.h"
 #include "desktop/widgets/theme.h"
 #include "platform/forms.h"
 
@@ -11,7 +10,7 @@ class QTextBrowser;
 
 namespace talvor {
 
-class UserGuideWindow : public QDialog {
+class UserGuideWindow : public ScrollingDialog {
  public:
   UserGuideWindow(const Theme& theme, QWidget* parent);
 
