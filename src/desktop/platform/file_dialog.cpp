@@ -7,6 +7,8 @@
 #include <QLocale>
 #include <QTreeView>
 
+#include "desktop/widgets/scrolling.h"
+
 namespace talvor {
 namespace {
 
@@ -34,7 +36,7 @@ void ShowWhole(QFileDialog& dialog) {
   for (int column = 1; column < list->header()->count(); ++column)
     list->header()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
   constexpr QSize Size(860, 500);
-  dialog.resize(Size);
+  dialog.resize(Size.boundedTo(RoomOver(dialog.parentWidget())));
 }
 
 }  // namespace

@@ -36,7 +36,7 @@ QString ProposedFile(const QString& file) {
 }  // namespace
 
 PrintPreviewWindow::PrintPreviewWindow(const Theme& theme, PrintedPage page, QWidget* parent)
-    : QDialog(parent),
+    : ScrollingDialog(parent),
       theme_(theme),
       printed_(std::move(page)),
       view_(new QWebEngineView(this)),
@@ -61,13 +61,13 @@ PrintPreviewWindow::PrintPreviewWindow(const Theme& theme, PrintedPage page, QWi
   });
   connect(&theme, &Theme::Changed, this, &PrintPreviewWindow::LayOnDesk);
 
-  auto* column = new QVBoxLayout(this);
+  auto* column = new QVBoxLayout(Body());
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
   column->addLayout(MakeTools(theme));
   column->addWidget(progress_);
   column->addWidget(view_, 1);
-  resize(980, 680);
+  SetWanted({TextPixels(980), 680});
   sealed->ShowFile(printed_.file);
 }
 
@@ -113,6 +113,11 @@ void PrintPreviewWindow::Print() {
 void PrintPreviewWindow::SetUpPage() {
   QPageSetupDialog(printer_.get(), this).exec();
   LayOnDesk();
+}
+
+void PrintPreviewWindow::showEvent(QShowEvent* event) {
+  ScrollingDialog::showEvent(event);
+  LayOnDesk();  // the width is known
 }
 
 // The sheet as it lies now, as wide as the window at most.

@@ -1,7 +1,6 @@
 // A page before it goes to the printer: the preview of the reports and of the CV.
 #pragma once
 
-#include <QDialog>
 #include <QPointer>
 #include <QPrinter>
 #include <QUrl>
@@ -9,6 +8,7 @@
 #include <memory>
 
 #include "desktop/platform/sealed_page.h"
+#include "desktop/widgets/scrolling.h"
 #include "desktop/widgets/theme.h"
 #include "platform/page_preview.h"
 
@@ -26,7 +26,7 @@ struct PrintedPage {
 };
 
 // The window: the page as it prints, with print, page set-up, zoom and PDF.
-class PrintPreviewWindow : public QDialog {
+class PrintPreviewWindow : public ScrollingDialog {
  public:
   PrintPreviewWindow(const Theme& theme, PrintedPage page, QWidget* parent);
   ~PrintPreviewWindow() override;
@@ -36,6 +36,9 @@ class PrintPreviewWindow : public QDialog {
 
   // Writes the page to a PDF file; `done` hears whether it stands.
   void SavePdf(const QString& file, const std::function<void(bool)>& done);
+
+ protected:
+  void showEvent(QShowEvent* event) override;
 
  private:
   QLayout* MakeTools(const Theme& theme);

@@ -15,6 +15,9 @@
 namespace talvor {
 namespace {
 
+constexpr int ChoicesWidth = 304;
+constexpr int ChoicesEdges = 14;
+
 QLabel* MakeHeading(const QString& text, QWidget* parent) {
   auto* heading = new QLabel(text, parent);
   QFont bold = heading->font();
@@ -29,27 +32,32 @@ QString IconOf(const QString& cv) {
   return cv.contains(QStringLiteral(".pdf")) ? QStringLiteral("cv-pdf") : QStringLiteral("cv");
 }
 
-// A file name is no place for mnemonics.
-QString Plain(TextView name) { return ToQt(ReplaceAll(name, u"&", u"&&")); }
+// Shows the name of a file, whose end is an ellipsis where it has no room; it is no place for mnemonics.
+void ShowName(QPushButton& row, TextView name) {
+  constexpr int Edges = 52;  // of the row and its card, with the icon
+  const int room = TextPixels(ChoicesWidth) - 2 * ChoicesEdges - Edges;
+  row.setText(row.fontMetrics()
+                  .elidedText(ToQt(name), Qt::ElideRight, room)
+                  .replace(QLatin1Char('&'), QStringLiteral("&&")));
+  row.setToolTip(ToolTipText(name));
+  row.setAccessibleName(ToQt(name));
+}
 
 }  // namespace
 
 ApplyWindow::ApplyWindow(FormPostuler& form, const Theme& theme, QWidget* parent)
-    : QDialog(parent), form_(form), theme_(theme) {
+    : ScrollingDialog(parent), form_(form), theme_(theme) {
   setObjectName(QStringLiteral("FormPostuler"));
-  setMinimumSize(900, 560);
-  resize(1088, 644);
-  auto* panes = new QHBoxLayout;
-  panes->setContentsMargins(0, 0, 0, 0);
-  panes->setSpacing(0);
-  panes->addWidget(MakeMessage(), 1);
-  panes->addWidget(MakeChoices());
-  auto* column = new QVBoxLayout(this);
-  column->setContentsMargins(0, 0, 0, 0);
-  column->setSpacing(0);
-  column->addLayout(panes, 1);
-  column->addWidget(MakeLine(theme, this));
-  column->addWidget(MakeFoot());
+  SetWanted({TextPixels(1088), TextPixels(644)});
+  auto* body = new QVBoxLayout(Body());
+  body->setContentsMargins(0, 0, 0, 0);
+  auto* panes = new FoldingRow(Body());
+  panes->Row().setSpacing(0);
+  panes->Row().addWidget(MakeMessage(), 1);
+  panes->Row().addWidget(MakeChoices());
+  body->addWidget(panes);
+  AddFoot(MakeLine(theme, this));
+  AddFoot(MakeFoot());
 
   binder_.OnEdited = [this](QWidget& field) {
     if (&field == recipient_) Do([this] { form_.ChangerEmailDest(emailDest_); });
@@ -67,6 +75,7 @@ ApplyWindow::ApplyWindow(FormPostuler& form, const Theme& theme, QWidget* parent
 QLineEdit* ApplyWindow::Line(const QString& name, QWidget* parent) {
   auto* field = new QLineEdit(parent);
   field->setObjectName(name);
+  field->setMinimumWidth(FieldWidth(*field, tr("prenom.nom@fournisseur.com")));
   return field;
 }
 
@@ -110,7 +119,7 @@ QWidget* ApplyWindow::MakeMessage() {
   documents_->setAccessibleName(tr("Documents à joindre"));
   documents_->setProperty("popup", true);
   constexpr int DocumentsHeight = 152;
-  documents_->setFixedHeight(DocumentsHeight);
+  documents_->setFixedHeight(TextPixels(DocumentsHeight));
   documents_->installEventFilter(this);
   documents_->hide();
   const auto take = [this](const QListWidgetItem* item) {
@@ -177,10 +186,9 @@ QWidget* ApplyWindow::MakeCard(const QString& title, std::array<QPushButton*, 5>
 
 QWidget* ApplyWindow::MakeChoices() {
   QWidget* plane = MakePlane(QStringLiteral("window"), this);
-  constexpr int Width = 304;
-  plane->setFixedWidth(Width);
+  plane->setMinimumWidth(TextPixels(ChoicesWidth));
   auto* column = new QVBoxLayout(plane);
-  column->setContentsMargins(14, 12, 14, 12);
+  column->setContentsMargins(ChoicesEdges, 12, ChoicesEdges, 12);
   column->setSpacing(8);
   MakeCard(
       tr("Modèles de &lettre"), models_, QStringLiteral("Modele"),
@@ -267,12 +275,12 @@ void ApplyWindow::SetIcon(QAbstractButton& button, const QString& icon, const QS
 void ApplyWindow::ShowChoices() {
   for (std::size_t i = 0; i < models_.size(); ++i) {
     models_[i]->setVisible(form_.ImageLettre[i]);
-    models_[i]->setText(Plain(form_.Modele[i]));
+    ShowName(*models_[i], form_.Modele[i]);
     SetIcon(*models_[i], QStringLiteral("letter"), QStringLiteral("text2"));
   }
   for (std::size_t i = 0; i < cvs_.size(); ++i) {
     cvs_[i]->setVisible(!form_.CV[i].empty());
-    cvs_[i]->setText(Plain(form_.CV[i]));
+    ShowName(*cvs_[i], form_.CV[i]);
     SetIcon(*cvs_[i], IconOf(ToQt(form_.CV[i])), QStringLiteral("text2"));
   }
   for (std::size_t way = 0; way < ways_.size(); ++way) {
@@ -313,7 +321,7 @@ bool ApplyWindow::eventFilter(QObject* watched, QEvent* event) {
     QMetaObject::invokeMethod(
         this, [this] { ShowDocuments(); }, Qt::QueuedConnection);
   }
-  return QDialog::eventFilter(watched, event);
+  return ScrollingDialog::eventFilter(watched, event);
 }
 
 void ApplyWindow::keyPressEvent(QKeyEvent* event) {
@@ -326,7 +334,7 @@ void ApplyWindow::keyPressEvent(QKeyEvent* event) {
     form_.QuitterFile2();
     return ShowDocuments();
   }
-  QDialog::keyPressEvent(event);
+  ScrollingDialog::keyPressEvent(event);
 }
 
 }  // namespace talvor

@@ -1,7 +1,6 @@
 // The window of `FormPostuler`: the message with its checks, models, CVs and the way of sending.
 #pragma once
 
-#include <QDialog>
 #include <QTimer>
 #include <array>
 #include <functional>
@@ -9,6 +8,7 @@
 #include "desktop/widgets/bouton_tlv.h"
 #include "desktop/widgets/check_mark.h"
 #include "desktop/widgets/field_binder.h"
+#include "desktop/widgets/scrolling.h"
 #include "sending/form_postuler.h"
 
 class QGridLayout;
@@ -20,7 +20,7 @@ class QVBoxLayout;
 
 namespace talvor {
 
-class ApplyWindow : public QDialog {
+class ApplyWindow : public ScrollingDialog {
  public:
   // The model must outlive the window.
   ApplyWindow(FormPostuler& form, const Theme& theme, QWidget* parent);

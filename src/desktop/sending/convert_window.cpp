@@ -12,24 +12,22 @@
 namespace talvor {
 
 ConvertWindow::ConvertWindow(FormConvert& form, const Theme& theme, QWidget* parent)
-    : QDialog(parent), form_(form), theme_(theme) {
+    : ScrollingDialog(parent), form_(form), theme_(theme) {
   setObjectName(QStringLiteral("FormConvert"));
   setWindowTitle(tr("Conversion du format"));
   constexpr int Width = 640;
-  setMinimumWidth(Width);
-  QWidget* plane = MakePlane(QStringLiteral("surface"), this);
-  auto* body = new QVBoxLayout(plane);
+  SetWanted({TextPixels(Width), 0});
+  Body()->setProperty("plane", QStringLiteral("surface"));
+  Body()->setAttribute(Qt::WA_StyledBackground);
+  auto* body = new QVBoxLayout(Body());
   body->setContentsMargins(20, 16, 20, 20);
   body->setSpacing(16);
   body->addWidget(MakeProgram());
   body->addWidget(MakeLastVersion());
   body->addWidget(MakeFolder());
-  auto* column = new QVBoxLayout(this);
-  column->setContentsMargins(0, 0, 0, 0);
-  column->setSpacing(0);
-  column->addWidget(plane, 1);
-  column->addWidget(MakeLine(theme, this));
-  column->addWidget(MakeFoot());
+  body->addStretch(1);
+  AddFoot(MakeLine(theme, this));
+  AddFoot(MakeFoot());
   if (auto* convert = findChild<QPushButton*>(QStringLiteral("BoutonTLV2"))) convert->setFocus();
   connect(this, &QDialog::finished, this, [this] {
     if (OnClosed) OnClosed();

@@ -1,15 +1,15 @@
 // The window of `FormConvert`.
 #pragma once
 
-#include <QDialog>
 #include <functional>
 
+#include "desktop/widgets/scrolling.h"
 #include "desktop/widgets/theme.h"
 #include "sending/form_convert.h"
 
 namespace talvor {
 
-class ConvertWindow : public QDialog {
+class ConvertWindow : public ScrollingDialog {
  public:
   // The model must outlive the window and must have been loaded.
   ConvertWindow(FormConvert& form, const Theme& theme, QWidget* parent);
