@@ -1,10 +1,13 @@
-// talvor_captures FOLDER: a picture of each form with sample data, light and dark, 1280x800.
+// talvor_captures FOLDER [SIZE]: a picture of each form with sample data, light and dark, and in a folder for
+// each of the smaller screens; with a size, of that screen alone.
 
+#include <unistd.h>
 #include <QDir>
 #include <QPainter>
 #include <QPlainTextEdit>
 #include <QTemporaryDir>
 #include <QTimer>
+
 #include <array>
 #include <cstdlib>
 #include <fstream>
@@ -223,11 +226,6 @@ void PhotographCv(Desktop& desktop, Photographer& photographer) {
   photographer.Take(u"cv-apercu", cv.PreviewWindow());
   delete cv.PreviewWindow();
   desktop.Windows().Unload(EditorForm);
-  desktop.Main().resize(1024, 768);
-  cv.OpenFile(u"Marchand Julie.dat");
-  desktop.Windows().Wait(UntilThePageStands);
-  photographer.Take(u"cv-1024");
-  desktop.Main().resize(1280, 800);
   desktop.Windows().Unload(EditorForm);
 }
 
@@ -265,9 +263,6 @@ void PhotographLetters(Desktop& desktop, Photographer photographer) {
     letter.ClicCheck_Modele(Printed);
   });
   photographer.Take(u"lettre");
-  desktop.Main().resize(1024, 768);
-  photographer.Take(u"lettre-1024");
-  desktop.Main().resize(1280, 800);
   window.Do([&] { letter.ClicCheck_Modele(Mail); });
   window.findChild<QPlainTextEdit*>(QStringLiteral("Text1"))->insertPlainText(QStringLiteral("Bonjour,\n"));
   window.Do([&] { letter.saveFailed = true; });
@@ -299,9 +294,6 @@ void PhotographBrowser(Desktop& desktop, Photographer photographer) {
   window.Do([&] { web.ClicImage6(); });
   photographer.Take(u"navigateur-sites", window.findChild<QWidget*>(QStringLiteral("List1")));
   window.Do([&] { web.QuitterList1(); });
-  desktop.Main().resize(1024, 768);
-  photographer.Take(u"navigateur-1024");
-  desktop.Main().resize(1280, 800);
   window.Do([&] { desktop.Pages().Navigate(u"file:///"); });
   photographer.Take(u"navigateur-avis");
 }
@@ -337,9 +329,9 @@ void PhotographSmallForms(Desktop& desktop, const Theme& theme, Photographer pho
   });
   static_cast<void>(AskForFile(&desktop.Main(), QFileDialog::AcceptOpen, QStringLiteral("Fichiers"),
                                QDir::currentPath(), QStringLiteral("Tous les fichiers (*)")));
-  AboutBox about(theme, nullptr);
+  AboutBox about(theme, &desktop.Main());
   photographer.Take(u"a-propos", &about);
-  UserGuideWindow guide(theme, nullptr);
+  UserGuideWindow guide(theme, &desktop.Main());
   photographer.Take(u"guide", &guide);
 }
 
@@ -353,17 +345,8 @@ void PhotographSending(Desktop& desktop, Photographer photographer) {
          "poste de #Intitule#.<N>Je vous prie d'agr\xE9"
          "er, #Titre#, l'expression de mes salutations distingu\xE9"
          "es.\r\n";
-  Text address;
   shell.Show(ApplyForm);
-  QWidget* window = shell.WindowOf(ApplyForm);
-  photographer.Take(u"postuler", window);
-  shell.Unload(ApplyForm);
-  std::swap(desktop.Candidatures().Email, address);
-  shell.Show(ApplyForm);
-  window = shell.WindowOf(ApplyForm);
-  window->resize(window->minimumSize());
-  photographer.Take(u"postuler-petit", window);
-  std::swap(desktop.Candidatures().Email, address);
+  photographer.Take(u"postuler", shell.WindowOf(ApplyForm));
   shell.Unload(ApplyForm);
   desktop.Cv().OpenFile(u"Marchand Julie.dat");
   shell.Show(ConvertForm);
@@ -388,9 +371,6 @@ void PhotographForms(Desktop& desktop, const Theme& theme, Photographer photogra
   window.Do([&] { desktop.Candidatures().ClicImage2(); });
   photographer.Take(u"candidatures-statuts");
   window.Do([&] { desktop.Candidatures().QuitterStatut(); });
-  desktop.Main().resize(1024, 768);
-  photographer.Take(u"candidatures-1024");
-  desktop.Main().resize(1280, 800);
   PhotographBrowser(desktop, photographer);
   PhotographLetters(desktop, photographer);
   PhotographSending(desktop, photographer);
@@ -406,28 +386,60 @@ void PhotographForms(Desktop& desktop, const Theme& theme, Photographer photogra
   PhotographSmallForms(desktop, theme, photographer);
 }
 
-int Run(const QString& folder) {
+// How a user sees the program.
+struct Sight {
+  const char16_t* folder;
+  QSize size;
+  double text;
+  Theme::Palette palette;
+};
+
+// What a window of the largest size leaves of the screen is its title bar.
+constexpr std::array<Sight, 8> Sights{{
+    {u"", {1280, 800}, 1, Theme::Palette::Light},
+    {u"", {1280, 800}, 1, Theme::Palette::Dark},
+    {u"1024x768", {1024, 728}, 1, Theme::Palette::Light},
+    {u"1280x720", {1280, 680}, 1, Theme::Palette::Light},
+    {u"1366x768", {1366, 728}, 1, Theme::Palette::Light},
+    {u"960x540", {960, 500}, 1, Theme::Palette::Light},
+    {u"1024x768-texte-150", {1024, 728}, 1.5, Theme::Palette::Light},
+    {u"1280x720-texte-150", {1280, 680}, 1.5, Theme::Palette::Light},
+}};
+
+// Each run begins with the files as they are laid down.
+bool Photograph(const Sight& sight, const QString& folder) {
   const QTemporaryDir scratch;
   const SampleClock clock;
-  const Text data = FromQt(scratch.path());
-  const SampleEnvironment environment(data);
+  const SampleEnvironment environment(FromQt(scratch.path()));
   const std::filesystem::path workspace = workspace_paths::UsualDataFolder(environment);
   InstallerDossier(workspace, TALVOR_DATA_FOLDER);
   FillFiles(workspace);
   std::filesystem::current_path(workspace);
   FillDatabase(clock);
   QtDialogs dialogs;
-  for (const auto palette : {Theme::Palette::Light, Theme::Palette::Dark}) {
-    Theme theme;
-    theme.Apply(palette);
-    Desktop desktop(theme, environment, clock, dialogs);
-    if (!desktop.StartAtOnce()) return EXIT_FAILURE;
-    desktop.Main().resize(1280, 800);
-    const bool light = palette == Theme::Palette::Light;
-    PhotographForms(
-        desktop, theme,
-        Photographer(desktop, folder, light ? QStringLiteral(".png") : QStringLiteral("-sombre.png")));
-    desktop.Windows().Unload(CandidatureForm);
+  Theme theme;
+  theme.SetTextScale(sight.text);
+  theme.Apply(sight.palette);
+  Desktop desktop(theme, environment, clock, dialogs);
+  if (!desktop.StartAtOnce()) return false;
+  desktop.Main().resize(sight.size);
+  QDir().mkpath(folder);
+  const bool dark = sight.palette == Theme::Palette::Dark;
+  PhotographForms(
+      desktop, theme,
+      Photographer(desktop, folder, dark ? QStringLiteral("-sombre.png") : QStringLiteral(".png")));
+  desktop.Windows().Unload(CandidatureForm);
+  return true;
+}
+
+int Run(const QString& folder, const QString& only) {
+  const QString start = QDir::currentPath();
+  for (const Sight& sight : Sights) {
+    const QString name = QString::fromUtf16(sight.folder);
+    if (!only.isEmpty() && name != only) continue;
+    const bool drawn = Photograph(sight, folder + QLatin1Char('/') + name);
+    QDir::setCurrent(start);
+    if (!drawn) return EXIT_FAILURE;
   }
   return EXIT_SUCCESS;
 }
@@ -435,12 +447,13 @@ int Run(const QString& folder) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  // Chromium refuses its sandbox to the administrator.
+  if (::geteuid() == 0) qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
   const Application application(argc, argv);
-  if (argc != 2) {
-    std::cerr << "usage : talvor_captures DOSSIER\n";
+  if (argc < 2 || argc > 3) {
+    std::cerr << "usage : talvor_captures DOSSIER [TAILLE]\n";
     return 2;
   }
-  const QString folder = QDir(QString::fromLocal8Bit(argv[1])).absolutePath();
-  QDir().mkpath(folder);
-  return Run(folder);
+  return Run(QDir(QString::fromLocal8Bit(argv[1])).absolutePath(),
+             argc == 3 ? QString::fromLocal8Bit(argv[2]) : QString());
 }
