@@ -19,11 +19,12 @@ namespace {
 
 // What a window of the largest size leaves on the screen: its title bar.
 constexpr int TitleBar = 40;
-constexpr std::array<QSize, 4> Screens{{
+constexpr std::array<QSize, 5> Screens{{
     {1024, 768},
     {1280, 720},  // also Full HD at 150 %
     {1366, 768},
     {960, 540},  // Full HD at 200 %
+    {911, 512},  // 1366x768 where the desktop has 144 dots to the inch
 }};
 constexpr double LargeText = 1.5;
 

@@ -115,7 +115,8 @@ Theme::Palette Theme::Preferred() {
 }
 
 // Desktops enlarge text in two ways: by more dots to the inch, or by a font of more points. What they start
-// with lies between 9 and 11 points.
+// with lies between 9 and 11 points. Qt usually takes the dots for a zoom and leaves 96 of them; only where
+// its scaling is switched off do they come here.
 double Theme::DesktopTextScale() {
   constexpr double UsualDots = 96;
   constexpr double UsualPoints = 10;
