@@ -40,9 +40,10 @@ MainWindow::MainWindow(Principale& principale, QtShell& shell, const Theme& them
   scroll->setFocusPolicy(Qt::NoFocus);
   scroll->setWidget(pages_);
   column->addWidget(scroll, 1);
-  // What has the focus is in view, however it came there.
+  // What has the focus is in view with the beginning of its row, however it came there.
+  constexpr int Around = 24;
   connect(qApp, &QApplication::focusChanged, scroll, [this, scroll](QWidget*, QWidget* now) {
-    if (now != nullptr && pages_->isAncestorOf(now)) scroll->ensureWidgetVisible(now, 0, 0);
+    if (now != nullptr && pages_->isAncestorOf(now)) scroll->ensureWidgetVisible(now, Around, Around);
   });
   setCentralWidget(centre);
 

@@ -108,6 +108,8 @@ QWidget* ApplyWindow::MakeMessage() {
   auto* letter = new QPlainTextEdit(plane);
   letter->setObjectName(QStringLiteral("Texte"));
   letter->setTabChangesFocus(true);
+  constexpr int LeastMessage = 120;
+  letter->setMinimumHeight(TextPixels(LeastMessage));
   AddRow(grid, tr("Email e&xpéditeur"), sender, FormPostuler::SenderCheck);
   AddRow(grid, tr("Email &destinataire"), recipient_, FormPostuler::RecipientCheck);
   AddRow(grid, tr("&Objet du message"), subject, FormPostuler::SubjectCheck);
