@@ -15,7 +15,7 @@ enum class Bound { None, BeforeU, BeforeUMinus1 };
 enum class Casing { AsItStands, NomPropre };
 
 struct PhraseReader {
-  Text AdFields::*field;
+  Text AdFields::* field;
   Index firstK;
   TextView stopWord;           // a word that ends the phrase, empty for none
   TextView stopPrefix;         // the first three characters of one that does, empty for none

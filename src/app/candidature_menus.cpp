@@ -39,7 +39,7 @@ bool CandidatureMenus::Choisir(TextView item) {
   }
   struct Way {
     TextView item;
-    std::function<void()> Ways::*run;
+    std::function<void()> Ways::* run;
   };
   static constexpr std::array<Way, 7> Elsewhere{{
       {u"MenuImprimerListe", &Ways::imprimerListe},

@@ -12,7 +12,7 @@ namespace talvor {
 template <class Record>
 struct Field {
   TextView name;
-  Text Record::*text;
+  Text Record::* text;
 };
 
 template <class Record, std::size_t N>

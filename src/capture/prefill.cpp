@@ -9,7 +9,7 @@ enum class Match { Holds, Equals };
 
 struct Row {
   TextView text;
-  Text PrefillValues::*value;
+  Text PrefillValues::* value;
   Match match = Match::Holds;
 };
 

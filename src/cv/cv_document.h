@@ -92,7 +92,7 @@ inline constexpr std::size_t FirstUnreadField = 36;
 struct CheckGroup {
   TextView name;
   std::size_t size;
-  Checks CvDocument::*values;
+  Checks CvDocument::* values;
 };
 
 // In the order of the file.

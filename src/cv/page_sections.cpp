@@ -6,7 +6,7 @@ namespace {
 constexpr std::array<TextView, 7> Marks{u"P01", u"P02", u"P03", u"P04", u"P05", u"P06", u"P07"};
 
 struct Section {
-  Text CvDocument::*field;
+  Text CvDocument::* field;
   TextView from;
   TextView to;
 };

@@ -137,7 +137,7 @@ void HeaderBar::MakeLogo() {
 }
 
 IconTile* HeaderBar::MakeButton(const QString& icon, const QString& caption, const QString& name,
-                                std::function<void()> HeaderBar::*click) {
+                                std::function<void()> HeaderBar::* click) {
   // A wide font widens the button rather than cut its caption.
   QFont face = font();
   face.setPixelSize(TextPixels(IconTile::CaptionFont));
@@ -179,7 +179,7 @@ void HeaderBar::MakeSlot(std::size_t index, QWidget* tray) {
 }
 
 void HeaderBar::ConnectSlot(std::size_t index, IconTile& slot) {
-  const auto run = [this, index](std::function<void(std::size_t)> HeaderBar::*action) {
+  const auto run = [this, index](std::function<void(std::size_t)> HeaderBar::* action) {
     doubleClick_.stop();
     if (this->*action) (this->*action)(index);
   };

@@ -37,7 +37,7 @@ class HeaderBar : public QFrame {
  private:
   QWidget* MakeTray(std::size_t from, std::size_t to, const QString& name);
   IconTile* MakeButton(const QString& icon, const QString& caption, const QString& name,
-                       std::function<void()> HeaderBar::*click);
+                       std::function<void()> HeaderBar::* click);
   void MakeSlot(std::size_t index, QWidget* tray);
   void ConnectSlot(std::size_t index, IconTile& slot);
   [[nodiscard]] bool IsCurrent(std::size_t index, TextView page) const;

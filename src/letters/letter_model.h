@@ -61,7 +61,7 @@ inline constexpr FieldTable<LetterModel, 18> LetterFields{{
 
 struct FlagGroup {
   TextView name;
-  FlagPair LetterModel::*flags;
+  FlagPair LetterModel::* flags;
 };
 
 // In the order of the file.

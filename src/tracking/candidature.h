@@ -32,7 +32,7 @@ enum class Signed { No, Yes };
 
 struct CandidatureField {
   TextView name;  // on the form, in tags and in JSON
-  Text Candidature::*text;
+  Text Candidature::* text;
   int place;    // orders the fields as they stand on the form
   int control;  // orders them as the form lists its controls: that of the tags and of the signature
   Cut cut = Cut::None;
@@ -79,7 +79,7 @@ inline constexpr auto CandidatureFields = [] {
 inline constexpr std::size_t CandidatureFieldCount = CandidatureFields.size();
 
 [[nodiscard]] consteval std::array<CandidatureField, CandidatureFieldCount> CandidatureFieldsBy(
-    int CandidatureField::*order) {
+    int CandidatureField::* order) {
   auto fields = CandidatureFields;
   std::ranges::sort(fields, {}, order);
   return fields;
@@ -90,15 +90,14 @@ inline constexpr auto CandidatureControls = CandidatureFieldsBy(&CandidatureFiel
 // In the order in which they stand on the form.
 inline constexpr auto DetailFields = [] {
   FieldTable<Candidature, CandidatureFieldCount> table;
-  std::ranges::transform(CandidatureFieldsBy(&CandidatureField::place), table.begin(),
-                         [](const CandidatureField& field) {
-                           return Field<Candidature>{field.name, field.text};
-                         });
+  std::ranges::transform(
+      CandidatureFieldsBy(&CandidatureField::place), table.begin(),
+      [](const CandidatureField& field) { return Field<Candidature>{field.name, field.text}; });
   return table;
 }();
 
 // The index of a field's column in CandidatureFields; a member without a row there is no constant.
-[[nodiscard]] constexpr std::size_t ColumnIndexOf(Text Candidature::*field) {
+[[nodiscard]] constexpr std::size_t ColumnIndexOf(Text Candidature::* field) {
   std::size_t index = 0;
   while (CandidatureFields.at(index).text != field) ++index;
   return index;
@@ -108,7 +107,7 @@ inline constexpr auto DetailFields = [] {
 // when the program is built.
 class Column {
  public:
-  consteval Column(Text Candidature::*field) : index_(ColumnIndexOf(field)) {}
+  consteval Column(Text Candidature::* field) : index_(ColumnIndexOf(field)) {}
   explicit constexpr Column(std::size_t index) : index_(index) {}
 
   [[nodiscard]] constexpr std::size_t Index() const { return index_; }

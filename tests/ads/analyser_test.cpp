@@ -23,7 +23,7 @@ AdFields Analysed(TextView advertisement, AdFields record = {}, Text address = T
 struct Reading {
   const char* reason;
   Text advertisement;
-  Text AdFields::*field;
+  Text AdFields::* field;
   Text expected;
   friend void PrintTo(const Reading& row, std::ostream* out) { *out << row.reason; }
 };

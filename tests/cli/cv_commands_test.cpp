@@ -23,7 +23,8 @@ TEST_F(CvCommandsTest, ACvFillsItsTemplate) {
          "style='font-family:Arial;color:#FF6600'>#Prenom# #Nom##Ville# (#NomCV#) #Photographie#\r\n"
          "P01#Etudes#P02#Formations#P03<h2>Vide</h2>P04P05\x95 #Langues#P06#Divers#P07</p>";
   const std::string page =
-      "<meta content='text/html; charset=utf-8'><p style='font-family:Arial;color:#123456'>Zoé Œuilly 😃 (Zoé "
+      "<meta content='text/html; charset=utf-8'><p style='font-family:Arial;color:#123456'>Zoé Œuilly 😃 "
+      "(Zoé "
       "Roy) \r\n"
       "• Allemand courant<br><br>Un an<br>à Bonn<b>Voile</b></p>\r\n\r\n";
   const Result rendered = Talvorctl({"cv", "rendre", "Zo\xC3\xA9 Roy.dat", "--modele", "m.htm"});

@@ -46,7 +46,7 @@ bool SameKeys(const CvDocument& a, const CvDocument& b) {
 CvDocument RandomDocument(std::mt19937& random) {
   static const std::vector<Text> pieces{u"a",    u"é",  u" ",  u"=", u":",    u"<N",   u"N>",
                                         u"\r\n", u"\n", u"€",  u"#", u"P03",  u"œ",    u"0:LangueProf=1",
-                                        u"Łódź", u"😃",  u"漢", u"&", u"<br>", u"\t\"", u"\u00A0"};
+                                        u"Łódź", u"😃", u"漢", u"&", u"<br>", u"\t\"", u"\u00A0"};
   CvDocument cv;
   for (const auto& field : CvFields) {
     Text& text = cv.*(field.text);

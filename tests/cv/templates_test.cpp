@@ -16,7 +16,7 @@ namespace {
 namespace fs = std::filesystem;
 
 struct Heading {
-  Text CvDocument::*field;
+  Text CvDocument::* field;
   TextView french, english;
 };
 
@@ -193,8 +193,7 @@ TEST_P(Templates, FetchAndRunNothing) {
 
 std::string NameOf(const testing::TestParamInfo<fs::path>& info) {
   std::string name = info.param.stem().string();
-  std::replace_if(
-      name.begin(), name.end(), [](unsigned char c) { return std::isalnum(c) == 0; }, '_');
+  std::replace_if(name.begin(), name.end(), [](unsigned char c) { return std::isalnum(c) == 0; }, '_');
   return name;
 }
 

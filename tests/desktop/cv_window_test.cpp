@@ -131,17 +131,18 @@ TEST_F(CvWindowTest, AHostileCvRunsNothingFetchesNothingAndReadsNoOtherFile) {
   Write("secret.html", "<p>fichier secret</p>");
   std::filesystem::create_symlink(Folder() / "secret.html", Folder() / "Modeles" / "lien.html");
   const std::string secret = "file://" + (Folder() / "secret.html").string();
-  Write(
-      "CV/Hostile.dat",
-      "Nom=Marchand\r\nNomModele=Basic\r\nMod\xE8le=Basic.htm\r\nEtudes="
-      "<script>document.body.append('script' + ' lance')</script>"
-      "<img src=x onerror=\"document.body.append('script' + ' lance')\">"
-      "<img src=" +
-          remote + "/image><link rel=preconnect href=" + remote + "><LINK\trel=preconnect href=" + remote + "><link rel=prefetch href=" + remote +
-          "/p><style>@import url(" + remote + "/style);</style><iframe src=" + remote +
-          "></iframe><object data=" + remote + "/objet></object><meta http-equiv=refresh content='0;url=" +
-          remote + "/ailleurs'><iframe src=file:///etc/passwd></iframe><iframe src=" + secret +
-          "></iframe><iframe src=../secret.html></iframe><iframe src=lien.html></iframe><iframe src=voisin.html></iframe>\r\nDivers=Chorale\r\n");
+  Write("CV/Hostile.dat",
+        "Nom=Marchand\r\nNomModele=Basic\r\nMod\xE8le=Basic.htm\r\nEtudes="
+        "<script>document.body.append('script' + ' lance')</script>"
+        "<img src=x onerror=\"document.body.append('script' + ' lance')\">"
+        "<img src=" +
+            remote + "/image><link rel=preconnect href=" + remote + "><LINK\trel=preconnect href=" + remote +
+            "><link rel=prefetch href=" + remote + "/p><style>@import url(" + remote +
+            "/style);</style><iframe src=" + remote + "></iframe><object data=" + remote +
+            "/objet></object><meta http-equiv=refresh content='0;url=" + remote +
+            "/ailleurs'><iframe src=file:///etc/passwd></iframe><iframe src=" + secret +
+            "></iframe><iframe src=../secret.html></iframe><iframe src=lien.html></iframe><iframe "
+            "src=voisin.html></iframe>\r\nDivers=Chorale\r\n");
   desktop->Cv().OpenFile(u"Hostile.dat");
   ASSERT_TRUE(SeesAtLast(QStringLiteral("Chorale")));
   // The last frame has come, so those before it have had their turn.

@@ -69,14 +69,14 @@ BrowserPane::BrowserPane(const Theme& theme, QWidget* parent) : QWidget(parent),
   sites_->OnLeave = [this] { Act(&Actions::leaveSites); };
 }
 
-void BrowserPane::Act(std::function<void()> Actions::*action) {
+void BrowserPane::Act(std::function<void()> Actions::* action) {
   const auto act = on.*action;  // the pane may be gone before it returns
   if (act) act();
 }
 
 QToolButton* BrowserPane::AddTool(QBoxLayout& row, const QString& name, const QString& icon,
                                   const QString& text, const QKeySequence& key,
-                                  std::function<void()> Actions::*action) {
+                                  std::function<void()> Actions::* action) {
   constexpr int IconSide = 18;
   auto* tool = new QToolButton(this);
   tool->setObjectName(name);
@@ -133,7 +133,7 @@ QWidget* BrowserPane::MakeBar() {
 }
 
 QPushButton* BrowserPane::AddLink(const QString& icon, const QString& text, const QString& name,
-                                  std::function<void()> Actions::*action) {
+                                  std::function<void()> Actions::* action) {
   QPushButton* link = MakeLink(theme_, icon, text, name, stripContent_);
   // The page keeps its selection and its field.
   link->setFocusPolicy(Qt::TabFocus);

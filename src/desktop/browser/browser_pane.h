@@ -48,10 +48,10 @@ class BrowserPane : public QWidget {
   QWidget* MakeBar();
   QWidget* MakeStrip();
   QToolButton* AddTool(QBoxLayout& row, const QString& name, const QString& icon, const QString& text,
-                       const QKeySequence& key, std::function<void()> Actions::*action);
+                       const QKeySequence& key, std::function<void()> Actions::* action);
   QPushButton* AddLink(const QString& icon, const QString& text, const QString& name,
-                       std::function<void()> Actions::*action);
-  void Act(std::function<void()> Actions::*action);
+                       std::function<void()> Actions::* action);
+  void Act(std::function<void()> Actions::* action);
   void ShowBar();
   void ShowStrip(int top);
   void ShowGauge(double width);

@@ -77,7 +77,7 @@ void CvDesk::Register() {
                                              // The window looks at the model until it is gone, so it goes at once.
                                              delete window_.data();
                                              program_.shell.Unload(EditorHelpForm);
-                                     }});
+                                           }});
   program_.shell.Register(EditorHelpForm,
                           {.place = QtShell::Place::Over,
                            .make = [](QWidget* parent) -> QWidget* { return new AidePanel(parent); }});

@@ -147,7 +147,7 @@ void CvPagePane::resizeEvent(QResizeEvent* event) {
 }
 
 QLineEdit* CvPagePane::MakeChoice(const char16_t* name, const QString& image, const QString& spoken,
-                                  std::function<void()> CvPagePane::*open, QWidget* bar) {
+                                  std::function<void()> CvPagePane::* open, QWidget* bar) {
   auto* field = new QLineEdit(bar);
   field->setObjectName(QString::fromUtf16(name));
   field->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);

@@ -47,7 +47,7 @@ class CvPagePane : public QWidget {
   QWidget* MakeOptions();
   static void GiveRoom(QLineEdit& field, const QString& entry);
   QLineEdit* MakeChoice(const char16_t* name, const QString& image, const QString& spoken,
-                        std::function<void()> CvPagePane::*open, QWidget* bar);
+                        std::function<void()> CvPagePane::* open, QWidget* bar);
   void StepFont(int step);
   void AddChevron(QPushButton& entry);
 

@@ -79,7 +79,7 @@ QWidget* LetterSheetPane::MakeHead() {
 
 QButtonGroup* LetterSheetPane::MakeSegments(const QString& name, const QString& spoken,
                                             const std::array<QString, 2>& captions,
-                                            std::function<void(std::size_t)> LetterSheetPane::*click,
+                                            std::function<void(std::size_t)> LetterSheetPane::* click,
                                             QVBoxLayout* column) {
   auto* segments = new QFrame(this);
   segments->setProperty("seg", true);
@@ -180,8 +180,7 @@ void LetterSheetPane::resizeEvent(QResizeEvent* event) {
 
 // When the layout under way is done.
 void LetterSheetPane::FitLater() {
-  QMetaObject::invokeMethod(
-      this, [this] { FitNotes(); }, Qt::QueuedConnection);
+  QMetaObject::invokeMethod(this, [this] { FitNotes(); }, Qt::QueuedConnection);
 }
 
 void LetterSheetPane::TellNotes() {

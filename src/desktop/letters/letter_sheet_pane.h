@@ -44,7 +44,7 @@ class LetterSheetPane : public QWidget {
   QWidget* MakePaper();
   QButtonGroup* MakeSegments(const QString& name, const QString& spoken,
                              const std::array<QString, 2>& captions,
-                             std::function<void(std::size_t)> LetterSheetPane::*click, QVBoxLayout* column);
+                             std::function<void(std::size_t)> LetterSheetPane::* click, QVBoxLayout* column);
   Note MakeNote(const QString& name, QWidget* parent);
   void TellNote(const Note& note, const QString& icon, const QString& token, const QString& text);
   void TellNotes();

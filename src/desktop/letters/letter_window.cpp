@@ -70,8 +70,7 @@ void LetterWindow::Do(const std::function<void()>& action) {
 }
 
 void LetterWindow::NewLetter() {
-  QMetaObject::invokeMethod(
-      this, [this] { Refresh(); }, Qt::QueuedConnection);
+  QMetaObject::invokeMethod(this, [this] { Refresh(); }, Qt::QueuedConnection);
   Do([&] { form_.NouvelleLettre(); });
 }
 

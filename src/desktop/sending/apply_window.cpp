@@ -196,8 +196,7 @@ QWidget* ApplyWindow::MakeChoices() {
       tr("Modèles de &lettre"), models_, QStringLiteral("Modele"),
       [this](std::size_t i) { form_.ClicModele(i); }, column);
   column->addSpacing(6);
-  MakeCard(
-      tr("&CV"), cvs_, QStringLiteral("CV"), [this](std::size_t i) { form_.ClicCV(i); }, column);
+  MakeCard(tr("&CV"), cvs_, QStringLiteral("CV"), [this](std::size_t i) { form_.ClicCV(i); }, column);
   column->addStretch(1);
   MakeWays(plane, column);
   return plane;
@@ -320,8 +319,7 @@ bool ApplyWindow::eventFilter(QObject* watched, QEvent* event) {
   if (watched == documents_ && event->type() == QEvent::FocusOut && form_.File2Visible) {
     form_.QuitterFile2();
     // The click that takes the focus may be on its way to a button that would move.
-    QMetaObject::invokeMethod(
-        this, [this] { ShowDocuments(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, [this] { ShowDocuments(); }, Qt::QueuedConnection);
   }
   return ScrollingDialog::eventFilter(watched, event);
 }
