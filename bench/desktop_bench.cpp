@@ -8,9 +8,12 @@
 #include <QTemporaryDir>
 #include <QWebEngineView>
 #include <algorithm>
+#include <cstdint>
 #include <ctime>
+#include <filesystem>
 #include <iostream>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "app/installation.h"

@@ -4,7 +4,9 @@
 #include <benchmark/benchmark.h>
 #include <sqlite3.h>
 
+#include <cstdint>
 #include <memory>
+#include <string>
 
 #include "tests/fakes/fakes.h"
 #include "tests/fakes/scratch_folder.h"

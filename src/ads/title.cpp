@@ -1,5 +1,7 @@
 // The title: it begins at the first job word of the advertisement and ends with its line.
 
+#include <utility>
+
 #include "ads/job_words.h"
 #include "ads/phrase_reader.h"
 #include "ads/rules.h"

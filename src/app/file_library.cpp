@@ -1,6 +1,7 @@
 #include "app/file_library.h"
 
 #include <array>
+#include <cstdint>
 #include <optional>
 #include <span>
 

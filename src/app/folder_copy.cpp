@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <fstream>
 #include <optional>
+#include <system_error>
 #include <vector>
 
 #include "base/line_file.h"

@@ -1,6 +1,11 @@
 #include "app/form_load_save.h"
 
 #include <chrono>
+#include <cstdint>
+#include <exception>
+#include <stdexcept>
+#include <system_error>
+#include <utility>
 
 #include "base/failure_cause.h"
 #include "base/line_file.h"

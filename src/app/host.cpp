@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <ctime>
 #include <filesystem>
+#include <system_error>
 
 #include "base/line_file.h"
 

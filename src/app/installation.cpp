@@ -1,6 +1,7 @@
 #include "app/installation.h"
 
 #include <algorithm>
+#include <system_error>
 
 #include "tracking/store.h"
 

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <filesystem>
+#include <system_error>
 
 #include "workspace/documents_folder.h"
 

@@ -1,6 +1,8 @@
 #include "app/start_up.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <filesystem>
 #include <string>
 #include <system_error>
 #include <vector>

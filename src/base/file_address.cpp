@@ -1,5 +1,7 @@
 #include "base/file_address.h"
 
+#include <string_view>
+
 namespace talvor {
 
 Text FileAddress(const std::filesystem::path& file) {

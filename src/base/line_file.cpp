@@ -6,6 +6,7 @@
 #include <array>
 #include <cerrno>
 #include <fstream>
+#include <system_error>
 
 #include "base/code_page.h"
 

@@ -1,5 +1,7 @@
 #include "capture/form_cand_capture.h"
 
+#include <utility>
+
 #include "ads/analyser.h"
 
 namespace talvor {

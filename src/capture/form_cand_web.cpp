@@ -1,5 +1,7 @@
 #include "capture/form_cand_web.h"
 
+#include <vector>
+
 #include "capture/prefill.h"
 
 namespace talvor {

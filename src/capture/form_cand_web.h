@@ -2,6 +2,8 @@
 // advertisements out of pages, the rating of pages and the prefill of web forms.
 #pragma once
 
+#include <functional>
+
 #include "ads/page_rating.h"
 #include "capture/form_cand_capture.h"
 #include "capture/site_directory.h"

@@ -1,6 +1,7 @@
 // `FormCand`: advertisements out of pages, and the rating of pages.
 
 #include <optional>
+#include <utility>
 
 #include "ads/page_rating.h"
 #include "ads/ungluing.h"

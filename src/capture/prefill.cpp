@@ -1,6 +1,7 @@
 #include "capture/prefill.h"
 
 #include <array>
+#include <utility>
 
 namespace talvor {
 namespace {

@@ -1,6 +1,8 @@
 #include "capture/site_directory.h"
 
 #include <algorithm>
+#include <filesystem>
+#include <system_error>
 
 #include "ads/delivered_sites.h"
 #include "base/code_page.h"

@@ -1,3 +1,6 @@
+#include <optional>
+#include <string>
+
 #include "ads/analyser.h"
 #include "ads/page_rating.h"
 #include "ads/ungluing.h"

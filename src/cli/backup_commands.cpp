@@ -1,4 +1,7 @@
 #include <filesystem>
+#include <optional>
+#include <string>
+#include <system_error>
 
 #include "app/form_load_save.h"
 #include "app/host.h"

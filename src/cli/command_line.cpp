@@ -1,6 +1,12 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <cstdint>
 #include <filesystem>
+#include <functional>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include "base/failure_cause.h"
 #include "cli/commands.h"

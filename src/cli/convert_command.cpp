@@ -1,4 +1,7 @@
 #include <filesystem>
+#include <optional>
+#include <string>
+#include <utility>
 #include <vector>
 
 #include "app/host.h"

@@ -1,4 +1,6 @@
 #include <filesystem>
+#include <string>
+#include <utility>
 
 #include "base/line_file.h"
 #include "cli/commands.h"

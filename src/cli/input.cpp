@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <iterator>
+#include <utility>
 
 #include "base/line_file.h"
 

@@ -1,3 +1,6 @@
+#include <optional>
+#include <string>
+
 #include "app/host.h"
 #include "cli/commands.h"
 #include "cli/input.h"

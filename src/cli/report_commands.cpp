@@ -1,3 +1,6 @@
+#include <ostream>
+#include <string>
+
 #include "cli/commands.h"
 #include "cli/input.h"
 #include "cli/workspace.h"

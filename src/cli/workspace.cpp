@@ -1,6 +1,8 @@
 #include "cli/workspace.h"
 
 #include <filesystem>
+#include <system_error>
+#include <utility>
 
 #include "app/start_up.h"
 

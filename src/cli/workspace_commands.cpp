@@ -1,5 +1,9 @@
 #include <array>
+#include <cstdint>
 #include <filesystem>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include "app/installation.h"
 #include "cli/commands.h"

@@ -1,6 +1,7 @@
 #include "cv/colours.h"
 
 #include <cmath>
+#include <cstdint>
 
 namespace talvor {
 

@@ -1,6 +1,7 @@
 #include "cv/cv_file.h"
 
 #include <span>
+#include <utility>
 
 #include "base/code_page.h"
 #include "base/fonctionnel.h"

@@ -1,6 +1,7 @@
 #include "cv/editor.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "base/fonctionnel.h"
 #include "cv/cv_file.h"

@@ -1,5 +1,8 @@
 // The part of the editor that loads a CV and renders its page.
 #include <algorithm>
+#include <filesystem>
+#include <optional>
+#include <utility>
 
 #include "base/code_page.h"
 #include "base/fonctionnel.h"

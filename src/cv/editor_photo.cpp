@@ -1,4 +1,9 @@
 // The part of the editor that changes the photo of a CV.
+#include <filesystem>
+#include <string_view>
+#include <system_error>
+#include <utility>
+
 #include "base/line_file.h"
 #include "cv/editor.h"
 #include "cv/editor_texts.h"

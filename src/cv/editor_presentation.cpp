@@ -1,5 +1,6 @@
 // The part of the editor that sets how the page looks, and its menus and help.
 #include <algorithm>
+#include <array>
 
 #include "cv/colours.h"
 #include "cv/editor.h"

@@ -1,5 +1,7 @@
 #include "cv/model_files.h"
 
+#include <system_error>
+
 #include "base/line_file.h"
 #include "workspace/document_keeping.h"
 #include "workspace/workspace_paths.h"

@@ -1,5 +1,8 @@
 #include "cv/page_sections.h"
 
+#include <array>
+#include <utility>
+
 namespace talvor {
 namespace {
 

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QTranslator>
 #include <functional>
+#include <string>
 
 #include "desktop/french_texts.h"
 

@@ -9,9 +9,14 @@
 #include <QTimer>
 
 #include <array>
+#include <cstdint>
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <string>
+#include <tuple>
+#include <utility>
 
 #include "app/installation.h"
 #include "base/code_page.h"

@@ -1,5 +1,7 @@
 #include "desktop/desktop.h"
 
+#include <filesystem>
+
 #include <QGuiApplication>
 #include <QScreen>
 

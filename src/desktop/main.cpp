@@ -4,7 +4,10 @@
 #include <QMessageBox>
 #include <QStandardPaths>
 #include <cstdlib>
+#include <exception>
+#include <filesystem>
 #include <iostream>
+#include <string>
 
 #include "app/host.h"
 #include "app/installation.h"

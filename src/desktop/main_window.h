@@ -4,6 +4,8 @@
 #include <QMainWindow>
 #include <QStackedWidget>
 
+#include <functional>
+
 #include "desktop/header_bar.h"
 #include "desktop/platform/qt_shell.h"
 

@@ -1,5 +1,8 @@
 #include "letters/composer.h"
 
+#include <array>
+#include <utility>
+
 #include "base/fonctionnel.h"
 
 namespace talvor {

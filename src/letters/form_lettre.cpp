@@ -1,5 +1,7 @@
 #include "letters/form_lettre.h"
 
+#include <system_error>
+
 #include "base/fonctionnel.h"
 #include "cv/cv_file.h"
 #include "letters/composer.h"

@@ -4,6 +4,7 @@
 // 0-based; one that does not exist does nothing.
 #pragma once
 
+#include <array>
 #include <filesystem>
 #include <functional>
 

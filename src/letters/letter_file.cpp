@@ -1,5 +1,9 @@
 #include "letters/letter_file.h"
 
+#include <array>
+#include <utility>
+#include <vector>
+
 #include "base/code_page.h"
 #include "base/fonctionnel.h"
 #include "base/line_file.h"

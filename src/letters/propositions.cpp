@@ -1,6 +1,8 @@
 #include "letters/propositions.h"
 
 #include <algorithm>
+#include <string>
+#include <string_view>
 
 #include "base/code_page.h"
 #include "base/fonctionnel.h"

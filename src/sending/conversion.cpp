@@ -1,5 +1,7 @@
 #include "sending/conversion.h"
 
+#include <system_error>
+
 #include "base/line_file.h"
 #include "cv/model_files.h"
 #include "workspace/document_keeping.h"

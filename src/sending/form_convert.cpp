@@ -3,6 +3,8 @@
 #include <array>
 #include <chrono>
 #include <ctime>
+#include <filesystem>
+#include <system_error>
 
 #include "base/line_file.h"
 #include "cv/model_files.h"

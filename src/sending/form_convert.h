@@ -1,6 +1,8 @@
 // `FormConvert`, the dialog around the conversion of the CV in the editor.
 #pragma once
 
+#include <filesystem>
+
 #include "sending/conversion.h"
 
 namespace talvor {

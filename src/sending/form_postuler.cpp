@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <exception>
+#include <filesystem>
+#include <system_error>
+#include <utility>
 
 #include "base/line_file.h"
 #include "sending/form_convert.h"

@@ -1,6 +1,7 @@
 #include "sending/mail.h"
 
 #include <filesystem>
+#include <system_error>
 
 #include "base/line_file.h"
 

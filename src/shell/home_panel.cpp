@@ -1,6 +1,7 @@
 #include "shell/home_panel.h"
 
 #include <array>
+#include <utility>
 
 #include "app/hints.h"
 

@@ -1,5 +1,7 @@
 #include "tracking/form_cand.h"
 
+#include <cstdint>
+
 #include "ads/contracts.h"
 #include "base/day.h"
 #include "base/fonctionnel.h"

@@ -2,6 +2,7 @@
 // right. What browses, captures and prefills stands in capture.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <optional>
 

@@ -1,6 +1,7 @@
 // `FormCand`: the choices of status and contract, with the dates and remarks that a status stamps.
 
 #include <algorithm>
+#include <array>
 
 #include "ads/contracts.h"
 #include "tracking/form_cand.h"

@@ -1,8 +1,11 @@
 // `FormCand`: the tree of the candidatures, its sort options, its clicks and the search panel.
 
 #include <algorithm>
+#include <cstdint>
 #include <filesystem>
 #include <limits>
+#include <optional>
+#include <system_error>
 
 #include "base/fonctionnel.h"
 #include "tracking/form_cand.h"

@@ -10,6 +10,7 @@
 #include <string>
 #include <string_view>
 #include <system_error>
+#include <utility>
 
 #include "tracking/ageing.h"
 #include "tracking/sqlite_engine.h"

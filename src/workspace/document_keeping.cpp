@@ -1,6 +1,7 @@
 #include "workspace/document_keeping.h"
 
 #include <string>
+#include <system_error>
 
 #include "base/line_file.h"
 #include "workspace/workspace_paths.h"

@@ -1,6 +1,7 @@
 #include "workspace/systeme.h"
 
 #include <filesystem>
+#include <system_error>
 
 #include "base/line_file.h"
 

@@ -1,6 +1,7 @@
 #include "workspace/workspace_paths.h"
 
 #include <algorithm>
+#include <system_error>
 
 #include "base/line_file.h"
 

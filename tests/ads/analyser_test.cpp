@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
+#include <utility>
+
 #include "ads/contracts.h"
 
 namespace talvor {

@@ -3,6 +3,11 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+#include <system_error>
+
 #include "base/line_file.h"
 #include "tests/fakes/scratch_folder.h"
 

@@ -2,9 +2,17 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <filesystem>
 #include <fstream>
+#include <functional>
 #include <map>
+#include <memory>
 #include <set>
+#include <string>
+#include <string_view>
+#include <system_error>
+#include <vector>
 
 #include "app/installation.h"
 #include "app/start_up.h"

@@ -4,8 +4,13 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cstdint>
+#include <filesystem>
 #include <fstream>
 #include <set>
+#include <string>
+#include <tuple>
+#include <utility>
 
 #include "app/office_page.h"
 #include "app/picture.h"

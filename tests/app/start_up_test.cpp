@@ -1,6 +1,9 @@
 #include "app/start_up.h"
 
+#include <filesystem>
 #include <fstream>
+#include <string>
+#include <vector>
 
 #include "app/installation.h"
 #include "base/line_file.h"

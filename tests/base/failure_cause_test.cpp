@@ -2,7 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <exception>
+#include <filesystem>
 #include <new>
+#include <stdexcept>
+#include <system_error>
 
 #include "base/result.h"
 

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+#include <ostream>
+
 #include "base/day.h"
 
 namespace talvor {

@@ -5,7 +5,12 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <chrono>
+#include <filesystem>
 #include <future>
+#include <string>
+#include <system_error>
+#include <vector>
 
 #include "base/code_page.h"
 #include "base/line_file.h"

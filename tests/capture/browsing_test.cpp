@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <fstream>
 #include <set>
+#include <utility>
 
 #include "base/line_file.h"
 #include "capture/prefill.h"

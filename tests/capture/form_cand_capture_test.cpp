@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 #include "ads/ungluing.h"
 #include "tests/tracking/tracking_fixture.h"
 #include "tracking/form_cand_messages.h"

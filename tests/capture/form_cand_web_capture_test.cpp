@@ -1,6 +1,10 @@
 #include "capture/form_cand_web.h"
 
 #include <algorithm>
+#include <filesystem>
+#include <map>
+#include <string>
+#include <vector>
 
 #include "base/line_file.h"
 #include "tests/capture/web_fixture.h"

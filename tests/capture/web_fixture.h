@@ -1,6 +1,9 @@
 // The browsing side of the form over fakes.
 #pragma once
 
+#include <utility>
+#include <vector>
+
 #include "capture/form_cand_web.h"
 #include "tests/tracking/tracking_fixture.h"
 

@@ -2,7 +2,11 @@
 
 #include <algorithm>
 #include <chrono>
+#include <filesystem>
 #include <fstream>
+#include <string>
+#include <tuple>
+#include <vector>
 
 #include "app/process.h"
 #include "base/line_file.h"

@@ -1,6 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <fstream>
+#include <string>
+#include <vector>
 
 #include "tests/cli/talvorctl.h"
 #include "tests/fakes/scratch_folder.h"

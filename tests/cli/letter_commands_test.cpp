@@ -2,6 +2,9 @@
 
 #include <fstream>
 #include <sstream>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include "cli/commands.h"
 #include "tests/fakes/scratch_folder.h"

@@ -2,6 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <ostream>
+#include <string>
+#include <string_view>
+#include <vector>
+
 #include "base/code_page.h"
 #include "base/line_file.h"
 #include "cv/colours.h"

@@ -1,7 +1,10 @@
 // The surroundings of the CV engine, as tests see them.
 #pragma once
 
+#include <filesystem>
 #include <map>
+#include <optional>
+#include <string>
 #include <vector>
 
 #include "platform/browser.h"

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
+#include <vector>
+
 #include "cv/identity_on_page.h"
 #include "cv/vocabulary.h"
 

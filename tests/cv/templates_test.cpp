@@ -2,8 +2,11 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <cctype>
 #include <filesystem>
+#include <string>
+#include <vector>
 
 #include "base/line_file.h"
 #include "cv/cv_file.h"

@@ -12,7 +12,9 @@
 #include <QTextBrowser>
 #include <QToolButton>
 #include <QWebEngineView>
+#include <algorithm>
 #include <fstream>
+#include <string>
 
 #include "desktop/shell/user_guide.h"
 #include "tests/desktop/filled_fixture.h"

@@ -15,7 +15,14 @@
 #include <QTreeView>
 #include <QtTest/QTest>
 #include <cmath>
+#include <cstdint>
+#include <filesystem>
 #include <fstream>
+#include <functional>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include "desktop/platform/qt_clipboard.h"
 #include "desktop/platform/qt_dialogs.h"

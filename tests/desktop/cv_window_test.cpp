@@ -8,7 +8,11 @@
 #include <QTcpServer>
 #include <QToolButton>
 #include <QWebEngineFindTextResult>
+#include <filesystem>
 #include <fstream>
+#include <memory>
+#include <string>
+#include <string_view>
 
 #include "base/code_page.h"
 #include "base/line_file.h"

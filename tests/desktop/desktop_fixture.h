@@ -9,6 +9,11 @@
 #include <QPushButton>
 #include <QtTest/QTest>
 
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
 #include "app/installation.h"
 #include "desktop/application.h"
 #include "desktop/desktop.h"

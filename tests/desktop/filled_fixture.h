@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <filesystem>
 #include <fstream>
 
 #include "base/code_page.h"

@@ -5,6 +5,8 @@
 #include <QScrollBar>
 #include <QTimer>
 
+#include <vector>
+
 #include "tests/desktop/desktop_fixture.h"
 #include "tracking/form_cand_messages.h"
 

@@ -1,7 +1,10 @@
 #include <QAbstractButton>
 #include <QLabel>
+#include <filesystem>
 #include <fstream>
+#include <functional>
 #include <sstream>
+#include <string>
 
 #include "letters/merge.h"
 #include "tests/desktop/desktop_fixture.h"

@@ -9,7 +9,10 @@
 #include <QUrl>
 #include <QUrlQuery>
 #include <QtTest/QTest>
+#include <filesystem>
 #include <fstream>
+#include <string>
+#include <vector>
 
 #include "base/line_file.h"
 #include "desktop/widgets/text_edge.h"

@@ -8,7 +8,10 @@
 #include <QTextLayout>
 #include <QTimer>
 #include <QWebEngineView>
+#include <filesystem>
 #include <fstream>
+#include <string>
+#include <utility>
 
 #include "desktop/platform/qt_dialogs.h"
 #include "desktop/shell/user_guide.h"

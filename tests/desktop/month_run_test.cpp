@@ -8,7 +8,14 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QUrlQuery>
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <filesystem>
 #include <fstream>
+#include <functional>
+#include <string>
+#include <vector>
 
 #include "base/line_file.h"
 #include "tests/desktop/browser_fixture.h"

@@ -14,7 +14,11 @@
 #include <QWebEngineScript>
 #include <QWebEngineView>
 #include <array>
+#include <filesystem>
 #include <fstream>
+#include <functional>
+#include <utility>
+#include <vector>
 
 #include "base/file_address.h"
 #include "base/line_file.h"

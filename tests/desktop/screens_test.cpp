@@ -9,6 +9,12 @@
 #include <QToolButton>
 #include <QWebEngineView>
 
+#include <algorithm>
+#include <array>
+#include <functional>
+#include <string>
+#include <string_view>
+
 #include "desktop/shell/stat_widgets.h"
 #include "desktop/shell/user_guide.h"
 #include "desktop/widgets/card_button.h"
@@ -323,7 +329,7 @@ TEST_P(ScreensTest, TheLetterPrintedAndByMail) {
 TEST_P(ScreensTest, TheWindowsOverTheMainOne) {
   std::ofstream(scratch.Path() / "Documents" / "cv.pdf") << "x";
   VisitForm(ApplyForm);
-  for (const TextView form : {TextView(u"FormStat"), TextView(u"FormLoadSave"), MiseEnPage::Form,
+  for (const TextView form : {TextView(u"FormStat"), TextView(u"FormLoadSave"), PrintAdviceForm,
                               TextView(u"APropos"), UserGuideForm})
     VisitForm(form);
 }

@@ -3,7 +3,9 @@
 #include <QListWidget>
 #include <QProcess>
 #include <QRadioButton>
+#include <filesystem>
 #include <fstream>
+#include <string>
 
 #include "base/code_page.h"
 #include "base/line_file.h"

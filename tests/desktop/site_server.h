@@ -2,6 +2,8 @@
 // behave badly.
 #pragma once
 
+#include <utility>
+
 #include <QFile>
 #include <QHostAddress>
 #include <QTcpServer>

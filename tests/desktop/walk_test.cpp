@@ -6,7 +6,12 @@
 #include <QLayout>
 #include <QMenu>
 #include <QPushButton>
+#include <array>
+#include <filesystem>
 #include <fstream>
+#include <string>
+#include <string_view>
+#include <vector>
 
 #include "base/line_file.h"
 #include "desktop/shell/backup_window.h"

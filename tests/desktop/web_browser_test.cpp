@@ -11,8 +11,11 @@
 #include <QSslServer>
 #include <QTimer>
 #include <QToolButton>
+#include <algorithm>
+#include <filesystem>
 #include <fstream>
 #include <utility>
+#include <vector>
 
 #include "tests/desktop/browser_fixture.h"
 #include "tracking/form_cand_messages.h"

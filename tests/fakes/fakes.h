@@ -3,7 +3,9 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <set>
+#include <string>
 #include <vector>
 
 #include "platform/browser.h"

@@ -1,7 +1,9 @@
 // Fakes of what picks files and offers menus.
 #pragma once
 
+#include <filesystem>
 #include <map>
+#include <optional>
 
 #include "platform/menus.h"
 #include "platform/pickers.h"

@@ -2,7 +2,10 @@
 
 #include <SQLiteCpp/SQLiteCpp.h>
 
+#include <cstdint>
 #include <filesystem>
+#include <map>
+#include <system_error>
 
 #include "base/fonctionnel.h"
 #include "base/line_file.h"

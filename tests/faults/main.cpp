@@ -9,7 +9,12 @@
 
 #include <chrono>
 #include <cstdlib>
+#include <exception>
+#include <filesystem>
+#include <functional>
 #include <iostream>
+#include <random>
+#include <string>
 #include <thread>
 
 #include "app/installation.h"

@@ -1,7 +1,11 @@
 #include "tests/faults/worker.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <filesystem>
+#include <stdexcept>
+#include <system_error>
+#include <utility>
 
 #include "app/start_up.h"
 #include "base/fonctionnel.h"

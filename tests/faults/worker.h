@@ -1,8 +1,10 @@
 // A program at work on a data folder, without its windows.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <random>
+#include <vector>
 
 #include "app/form_load_save.h"
 #include "capture/form_cand_capture.h"

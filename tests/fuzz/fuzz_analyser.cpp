@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <cstring>
+#include <string_view>
 
 #include "ads/analyser.h"
 #include "ads/ungluing.h"

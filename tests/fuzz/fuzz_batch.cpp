@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <sstream>
+#include <string>
 
 #include "cli/commands.h"
 

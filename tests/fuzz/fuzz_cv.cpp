@@ -2,6 +2,7 @@
 // was, the page keeps its bound, and the parser makes its fields of what the block holds.
 
 #include <cstdint>
+#include <utility>
 
 #include "base/code_page.h"
 #include "base/line_file.h"

@@ -2,6 +2,7 @@
 // every letter is composed.
 
 #include <cstdint>
+#include <vector>
 
 #include "base/code_page.h"
 #include "base/line_file.h"

@@ -2,7 +2,9 @@
 // text as it is, and a sentence that the user wrote is never replaced by the first fill.
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
+#include <vector>
 
 #include "base/code_page.h"
 #include "base/line_file.h"

@@ -1,6 +1,7 @@
 // Bytes of any kind through the readers of the ground floor: what is read can be written back.
 
 #include <cstdint>
+#include <string_view>
 
 #include "base/code_page.h"
 #include "base/day.h"

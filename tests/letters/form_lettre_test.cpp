@@ -1,3 +1,7 @@
+#include <array>
+#include <filesystem>
+#include <vector>
+
 #include "letters/form_lettre.h"
 
 #include "tests/letters/letters_fixture.h"

@@ -1,4 +1,9 @@
+#include <filesystem>
+#include <optional>
+#include <ostream>
 #include <random>
+#include <string>
+#include <vector>
 
 #include "tests/letters/letters_fixture.h"
 

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "base/code_page.h"
 #include "base/line_file.h"
 #include "letters/form_lettre.h"

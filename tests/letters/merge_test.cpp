@@ -1,6 +1,10 @@
 #include "letters/merge.h"
 
+#include <array>
+#include <filesystem>
+#include <ostream>
 #include <random>
+#include <vector>
 
 #include "tests/letters/letters_fixture.h"
 #include "tracking/form_cand.h"

@@ -1,6 +1,11 @@
 #include "letters/propositions.h"
 
+#include <array>
+#include <filesystem>
+#include <ostream>
 #include <set>
+#include <string>
+#include <vector>
 
 #include "letters/composer.h"
 #include "letters/merge.h"

@@ -1,7 +1,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <fstream>
+#include <string>
+#include <vector>
 
 #include "base/line_file.h"
 #include "reports/printed_reports.h"

@@ -3,6 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <ctime>
+#include <filesystem>
+#include <string>
+#include <vector>
 
 #include "cv/editor.h"
 #include "sending/form_convert.h"

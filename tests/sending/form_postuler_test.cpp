@@ -2,6 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <ostream>
+#include <utility>
+#include <vector>
+
 #include "base/code_page.h"
 #include "base/line_file.h"
 #include "tests/fakes/fakes.h"

@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <utility>
+#include <vector>
+
 #include "tests/fakes/scratch_folder.h"
 #include "tests/fakes/sending_fakes.h"
 

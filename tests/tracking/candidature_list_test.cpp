@@ -1,3 +1,8 @@
+#include <filesystem>
+#include <ostream>
+#include <string>
+#include <vector>
+
 #include "base/couper_texte.h"
 #include "tests/tracking/tracking_fixture.h"
 #include "tracking/form_cand_messages.h"

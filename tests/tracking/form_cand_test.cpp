@@ -1,3 +1,7 @@
+#include <optional>
+#include <ostream>
+#include <vector>
+
 #include "ads/contracts.h"
 #include "tests/tracking/tracking_fixture.h"
 #include "tracking/form_cand_messages.h"

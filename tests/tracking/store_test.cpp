@@ -2,7 +2,11 @@
 
 #include <SQLiteCpp/SQLiteCpp.h>
 
+#include <filesystem>
 #include <fstream>
+#include <functional>
+#include <optional>
+#include <string>
 
 #include "base/line_file.h"
 #include "tests/tracking/tracking_fixture.h"

@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <string>
+
 #include "tests/fakes/fakes.h"
 #include "tests/fakes/scratch_folder.h"
 #include "tracking/form_cand.h"

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <optional>
+
 #include "base/line_file.h"
 #include "tests/fakes/scratch_folder.h"
 

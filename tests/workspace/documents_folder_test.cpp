@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "base/line_file.h"
 #include "tests/fakes/fakes.h"
 #include "tests/fakes/scratch_folder.h"

@@ -2,7 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <filesystem>
 #include <fstream>
+#include <string>
+#include <vector>
 
 #include "tests/fakes/fakes.h"
 #include "tests/fakes/scratch_folder.h"

@@ -11,6 +11,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <QWebEngineView>
+#include <algorithm>
 #include <cmath>
 
 #include "desktop/widgets/pane.h"

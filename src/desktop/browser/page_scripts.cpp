@@ -3,6 +3,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <algorithm>
+#include <vector>
 
 #include "desktop/widgets/text_edge.h"
 

@@ -4,6 +4,8 @@
 
 #include <QString>
 
+#include <vector>
+
 #include "platform/browser.h"
 
 namespace talvor::page_scripts {

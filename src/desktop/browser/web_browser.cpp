@@ -1,5 +1,8 @@
 #include "desktop/browser/web_browser.h"
 
+#include <utility>
+#include <vector>
+
 #include <QClipboard>
 #include <QEventLoop>
 #include <QGuiApplication>

@@ -9,6 +9,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <vector>
 
 #include "desktop/browser/page_gesture.h"
 #include "desktop/browser/web_page.h"

@@ -1,5 +1,7 @@
 #include "desktop/browser/web_profile.h"
 
+#include <utility>
+
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>

@@ -3,6 +3,7 @@
 
 #include <QWidget>
 #include <array>
+#include <functional>
 
 #include "desktop/candidatures/candidature_tree_view.h"
 

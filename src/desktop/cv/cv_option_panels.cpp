@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <utility>
 
 #include "cv/editor_texts.h"
 #include "desktop/widgets/pane.h"

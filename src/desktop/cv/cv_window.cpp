@@ -1,5 +1,7 @@
 #include "desktop/cv/cv_window.h"
 
+#include <utility>
+
 #include <QApplication>
 #include <QHBoxLayout>
 #include <QShortcut>

@@ -8,6 +8,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <string>
 
 #include "cv/editor_texts.h"
 #include "desktop/cv/cv_identity_form.h"

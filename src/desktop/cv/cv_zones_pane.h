@@ -4,6 +4,7 @@
 #include <QWidget>
 #include <array>
 #include <functional>
+#include <string>
 
 #include "cv/cv_document.h"
 #include "desktop/cv/cv_language_grid.h"

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <memory>
+#include <system_error>
 #include <utility>
 
 #include "base/line_file.h"

@@ -4,6 +4,7 @@
 #include <QPageLayout>
 #include <QTimer>
 #include <QWebEnginePage>
+#include <filesystem>
 #include <memory>
 
 #include "app/temporary_folder.h"

@@ -1,6 +1,8 @@
 // The page of a CV as a PDF, printed by the embedded browser, so that it looks as it does in the editor.
 #pragma once
 
+#include <filesystem>
+
 #include "platform/word_processor.h"
 
 namespace talvor {

@@ -1,5 +1,7 @@
 #include "desktop/platform/print_preview.h"
 
+#include <utility>
+
 #include <QDir>
 #include <QFileInfo>
 #include <QMessageBox>

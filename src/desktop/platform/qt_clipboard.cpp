@@ -1,5 +1,8 @@
 #include "desktop/platform/qt_clipboard.h"
 
+#include <optional>
+#include <string>
+
 #include <QBuffer>
 #include <QClipboard>
 #include <QGuiApplication>

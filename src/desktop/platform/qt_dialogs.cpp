@@ -1,5 +1,9 @@
 #include "desktop/platform/qt_dialogs.h"
 
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+
 #include <QColorDialog>
 #include <QDir>
 #include <QFileInfo>

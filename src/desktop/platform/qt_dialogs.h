@@ -4,7 +4,9 @@
 #include <QPointer>
 #include <QStringList>
 #include <QWidget>
+#include <filesystem>
 #include <functional>
+#include <optional>
 
 #include "platform/dialogs.h"
 #include "platform/pickers.h"

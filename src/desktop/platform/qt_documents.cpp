@@ -1,5 +1,7 @@
 #include "desktop/platform/qt_documents.h"
 
+#include <vector>
+
 #include <unistd.h>
 
 #include <QDeadlineTimer>

@@ -5,10 +5,12 @@
 #ifdef TALVOR_XCB
 #include <xcb/xcb.h>
 
+#include <cstdint>
 #include <cstdlib>
 #include <cstring>
 #include <memory>
 #include <string>
+#include <utility>
 #endif
 
 namespace talvor {

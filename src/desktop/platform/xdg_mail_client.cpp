@@ -1,5 +1,8 @@
 #include "desktop/platform/xdg_mail_client.h"
 
+#include <filesystem>
+#include <system_error>
+
 #include <QEventLoop>
 #include <QProcess>
 #include <QStandardPaths>

@@ -1,5 +1,7 @@
 #include "desktop/sending/apply_window.h"
 
+#include <utility>
+
 #include <QButtonGroup>
 #include <QHBoxLayout>
 #include <QKeyEvent>

@@ -1,5 +1,8 @@
 #include "desktop/sending/sending_desk.h"
 
+#include <functional>
+#include <utility>
+
 #include <QCoreApplication>
 #include <QGuiApplication>
 

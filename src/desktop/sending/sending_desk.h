@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QPointer>
+#include <functional>
 #include <optional>
 
 #include "app/libre_office.h"

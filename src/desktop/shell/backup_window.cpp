@@ -1,5 +1,7 @@
 #include "desktop/shell/backup_window.h"
 
+#include <algorithm>
+
 #include <QCloseEvent>
 #include <QLabel>
 #include <QLocale>

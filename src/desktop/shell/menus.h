@@ -6,6 +6,7 @@
 #include <functional>
 #include <initializer_list>
 #include <memory>
+#include <vector>
 
 #include "app/menu_trees.h"
 #include "desktop/widgets/theme.h"

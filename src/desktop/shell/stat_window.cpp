@@ -1,5 +1,7 @@
 #include "desktop/shell/stat_window.h"
 
+#include <span>
+
 #include <QGridLayout>
 #include <QLabel>
 #include <QScrollArea>

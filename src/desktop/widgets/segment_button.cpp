@@ -1,5 +1,7 @@
 #include "desktop/widgets/segment_button.h"
 
+#include <algorithm>
+
 namespace talvor {
 
 SegmentButton::SegmentButton(const QString& caption, QWidget* parent) : QPushButton(caption, parent) {
