@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
+#include <QFontDatabase>
 #include <QMenu>
 #include <QProcess>
 #include <QTcpServer>
@@ -156,6 +157,22 @@ TEST_F(CvWindowTest, AHostileCvRunsNothingFetchesNothingAndReadsNoOtherFile) {
   EXPECT_EQ(Matches(QStringLiteral("script lance")), 0);
   EXPECT_EQ(Page().url().fileName(), QStringLiteral("CVtemp.html"));
   EXPECT_EQ(visits, 0);
+}
+
+TEST_F(CvWindowTest, AFontThatIsNotHereIsSaidToBeReplaced) {
+  const QString twin = QStringLiteral("Liberation Sans");
+  ASSERT_TRUE(QFontDatabase::hasFamily(twin));
+  for (const char* name : {"PoliceT0", "PoliceT1", "PoliceT2", "PoliceT3", "PoliceT4", "PoliceT5"}) {
+    auto* font = Find<QPushButton>(name);
+    const QString family = font->accessibleName();
+    const bool here = QFontDatabase::hasFamily(family);
+    EXPECT_EQ(here, font->text() == family) << font->text().toStdString();
+    EXPECT_EQ(here, font->toolTip().isEmpty());
+    if (!here && family == QStringLiteral("Arial")) {
+      EXPECT_TRUE(font->text().contains(twin));
+    }
+  }
+  EXPECT_TRUE(Find<QPushButton>("PoliceT5")->text().contains(QStringLiteral("absente")));
 }
 
 TEST_F(CvWindowTest, APhotoFromTheClipboardIsShownAndRemoved) {

@@ -1,7 +1,6 @@
 #include "desktop/cv/cv_option_panels.h"
 
 #include <QCheckBox>
-#include <QFontDatabase>
 #include <QGridLayout>
 #include <QLabel>
 #include <QListWidget>
@@ -11,6 +10,7 @@
 #include <utility>
 
 #include "cv/editor_texts.h"
+#include "desktop/cv/page_fonts.h"
 #include "desktop/widgets/pane.h"
 #include "desktop/widgets/scrolling.h"
 #include "desktop/widgets/text_edge.h"
@@ -37,6 +37,22 @@ QString MarkOn(const Theme& theme, const QColor& colour) {
   constexpr int Half = 140;
   const bool light = theme.Current() == Theme::Palette::Light;
   return (qGray(colour.rgb()) > Half) == light ? QStringLiteral("tip") : QStringLiteral("ontip");
+}
+
+// A font is drawn in itself, or in the family of its widths; one that is missing says so.
+void ShowFont(QPushButton& button, const QString& name) {
+  const PageFont font = FindPageFont(name);
+  button.setAccessibleName(name);
+  button.setText(name);
+  if (!font.family.isEmpty()) button.setStyleSheet(QStringLiteral("font-family: '%1';").arg(font.family));
+  if (font.presence == PageFont::Presence::Installed) return;
+  const QString replaced = font.presence == PageFont::Presence::SameWidths
+                               ? CvOptionPanels::tr("remplacée par %1, de mêmes largeurs").arg(font.family)
+                               : CvOptionPanels::tr("absente de cet ordinateur, remplacée sur la page");
+  button.setText(name + (font.family.isEmpty() ? CvOptionPanels::tr("\n(absente)")
+                                               : QStringLiteral("\n(%1)").arg(font.family)));
+  button.setToolTip(name + QStringLiteral("\u00A0: ") + replaced);
+  button.setAccessibleDescription(replaced);
 }
 
 }  // namespace
@@ -82,13 +98,11 @@ void CvOptionPanels::MakeFonts() {
   grid->setContentsMargins(12, 8, 12, 8);
   grid->setSpacing(6);
   for (std::size_t i = 0; i < fonts_.size(); ++i) {
-    auto* font = new QPushButton(talvor::ToQt(editor_texts::Fonts[i]), panel);
+    auto* font = new QPushButton(panel);
+    ShowFont(*font, talvor::ToQt(editor_texts::Fonts[i]));
     font->setObjectName(QStringLiteral("PoliceT%1").arg(i));
     font->setCheckable(true);
     font->setFocusPolicy(Qt::NoFocus);
-    // A family that is not installed would be shown in a chance one.
-    if (QFontDatabase::hasFamily(font->text()))
-      font->setStyleSheet(QStringLiteral("font-family: '%1';").arg(font->text()));
     connect(font, &QPushButton::clicked, this, [this, i] {
       if (OnFont) OnFont(i);
     });
