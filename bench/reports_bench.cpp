@@ -50,18 +50,20 @@ void ReadRows(benchmark::State& state) {
 }
 
 template <ReportMode Mode>
-void WriteReport(benchmark::State& state) {
+void WriteFile(benchmark::State& state) {
   const FilledFolder folder;
   for (auto _ : state) {
     Database base = Database::Open(Today);
-    const auto written = WriteBytes("rapport.html", ToCodePage(ReportPage(base, Mode, {}, Today.Today())));
+    const auto written = WritePieces("rapport.html", [&](const PieceSink& write) {
+      WriteReport(base, Mode, {}, Today.Today(), [&](TextView piece) { write(ToCodePage(piece)); });
+    });
     if (written.Failed()) state.SkipWithError("the report could not be written");
   }
 }
 
 BENCHMARK(ReadRows)->Unit(benchmark::kMillisecond);
-BENCHMARK(WriteReport<ReportMode::Liste>)->Unit(benchmark::kMillisecond);
-BENCHMARK(WriteReport<ReportMode::Justificatif>)->Unit(benchmark::kMillisecond);
+BENCHMARK(WriteFile<ReportMode::Liste>)->Unit(benchmark::kMillisecond);
+BENCHMARK(WriteFile<ReportMode::Justificatif>)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace talvor

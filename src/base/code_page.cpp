@@ -58,6 +58,12 @@ std::string ToCodePage(TextView text) {
   std::string bytes;
   bytes.reserve(text.size());
   for (std::size_t i = 0; i < text.size(); ++i) {
+    // Most of a text is plain: whole runs of it are taken at once.
+    const std::size_t run = i;
+    while (i < text.size() && text[i] < 0x80) ++i;
+    bytes.append(text.begin() + static_cast<std::ptrdiff_t>(run),
+                 text.begin() + static_cast<std::ptrdiff_t>(i));
+    if (i == text.size()) break;
     if (const auto byte = CodePageByte(text[i]))
       bytes += static_cast<char>(*byte);
     else

@@ -7,6 +7,7 @@
 #include <cerrno>
 #include <fstream>
 #include <system_error>
+#include <utility>
 
 #include "base/code_page.h"
 
@@ -15,15 +16,64 @@ namespace {
 
 std::error_code LastError() { return {errno, std::generic_category()}; }
 
-std::error_code WriteAll(int descriptor, std::string_view bytes) {
-  while (!bytes.empty()) {
-    const auto written = ::write(descriptor, bytes.data(), bytes.size());
-    if (written < 0 && errno == EINTR) continue;
-    if (written < 0) return LastError();
-    bytes.remove_prefix(static_cast<std::size_t>(written));
+// A file that is new under its name; unless it is finished, it is deleted again.
+class NewFile {
+ public:
+  explicit NewFile(const std::filesystem::path& file)
+      : file_(file), descriptor_(::open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666)) {
+    if (descriptor_ < 0) error_ = LastError();
   }
-  return ::fsync(descriptor) == 0 ? std::error_code{} : LastError();
-}
+  ~NewFile() {
+    if (descriptor_ < 0) return;
+    ::close(descriptor_);
+    std::error_code ignored;  // the first failure is the one to tell
+    std::filesystem::remove(file_, ignored);
+  }
+  NewFile(const NewFile&) = delete;
+  NewFile& operator=(const NewFile&) = delete;
+
+  // Small pieces are gathered. After a failure nothing more is written.
+  void Write(std::string_view piece) {
+    constexpr std::size_t Block = 65536;
+    if (gathered_.size() + piece.size() > Block) Flush();
+    if (piece.size() > Block)
+      WriteThrough(piece);
+    else
+      gathered_ += piece;
+  }
+  // Forces the file to the disk; the first failure, or none.
+  std::error_code Finish() {
+    Flush();
+    if (!error_ && ::fsync(descriptor_) != 0) error_ = LastError();
+    if (error_) return error_;
+    if (::close(std::exchange(descriptor_, -1)) == 0) return {};
+    error_ = LastError();
+    std::error_code ignored;
+    std::filesystem::remove(file_, ignored);
+    return error_;
+  }
+
+ private:
+  void Flush() {
+    WriteThrough(gathered_);
+    gathered_.clear();
+  }
+  void WriteThrough(std::string_view bytes) {
+    while (!error_ && !bytes.empty()) {
+      const auto written = ::write(descriptor_, bytes.data(), bytes.size());
+      if (written < 0 && errno == EINTR) continue;
+      if (written < 0)
+        error_ = LastError();
+      else
+        bytes.remove_prefix(static_cast<std::size_t>(written));
+    }
+  }
+
+  const std::filesystem::path& file_;
+  int descriptor_;
+  std::error_code error_;
+  std::string gathered_;
+};
 
 // Why a file cannot be read, which the stream does not say.
 Failure ReadFailure(const std::filesystem::path& file) {
@@ -56,18 +106,16 @@ Result<std::string> ReadBytes(const std::filesystem::path& file) {
 }
 
 Result<> WriteBytes(const std::filesystem::path& file, std::string_view bytes) {
+  return WritePieces(file, [bytes](const PieceSink& write) { write(bytes); });
+}
+
+Result<> WritePieces(const std::filesystem::path& file, const std::function<void(const PieceSink&)>& make) {
   std::error_code error;
   std::filesystem::remove(file, error);
   if (error) return error;
-  const int descriptor = ::open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-  if (descriptor < 0) return LastError();
-  error = WriteAll(descriptor, bytes);
-  if (::close(descriptor) != 0 && !error) error = LastError();
-  if (error) {
-    std::error_code ignored;  // the first failure is the one to tell
-    std::filesystem::remove(file, ignored);
-  }
-  return error;
+  NewFile begun(file);
+  make([&begun](std::string_view piece) { begun.Write(piece); });
+  return begun.Finish();
 }
 
 std::vector<Text> SplitLines(TextView text) {

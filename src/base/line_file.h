@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -26,6 +27,12 @@ inline constexpr std::uintmax_t LargestFile = 256U << 20;
 // Deletes the old file, then writes the new one and forces it to the disk. A file written in part is
 // deleted again.
 [[nodiscard]] Result<> WriteBytes(const std::filesystem::path& file, std::string_view bytes);
+
+// The same for a file that is made piece by piece and need never be whole in memory: `make` hands the pieces
+// on in their order. What it throws goes on to the caller, and the file is deleted.
+using PieceSink = std::function<void(std::string_view)>;
+[[nodiscard]] Result<> WritePieces(const std::filesystem::path& file,
+                                   const std::function<void(const PieceSink&)>& make);
 
 // CR LF or a lone CR ends a line; in a text without any CR, LF does. A line end at the very end begins
 // no further line.

@@ -40,7 +40,8 @@ ExitCode Rapport(const std::string& workspace, const std::string& report, Consol
   Workspace space(workspace, Text{BlankPage}, console);
   const ReportMode mode = report == "liste" ? ReportMode::Liste : ReportMode::Justificatif;
   Database database = Database::Open(space.clock);
-  console.out << ToUtf8(ReportPage(database, mode, space.principale, space.clock.Today()));
+  WriteReport(database, mode, space.principale, space.clock.Today(),
+              [&console](TextView piece) { console.out << ToUtf8(piece); });
   return Done;
 }
 

@@ -48,9 +48,11 @@ void ProofHead(Text& page, const Identity& identity) {
        u"<td><b>Remarques</td></tr> "});
 }
 
-// A cut may fall inside the markup of a line end.
+// A cut may fall inside the markup of a line end. The markup is longer than what it stands for, so nothing
+// behind a line end that begins within the cut can show.
 Text BeginningOf(TextView description) {
-  return ReplaceAll(description, LineEnd, u"<br>").substr(0, DescriptionShown);
+  const TextView enough = description.substr(0, DescriptionShown + LineEnd.size());
+  return ReplaceAll(enough, LineEnd, u"<br>").substr(0, DescriptionShown);
 }
 
 void ProofRow(Text& page, const RowView& row) {
@@ -81,23 +83,31 @@ void InterviewRow(Text& page, const RowView& row) {
 
 }  // namespace
 
-Text ReportPage(Database& database, ReportMode mode, const Identity& identity, Day day) {
+void WriteReport(Database& database, ReportMode mode, const Identity& identity, Day day,
+                 const std::function<void(TextView piece)>& out) {
   const Text today = DateText(day);
-  Text page;
+  Text line;
+  bool begun = false;
+  const auto hand = [&line, &out] {
+    if (!line.empty()) out(line);
+    line.clear();
+  };
   database.WalkRows(RowOrder::Unsorted, [&](const RowView& row) {
     if (mode == ReportMode::Liste) {
-      if (page.empty()) ListHead(page, today);
-      ListRow(page, row);
+      if (!begun) ListHead(line, today);
+      ListRow(line, row);
     } else {
-      if (page.empty()) ProofHead(page, identity);
-      ProofRow(page, row);
-      InterviewRow(page, row);
+      if (!begun) ProofHead(line, identity);
+      ProofRow(line, row);
+      InterviewRow(line, row);
     }
+    begun = true;
+    hand();
   });
-  if (!page.empty())
-    Line(page, {u"</table><hr></font><FONT face='Arial' SIZE=1> Edité le ", today,
+  if (begun)
+    Line(line, {u"</table><hr></font><FONT face='Arial' SIZE=1> Edité le ", today,
                 u" depuis Talvor</FONT></html>"});
-  return page;
+  hand();
 }
 
 PrintedReports::PrintedReports(const Principale& principale, const Clock& clock,
@@ -112,10 +122,12 @@ PrintedReports::PrintedReports(const Principale& principale, const Clock& clock,
 
 std::filesystem::path PrintedReports::WritePage(ReportMode mode) const {
   Database database = Database::Open(clock_);
-  const Text page = ReportPage(database, mode, principale_, clock_.Today());
   const std::filesystem::path file = PathOf(environment_.Variable(u"temp")) / "ImpTalvor.html";
-  if (const auto written = WriteBytes(file, ToCodePage(page)); written.Failed())
-    throw std::filesystem::filesystem_error("report", file, written.Code());
+  const auto written = WritePieces(file, [&](const PieceSink& write) {
+    WriteReport(database, mode, principale_, clock_.Today(),
+                [&write](TextView line) { write(ToCodePage(line)); });
+  });
+  if (written.Failed()) throw std::filesystem::filesystem_error("report", file, written.Code());
   return file;
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 
 #include "platform/clock.h"
 #include "platform/dialogs.h"
@@ -16,10 +17,12 @@ namespace talvor {
 // The list of candidatures, and the proof of job search for an employment office.
 enum class ReportMode { Liste = 0, Justificatif = 1 };
 
-// The page of a report, lines ended by CR LF, rows in the table's order; empty without any row. The
-// texts of the fields go in as they stand, so the page must be shown without scripts and without
-// access to anything. The proof speaks of 90 days and holds every row all the same.
-[[nodiscard]] Text ReportPage(Database& database, ReportMode mode, const Identity& identity, Day today);
+// Hands on the page of a report row by row, lines ended by CR LF, in the table's order; nothing without
+// any row. No more than a row is held at a time. The texts of the fields go in as they are, so the page must
+// be shown without scripts and without access to anything. The proof speaks of 90 days and holds every row all
+// the same.
+void WriteReport(Database& database, ReportMode mode, const Identity& identity, Day today,
+                 const std::function<void(TextView piece)>& out);
 
 class PrintedReports {
  public:

@@ -32,7 +32,9 @@ class ReportsTest : public TrackingTest {
 
   Text Page(ReportMode mode) {
     Database database = Open();
-    return ReportPage(database, mode, principale, clock.today);
+    Text page;
+    WriteReport(database, mode, principale, clock.today, [&page](TextView piece) { page += piece; });
+    return page;
   }
 
   FakeEnvironment environment;
