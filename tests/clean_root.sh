@@ -41,7 +41,10 @@ fault() {
   echo "$*" >&2
   exit 1
 }
-in_root() { chroot "$root" env -i LANG=C.UTF-8 HOME=/root TERM=dumb PATH="$PATH" DEBIAN_FRONTEND=noninteractive "$@"; }
+in_root() {
+  chroot "$root" env -i LANG=C.UTF-8 HOME=/root TERM=dumb PATH="$PATH" DEBIAN_FRONTEND=noninteractive \
+    ${npm_config_registry:+npm_config_registry="$npm_config_registry"} "$@"
+}
 install_in_root() { in_root apt-get install -y --no-install-recommends "$@" >>"$log" 2>&1; }
 
 make_root() {
