@@ -69,10 +69,10 @@ run_suite() {
   # The test of the framework's forms fetches React where there is npm; a compiler cache serves who keeps one.
   install_in_root git ca-certificates npm ${keep:+ccache} || fault "no installation, see $log"
   in_root git config --global --add safe.directory '*'
-  git -C "$source" bundle create --quiet "$root/root/talvor.bundle" HEAD
-  in_root git clone --quiet /root/talvor.bundle /root/talvor >>"$log" 2>&1
-  in_root env CI=true /root/talvor/run </dev/null
-  in_root env CI=true ${TALVOR_FUZZ_SECONDS:+TALVOR_FUZZ_SECONDS="$TALVOR_FUZZ_SECONDS"} /root/talvor/check
+  git -C "$source" bundle create --quiet "$root/opt/talvor.bundle" HEAD
+  in_root git clone --quiet /opt/talvor.bundle /opt/talvor >>"$log" 2>&1
+  in_root env CI=true /opt/talvor/run </dev/null
+  in_root env CI=true ${TALVOR_FUZZ_SECONDS:+TALVOR_FUZZ_SECONDS="$TALVOR_FUZZ_SECONDS"} /opt/talvor/check
 }
 
 as_user() { in_root su marie -c "cd; export XDG_RUNTIME_DIR=~/run; $1"; }
