@@ -1,6 +1,7 @@
 // Field tables: the fields of a record by name, in the order that files and walks need.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <type_traits>
@@ -31,7 +32,8 @@ template <class Inner, std::size_t N, class Outer, std::size_t M>
 [[nodiscard]] constexpr bool HasAllNames(const FieldTable<Inner, N>& inner,
                                          const FieldTable<Outer, M>& outer) {
   for (const auto& field : inner)
-    if (FindField(outer, field.name) == nullptr) return false;
+    if (std::none_of(outer.begin(), outer.end(), [&](const auto& one) { return one.name == field.name; }))
+      return false;
   return true;
 }
 
