@@ -18,6 +18,8 @@
 
 #include "app/installation.h"
 #include "desktop/application.h"
+#include "desktop/desks/candidature_desk.h"
+#include "desktop/desks/cv_desk.h"
 #include "desktop/desktop.h"
 #include "desktop/platform/qt_dialogs.h"
 #include "desktop/widgets/text_edge.h"
@@ -60,15 +62,15 @@ void Fill(const Clock& clock, int rows) {
 // The tick of the timer with something to save, the windows shown anew and painted.
 void MeasureSave(Desktop& desktop, int rows) {
   desktop.Windows().Show(u"FormCand");
-  FormCandWindow& window = *desktop.CandidatureWindow();
+  FormCandWindow& window = *desktop.Candidatures().Window();
   window.StopTimers();
   desktop.Windows().PumpEvents();
-  window.Do([&] { desktop.Candidatures().ChargerCandidature(static_cast<std::int16_t>(rows / 2)); });
+  window.Do([&] { desktop.Candidatures().Form().ChargerCandidature(static_cast<std::int16_t>(rows / 2)); });
   std::vector<double> saves;
   std::vector<double> views;
   double processor = 0;
   for (int i = 0; i < 15; ++i) {
-    desktop.Candidatures().Remarques += u"x";
+    desktop.Candidatures().Form().Remarques += u"x";
     QElapsedTimer timer;
     timer.start();
     const std::clock_t before = std::clock();

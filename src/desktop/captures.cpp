@@ -22,11 +22,18 @@
 #include "base/code_page.h"
 #include "cv/cv_file.h"
 #include "desktop/application.h"
+#include "desktop/desks/backup_desk.h"
+#include "desktop/desks/candidature_desk.h"
+#include "desktop/desks/cv_desk.h"
+#include "desktop/desks/letter_desk.h"
+#include "desktop/desks/library_desk.h"
+#include "desktop/desks/report_desk.h"
 #include "desktop/desktop.h"
 #include "desktop/platform/file_dialog.h"
 #include "desktop/platform/qt_dialogs.h"
 #include "desktop/shell/about_box.h"
 #include "desktop/shell/backup_window.h"
+#include "desktop/shell/main_window.h"
 #include "desktop/shell/user_guide.h"
 #include "desktop/widgets/text_edge.h"
 #include "tracking/status_lists.h"
@@ -246,8 +253,8 @@ constexpr const char* SampleSender =
 void PhotographLetters(Desktop& desktop, Photographer photographer) {
   QtShell& shell = desktop.Windows();
   shell.Load(LetterForm);
-  LetterWindow& window = *desktop.LettersWindow();
-  FormLettre& letter = desktop.Letter();
+  LetterWindow& window = *desktop.Letters().Window();
+  FormLettre& letter = desktop.Letters().Form();
   std::ofstream("CV/Assistante Com.dat") << SampleSender;
   window.Do([&] {
     letter.ChargerFichierLettre("Lettres/Julie Marchand (IR).dat");
@@ -283,14 +290,14 @@ constexpr TextView SamplePage =
     u"<p>Postuler : CV et lettre</p></body>";
 
 void PhotographBrowser(Desktop& desktop, Photographer photographer) {
-  FormCandWindow& window = *desktop.CandidatureWindow();
-  FormCandWeb& web = desktop.Web();
+  FormCandWindow& window = *desktop.Candidatures().Window();
+  FormCandWeb& web = desktop.Candidatures().Web();
   constexpr int UntilThePageIsRated = 2500;
-  window.Do([&] { desktop.Candidatures().Action(4); });
+  window.Do([&] { desktop.Candidatures().Form().Action(4); });
   desktop.Windows().Wait(UntilThePageIsRated);
   photographer.Take(u"navigateur-depart");
   window.Do([&] {
-    desktop.Candidatures().ShowAddress(SamplePage);
+    desktop.Candidatures().Form().ShowAddress(SamplePage);
     web.ClicGo();
   });
   desktop.Windows().Wait(UntilThePageIsRated);
@@ -299,7 +306,7 @@ void PhotographBrowser(Desktop& desktop, Photographer photographer) {
   window.Do([&] { web.ClicImage6(); });
   photographer.Take(u"navigateur-sites", window.findChild<QWidget*>(QStringLiteral("List1")));
   window.Do([&] { web.QuitterList1(); });
-  window.Do([&] { desktop.Pages().Navigate(u"file:///"); });
+  window.Do([&] { desktop.Candidatures().Pages().Navigate(u"file:///"); });
   photographer.Take(u"navigateur-avis");
 }
 
@@ -308,11 +315,11 @@ void PhotographSmallForms(Desktop& desktop, const Theme& theme, Photographer pho
   QtShell& shell = desktop.Windows();
   shell.Show(LoadSaveForm);
   photographer.Take(u"sauver", shell.WindowOf(LoadSaveForm));
-  desktop.Backup().busy = true;
-  desktop.Backup().progress = {412, 1006, 96'000'000, 214'000'000};
+  desktop.Backup().Form().busy = true;
+  desktop.Backup().Form().progress = {412, 1006, 96'000'000, 214'000'000};
   static_cast<BackupWindow*>(shell.WindowOf(LoadSaveForm))->Refresh();
   photographer.Take(u"sauver-copie", shell.WindowOf(LoadSaveForm));
-  desktop.Backup().busy = false;
+  desktop.Backup().Form().busy = false;
   shell.Unload(LoadSaveForm);
   shell.Show(PrintAdviceForm);
   photographer.Take(u"mise-en-page", shell.WindowOf(PrintAdviceForm));
@@ -366,16 +373,16 @@ void PhotographForms(Desktop& desktop, const Theme& theme, Photographer photogra
   shell.Wait(UntilTheRowsStand);
   photographer.Take(u"accueil");
   shell.Show(CandidatureForm);
-  FormCandWindow& window = *desktop.CandidatureWindow();
+  FormCandWindow& window = *desktop.Candidatures().Window();
   photographer.Take(u"candidatures-vide");
-  window.Do([&] { desktop.Candidatures().ChargerCandidature(Detailed); });
+  window.Do([&] { desktop.Candidatures().Form().ChargerCandidature(Detailed); });
   window.List().Tree().setCurrentIndex(window.List().Tree().Model().IndexOf(u"s6"));
   photographer.Take(u"candidatures-sans-navigateur");
-  window.Do([&] { desktop.Candidatures().ShowWebPane(); });
+  window.Do([&] { desktop.Candidatures().Form().ShowWebPane(); });
   photographer.Take(u"candidatures");
-  window.Do([&] { desktop.Candidatures().ClicImage2(); });
+  window.Do([&] { desktop.Candidatures().Form().ClicImage2(); });
   photographer.Take(u"candidatures-statuts");
-  window.Do([&] { desktop.Candidatures().QuitterStatut(); });
+  window.Do([&] { desktop.Candidatures().Form().QuitterStatut(); });
   PhotographBrowser(desktop, photographer);
   PhotographLetters(desktop, photographer);
   PhotographSending(desktop, photographer);
@@ -385,8 +392,8 @@ void PhotographForms(Desktop& desktop, const Theme& theme, Photographer photogra
   desktop.Main().Header().OnPrint();
   constexpr int UntilThePageStands = 1500;
   shell.Wait(UntilThePageStands);
-  photographer.Take(u"liste-apercu", desktop.Preview().Window());
-  delete desktop.Preview().Window();
+  photographer.Take(u"liste-apercu", desktop.Reports().Preview().Window());
+  delete desktop.Reports().Preview().Window();
   PhotographCv(desktop, photographer);
   PhotographSmallForms(desktop, theme, photographer);
 }

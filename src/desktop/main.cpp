@@ -15,6 +15,7 @@
 #include "desktop/application.h"
 #include "desktop/desktop.h"
 #include "desktop/platform/qt_dialogs.h"
+#include "desktop/shell/main_window.h"
 #include "desktop/widgets/text_edge.h"
 #include "workspace/workspace_paths.h"
 

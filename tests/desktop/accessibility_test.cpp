@@ -16,6 +16,9 @@
 #include <fstream>
 #include <string>
 
+#include "desktop/desks/cv_desk.h"
+#include "desktop/desks/letter_desk.h"
+#include "desktop/desks/report_desk.h"
 #include "desktop/shell/user_guide.h"
 #include "tests/desktop/filled_fixture.h"
 
@@ -217,10 +220,10 @@ TEST_F(AccessibilityTest, TheCandidaturesWithAndWithoutTheBrowser) {
   desktop->Model().AdresseWeb = u"data:text/html,<p>offre de contrat, lieu et salaire du poste</p>";
   Click("Action4");
   ASSERT_TRUE(PageStands());
-  desktop->Web().Label3Visible = true;
+  desktop->Candidatures().Web().Label3Visible = true;
   Window().Refresh();
   Walk(Main(), "with the browser");
-  Window().Do([&] { desktop->Pages().Navigate(u"file:///"); });
+  Window().Do([&] { desktop->Candidatures().Pages().Navigate(u"file:///"); });
   ASSERT_TRUE(Find("AvisPage")->isVisible());
   Walk(Main(), "with a notice");
 }
@@ -246,8 +249,8 @@ TEST_F(AccessibilityTest, TheEditorOfCvsWithEachOfItsPanels) {
 TEST_F(AccessibilityTest, TheLetterPrintedAndByMail) {
   desktop->Windows().Unload(u"FormCand");
   desktop->Windows().Show(LetterForm);
-  FormLettre& letter = desktop->Letter();
-  LetterWindow& window = *desktop->LettersWindow();
+  FormLettre& letter = desktop->Letters().Form();
+  LetterWindow& window = *desktop->Letters().Window();
   window.Do([&] {
     letter.ChargerFichierLettre("Lettres/Annonce (ER).dat");
     letter.ListeCVVisible = true;
@@ -279,8 +282,8 @@ TEST_F(AccessibilityTest, TheWindowsOverTheMainOne) {
   Walk(Open(UserGuideForm), "guide");
   desktop->Windows().Unload(UserGuideForm);
   Click("Image7");
-  Walk(desktop->Preview().Window(), "print preview");
-  desktop->Preview().Window()->close();
+  Walk(desktop->Reports().Preview().Window(), "print preview");
+  desktop->Reports().Preview().Window()->close();
   desktop->Cv().OpenFile(u"Riche.dat");
   Walk(Open(ConvertForm), "conversion");
 }

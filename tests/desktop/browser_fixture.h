@@ -20,12 +20,12 @@ class BrowserTest : public DesktopTest {
   void OpenPane() {
     desktop->Model().AdresseWeb = BlankPage;
     Click("Action4");
-    desktop->Candidatures().AdresseWeb.clear();
+    desktop->Candidatures().Form().AdresseWeb.clear();
   }
 
   BrowserPane& Pane() { return Window().Web(); }
-  FormCandWeb& Web() { return desktop->Web(); }
-  WebBrowser& Pages() { return desktop->Pages(); }
+  FormCandWeb& Web() { return desktop->Candidatures().Web(); }
+  WebBrowser& Pages() { return desktop->Candidatures().Pages(); }
   template <class Widget = QWidget>
   Widget* InPane(const char* name) {
     return Pane().findChild<Widget*>(QString::fromUtf8(name));

@@ -17,6 +17,7 @@
 
 #include "base/code_page.h"
 #include "base/line_file.h"
+#include "desktop/desks/cv_desk.h"
 #include "tests/desktop/desktop_fixture.h"
 
 namespace talvor {

@@ -16,7 +16,9 @@
 
 #include "app/installation.h"
 #include "desktop/application.h"
+#include "desktop/desks/candidature_desk.h"
 #include "desktop/desktop.h"
+#include "desktop/shell/main_window.h"
 #include "desktop/widgets/text_edge.h"
 #include "tests/desktop/waiting.h"
 #include "tests/fakes/fakes.h"
@@ -80,7 +82,7 @@ class DesktopTest : public testing::Test {
   }
   void Click(const char* name) { QTest::mouseClick(Find(name), Qt::LeftButton); }
 
-  FormCandWindow& Window() { return *desktop->CandidatureWindow(); }
+  FormCandWindow& Window() { return *desktop->Candidatures().Window(); }
   CandidatureTreeView& Tree() { return Window().List().Tree(); }
 
   // The tree as it is shown, a leaf one step in.

@@ -209,7 +209,7 @@ TEST_F(DownloadTest, TheUserClearsWhatTheSitesKeep) {
   const QString now = Pages().Profile().Store().Folder();
   EXPECT_NE(now, folder);
   Restart();
-  EXPECT_EQ(desktop->Pages().Profile().Store().Folder(), now);
+  EXPECT_EQ(desktop->Candidatures().Pages().Profile().Store().Folder(), now);
   EXPECT_FALSE(QFileInfo::exists(folder));
 }
 

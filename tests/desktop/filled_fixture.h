@@ -40,7 +40,8 @@ class FilledDesktopTest : public DesktopTest {
   }
   bool PageStands() {
     constexpr int Patience = 20000;  // milliseconds
-    return WaitFor([&] { return desktop->Pages().ReadyState() == DocumentBrowser::Complete; }, Patience);
+    return WaitFor([&] { return desktop->Candidatures().Pages().ReadyState() == DocumentBrowser::Complete; },
+                   Patience);
   }
 };
 

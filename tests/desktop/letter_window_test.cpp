@@ -6,6 +6,7 @@
 #include <sstream>
 #include <string>
 
+#include "desktop/desks/letter_desk.h"
 #include "letters/merge.h"
 #include "tests/desktop/desktop_fixture.h"
 
@@ -34,7 +35,7 @@ class LetterWindowTest : public DesktopTest {
   // A field of the letter: other forms have fields of the same name.
   template <class Widget = QWidget>
   Widget* Find(const char* name) {
-    auto* found = desktop->LettersWindow()->findChild<Widget*>(QString::fromUtf8(name));
+    auto* found = desktop->Letters().Window()->findChild<Widget*>(QString::fromUtf8(name));
     EXPECT_NE(found, nullptr) << name;
     return found;
   }
@@ -61,7 +62,7 @@ class LetterWindowTest : public DesktopTest {
 TEST_F(LetterWindowTest, ANewLetterFromACvIsWalkedThroughAndSavesItself) {
   OpenSlot(Principale::FirstLetterSlot);
   ASSERT_EQ(dialogs.asked.size(), 1u);
-  EXPECT_TRUE(desktop->LettersWindow()->isVisible());
+  EXPECT_TRUE(desktop->Letters().Window()->isVisible());
   EXPECT_EQ(Line("Nom"), QStringLiteral("Marchand"));
   EXPECT_TRUE(Line("Competences").isEmpty());
   EXPECT_FALSE(Find("ListeCV")->isVisible());
@@ -87,12 +88,12 @@ TEST_F(LetterWindowTest, ANewLetterFromACvIsWalkedThroughAndSavesItself) {
   EXPECT_EQ(desktop->Model().ImageMenu[Principale::FirstLetterSlot].toolTip, u"Julie Marchand (ER).dat");
 
   // The saved model becomes the letter for one candidature.
-  desktop->Candidatures().Intitule = u"Chargée de communication";
-  desktop->Candidatures().Reference = u"CI-114";
+  desktop->Candidatures().Form().Intitule = u"Chargée de communication";
+  desktop->Candidatures().Form().Reference = u"CI-114";
   FakeShell shell;
   MergedLetter merged;
   ASSERT_TRUE(FusionnerLettre(Folder() / "Lettres" / "Julie Marchand (ER).dat",
-                              TextsOf(desktop->Candidatures()), clock.today, merged, dialogs, shell));
+                              TextsOf(desktop->Candidatures().Form()), clock.today, merged, dialogs, shell));
   EXPECT_TRUE(Contains(merged.Texte, u"Chargée de communication")) << ToUtf8(merged.Texte);
   EXPECT_FALSE(Contains(merged.Texte, u"#")) << ToUtf8(merged.Texte);
   EXPECT_EQ(merged.Objet, u"En réponse à votre annonce référence CI-114");
@@ -182,7 +183,7 @@ TEST_F(LetterWindowTest, TheHomePanelBeginsAndOpensLettersInAFreshForm) {
   };
   const auto goHome = [&] {
     QTest::mouseClick(desktop->Main().findChild<QWidget*>(QStringLiteral("Label2")), Qt::LeftButton);
-    EXPECT_EQ(desktop->LettersWindow(), nullptr);
+    EXPECT_EQ(desktop->Letters().Window(), nullptr);
     choose(QStringLiteral("Rédiger un modèle de lettre"));
   };
   goHome();
@@ -208,12 +209,12 @@ TEST_F(LetterWindowTest, TheHomePanelBeginsAndOpensLettersInAFreshForm) {
 TEST_F(LetterWindowTest, TheSentenceFileOpensAndTheWindowFitsASmallScreen) {
   OpenSlot(Principale::FirstLetterSlot);
   std::filesystem::path opened;
-  desktop->Letter().OuvrirDocument = [&](const std::filesystem::path& file) { opened = file; };
+  desktop->Letters().Form().OuvrirDocument = [&](const std::filesystem::path& file) { opened = file; };
   Click("Command1");
   EXPECT_EQ(opened.filename(), "propositions.txt");
 
   desktop->Main().resize(1024, 768);
-  EXPECT_LE(desktop->LettersWindow()->minimumSizeHint().width(), 1024);
+  EXPECT_LE(desktop->Letters().Window()->minimumSizeHint().width(), 1024);
 }
 
 }  // namespace

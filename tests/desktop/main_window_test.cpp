@@ -13,7 +13,9 @@
 #include <string>
 #include <utility>
 
+#include "desktop/desks/cv_desk.h"
 #include "desktop/platform/qt_dialogs.h"
+#include "desktop/shell/home_window.h"
 #include "desktop/shell/user_guide.h"
 #include "tests/desktop/desktop_fixture.h"
 
@@ -59,11 +61,11 @@ TEST_F(MainWindowTest, MenuClosesTheFormsAndTheNextLoadBeginsAnew) {
   QTest::mouseClick(Find("Label2"), Qt::LeftButton);
   EXPECT_FALSE(desktop->Windows().FormeVisible(u"FormCand"));
   EXPECT_TRUE(desktop->Windows().FormeVisible(u"AssistantTexte"));
-  EXPECT_EQ(desktop->CandidatureWindow(), nullptr);
+  EXPECT_EQ(desktop->Candidatures().Window(), nullptr);
   QTest::mouseDClick(&desktop->Main().Header().Slot(Principale::CandidatureSlot), Qt::LeftButton);
-  ASSERT_NE(desktop->CandidatureWindow(), nullptr);
+  ASSERT_NE(desktop->Candidatures().Window(), nullptr);
   EXPECT_TRUE(Line("Intitule").isEmpty());
-  EXPECT_EQ(desktop->Candidatures().Num, u"");
+  EXPECT_EQ(desktop->Candidatures().Form().Num, u"");
   EXPECT_EQ(Rows().size(), 2);
 }
 
@@ -71,7 +73,7 @@ TEST_F(MainWindowTest, WhatIsTypedInARowIsSavedBeforeMenuOrTheEndClosesItsForm) 
   SaveRow(QStringLiteral("Maçon"));
   Type("Ville", QStringLiteral("Lyon"));
   QTest::keyClick(&desktop->Main(), Qt::Key_M, Qt::AltModifier);
-  ASSERT_TRUE(WaitFor([&] { return desktop->CandidatureWindow() == nullptr; }, 5000));
+  ASSERT_TRUE(WaitFor([&] { return desktop->Candidatures().Window() == nullptr; }, 5000));
   EXPECT_EQ(Read(1).Ville, u"Lyon") << "before the next tick of its timer";
 
   desktop->Windows().Show(u"FormCand");

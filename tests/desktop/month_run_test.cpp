@@ -18,6 +18,10 @@
 #include <vector>
 
 #include "base/line_file.h"
+#include "desktop/desks/cv_desk.h"
+#include "desktop/desks/letter_desk.h"
+#include "desktop/desks/library_desk.h"
+#include "desktop/desks/report_desk.h"
 #include "tests/desktop/browser_fixture.h"
 #include "tracking/status_lists.h"
 
@@ -251,7 +255,7 @@ class MonthRunTest : public BrowserTest {
     Click(form);
     Click(nature);
     for (int group = 0; group < 5; ++group) Click(("BoutonTLV2_" + std::to_string(group)).c_str());
-    desktop->LettersWindow()->Tick1000();
+    desktop->Letters().Window()->Tick1000();
     desktop->Windows().Unload(LetterForm);
   }
 
@@ -326,12 +330,12 @@ class MonthRunTest : public BrowserTest {
     print();
     QString text;
     bool come = false;
-    desktop->Preview().Window()->View().page()->toPlainText([&](const QString& answer) {
+    desktop->Reports().Preview().Window()->View().page()->toPlainText([&](const QString& answer) {
       text = answer;
       come = true;
     });
     EXPECT_TRUE(WaitFor([&] { return come; }, Patience));
-    desktop->Preview().Window()->close();
+    desktop->Reports().Preview().Window()->close();
     return text;
   }
 

@@ -22,6 +22,7 @@
 
 #include "base/file_address.h"
 #include "base/line_file.h"
+#include "desktop/desks/report_desk.h"
 #include "desktop/platform/print_preview.h"
 #include "tests/desktop/desktop_fixture.h"
 #include "tracking/status_lists.h"
@@ -40,10 +41,11 @@ class ReportWindowTest : public DesktopTest {
 
   // The text of the page on show, once it has come with all it fetches.
   QString PageText() {
-    EXPECT_TRUE(WaitFor([&] { return !desktop->Preview().Window()->View().page()->isLoading(); }, 20000));
+    EXPECT_TRUE(
+        WaitFor([&] { return !desktop->Reports().Preview().Window()->View().page()->isLoading(); }, 20000));
     QString text;
     bool come = false;
-    desktop->Preview().Window()->View().page()->toPlainText([&](const QString& answer) {
+    desktop->Reports().Preview().Window()->View().page()->toPlainText([&](const QString& answer) {
       text = answer;
       come = true;
     });
@@ -55,12 +57,12 @@ class ReportWindowTest : public DesktopTest {
 TEST_F(ReportWindowTest, TheListIsPreviewedAndItsPdfHoldsTheRows) {
   Insert({.Intitule = u"Éclusier de nuit", .Societe = u"Voies & Canaux", .Statut = u"NON EMISE"});
   Click("Image7");
-  ASSERT_NE(desktop->Preview().Window(), nullptr);
-  EXPECT_TRUE(desktop->Preview().Window()->isVisible());
+  ASSERT_NE(desktop->Reports().Preview().Window(), nullptr);
+  EXPECT_TRUE(desktop->Reports().Preview().Window()->isVisible());
   EXPECT_TRUE(PageText().contains(QStringLiteral("Éclusier de nuit")));
   QString sheet;
   EXPECT_TRUE(WaitFor([&] {
-    desktop->Preview().Window()->View().page()->runJavaScript(
+    desktop->Reports().Preview().Window()->View().page()->runJavaScript(
         QStringLiteral("(s => s.offsetWidth + ' ' + s.offsetHeight + ' ' + "
                        "getComputedStyle(s).backgroundColor)(document.documentElement)"),
         QWebEngineScript::ApplicationWorld, [&](const QVariant& answer) { sheet = answer.toString(); });
@@ -71,7 +73,7 @@ TEST_F(ReportWindowTest, TheListIsPreviewedAndItsPdfHoldsTheRows) {
 
   bool saved = false;
   bool done = false;
-  desktop->Preview().Window()->SavePdf(QStringLiteral("liste.pdf"), [&](bool stands) {
+  desktop->Reports().Preview().Window()->SavePdf(QStringLiteral("liste.pdf"), [&](bool stands) {
     saved = stands;
     done = true;
   });
@@ -101,7 +103,7 @@ void InTurn(std::vector<std::function<void(QDialog&)>> acts) {
 
 TEST_F(ReportWindowTest, APdfGetsItsEndingAndTheRightsOfTheUserAndReplacesNothingUnasked) {
   Click("Image7");
-  PrintPreviewWindow& window = *desktop->Preview().Window();
+  PrintPreviewWindow& window = *desktop->Reports().Preview().Window();
   ASSERT_TRUE(WaitFor([&] { return window.IsComplete(); }, 20000));
   const auto name = [](const char* text) {
     return [file = QDir::current().filePath(QString::fromUtf8(text))](QDialog& dialog) {
@@ -147,7 +149,7 @@ TEST_F(ReportWindowTest, WithoutAPrinterTheSheetIsProposedAmongTheDocumentsOfThe
   for (const QString& folder : {home, QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)}) {
     QDir().mkpath(folder);
     Click("Image7");
-    PrintPreviewWindow& window = *desktop->Preview().Window();
+    PrintPreviewWindow& window = *desktop->Reports().Preview().Window();
     QString proposed;
     InTurn({[&](QDialog& dialog) {
       proposed = static_cast<QPrintDialog&>(dialog).printer()->outputFileName();

@@ -17,6 +17,8 @@
 #include <string_view>
 #include <vector>
 
+#include "desktop/desks/cv_desk.h"
+#include "desktop/desks/letter_desk.h"
 #include "desktop/shell/stat_widgets.h"
 #include "desktop/shell/user_guide.h"
 #include "desktop/widgets/card_button.h"
@@ -290,10 +292,10 @@ TEST_P(ScreensTest, TheCandidaturesWithAndWithoutTheBrowser) {
   desktop->Model().AdresseWeb = u"data:text/html,<p>offre de contrat, lieu et salaire du poste</p>";
   Click("Action4");
   ASSERT_TRUE(PageStands());
-  desktop->Web().Label3Visible = true;
+  desktop->Candidatures().Web().Label3Visible = true;
   Window().Refresh();
   VisitMain("with the browser");
-  Window().Do([&] { desktop->Pages().Navigate(u"file:///"); });
+  Window().Do([&] { desktop->Candidatures().Pages().Navigate(u"file:///"); });
   VisitMain("with a notice");
 }
 
@@ -323,8 +325,8 @@ TEST_P(ScreensTest, TheEditorOfCvsWithEachOfItsPanels) {
 TEST_P(ScreensTest, TheLetterPrintedAndByMail) {
   desktop->Windows().Unload(u"FormCand");
   desktop->Windows().Show(LetterForm);
-  FormLettre& letter = desktop->Letter();
-  LetterWindow& window = *desktop->LettersWindow();
+  FormLettre& letter = desktop->Letters().Form();
+  LetterWindow& window = *desktop->Letters().Window();
   window.Do([&] {
     letter.ChargerFichierLettre("Lettres/Annonce (ER).dat");
     letter.ListeCVVisible = true;

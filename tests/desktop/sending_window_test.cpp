@@ -9,6 +9,8 @@
 
 #include "base/code_page.h"
 #include "base/line_file.h"
+#include "desktop/desks/cv_desk.h"
+#include "desktop/desks/sending_desk.h"
 #include "desktop/platform/page_pdf.h"
 #include "tests/desktop/desktop_fixture.h"
 #include "tracking/status_lists.h"
@@ -128,7 +130,7 @@ TEST_F(SendingWindowTest, ASendMarksTheCandidatureOnlyOnceTheClientHasTheMessage
   desktop->Windows().WindowOf(ApplyForm)->close();
   EXPECT_EQ(desktop->Windows().WindowOf(ApplyForm), nullptr);
   ClickLeaf(u"s1");
-  desktop->Candidatures().ClicPicturePostuler();
+  desktop->Candidatures().Form().ClicPicturePostuler();
   EXPECT_FALSE(InWindow(ApplyForm, "BoutonTLV1")->isVisible());
 }
 
@@ -152,13 +154,13 @@ TEST_F(SendingWindowTest, AnAdvertisementOnTheWebIsAnsweredThereUnlessAnAddressI
   Click("Action0");
   Type("Intitule", QStringLiteral("Soudeur"));
   Type("www", QStringLiteral("about:blank#offre"));
-  desktop->Candidatures().Action(2);
+  desktop->Candidatures().Form().Action(2);
   EXPECT_TRUE(Letter().contains(QStringLiteral("Soudeur")));
   EXPECT_FALSE(InWindow(ApplyForm, "Messagerie1")->isEnabled());
   EXPECT_TRUE(InWindow<QRadioButton>(ApplyForm, "Messagerie0")->isChecked());
   Press(ApplyForm, "BoutonTLV2");
   EXPECT_EQ(Line("AdresseWeb"), QStringLiteral("about:blank#offre"));
-  EXPECT_TRUE(desktop->Candidatures().CadreWebVisible);
+  EXPECT_TRUE(desktop->Candidatures().Form().CadreWebVisible);
 
   TypeKeys(InWindow(ApplyForm, "EmailDest"), QStringLiteral("rh@acme.fr"));
   EXPECT_TRUE(InWindow(ApplyForm, "Messagerie1")->isEnabled());

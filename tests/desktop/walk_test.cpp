@@ -14,7 +14,12 @@
 #include <vector>
 
 #include "base/line_file.h"
+#include "desktop/desks/backup_desk.h"
+#include "desktop/desks/cv_desk.h"
+#include "desktop/desks/letter_desk.h"
+#include "desktop/desks/report_desk.h"
 #include "desktop/shell/backup_window.h"
+#include "desktop/shell/home_window.h"
 #include "tests/desktop/desktop_fixture.h"
 
 namespace talvor {
@@ -122,8 +127,8 @@ TEST_F(WalkTest, TheHomePanelLeadsEverywhereAndBack) {
     }
   for (const bool byKeyboard : {false, true}) {
     Choose({u"Gérer les candidatures", u"Justificatif de recherche d'emploi"}, byKeyboard);
-    ASSERT_TRUE(WaitFor([&] { return desktop->Preview().Window() != nullptr; }, Patience));
-    desktop->Preview().Window()->close();
+    ASSERT_TRUE(WaitFor([&] { return desktop->Reports().Preview().Window() != nullptr; }, Patience));
+    desktop->Reports().Preview().Window()->close();
     Choose({u"Retour au menu principal"}, byKeyboard);
   }
   pickers.file = scratch.Path() / "attaché.rtf";
@@ -151,7 +156,7 @@ TEST_F(WalkTest, TheMenusOfTheSlotsDoTheirWork) {
     EXPECT_TRUE(Visible(u"FormCand"));
     Home();
     ChooseItem(10, u"MenuRechercherOffres", byKeyboard);
-    EXPECT_TRUE(desktop->Candidatures().CadreWebVisible);
+    EXPECT_TRUE(desktop->Candidatures().Form().CadreWebVisible);
     Home();
     ChooseItem(2, u"MenuNouveauCV", byKeyboard);
     EXPECT_TRUE(Visible(u"FormRédigerCV"));
@@ -173,8 +178,8 @@ TEST_F(WalkTest, TheMenusOfTheSlotsDoTheirWork) {
   ChooseItem(5, u"MenuSupprimerLettre");
   EXPECT_FALSE(Stands("Lettres/Copie de l (ER).dat"));
   ChooseItem(10, u"MenuImprimerListe");
-  ASSERT_TRUE(WaitFor([&] { return desktop->Preview().Window() != nullptr; }, Patience));
-  desktop->Preview().Window()->close();
+  ASSERT_TRUE(WaitFor([&] { return desktop->Reports().Preview().Window() != nullptr; }, Patience));
+  desktop->Reports().Preview().Window()->close();
   ChooseItem(10, u"MenuSupprimer");
   EXPECT_EQ(Count(), 0);
   EXPECT_EQ(Slot(10).Shown().icon, QStringLiteral("new"));
@@ -184,24 +189,25 @@ TEST_F(WalkTest, TheMenusOfTheSlotsDoTheirWork) {
 TEST_F(WalkTest, ThePopupOfACandidatureLeadsToItsPageItsSiteAndTheApplication) {
   Choose({u"Gérer les candidatures", u"Gestion manuelle des candidatures"}, false);
   ClickLeaf(u"s1");
-  desktop->Candidatures().www = u"http://emploi.example/offres/4821";
+  desktop->Candidatures().Form().www = u"http://emploi.example/offres/4821";
   const auto choose = [&](const char16_t* item) {
     Tree().setFocus();
     QTest::keyClick(&Tree(), Qt::Key_F10, Qt::ShiftModifier);
     auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
     ASSERT_NE(menu, nullptr);
     menu->setActiveAction(menu->findChild<QAction*>(QString::fromUtf16(item)));
-    desktop->Candidatures().www = u"http://emploi.example/offres/4821";
+    desktop->Candidatures().Form().www = u"http://emploi.example/offres/4821";
     QTest::keyClick(menu, Qt::Key_Return);
   };
   choose(u"MenuConsulterInternet");
-  EXPECT_TRUE(desktop->Candidatures().CadreWebVisible);
-  EXPECT_EQ(desktop->Candidatures().AdresseWeb, u"http://emploi.example/offres/4821");
+  EXPECT_TRUE(desktop->Candidatures().Form().CadreWebVisible);
+  EXPECT_EQ(desktop->Candidatures().Form().AdresseWeb, u"http://emploi.example/offres/4821");
   // The end of a load writes its own address into the field.
-  ASSERT_TRUE(WaitFor([&] { return desktop->Pages().ReadyState() == DocumentBrowser::Complete; }, Patience));
+  ASSERT_TRUE(WaitFor(
+      [&] { return desktop->Candidatures().Pages().ReadyState() == DocumentBrowser::Complete; }, Patience));
   Wait(50);
   choose(u"MenuConsulterOrigine");
-  EXPECT_EQ(desktop->Candidatures().AdresseWeb, u"http://emploi.example");
+  EXPECT_EQ(desktop->Candidatures().Form().AdresseWeb, u"http://emploi.example");
   choose(u"MenuPostuler");
   EXPECT_TRUE(Visible(u"FormPostuler"));
   desktop->Windows().Unload(u"FormPostuler");
@@ -237,8 +243,8 @@ TEST_F(WalkTest, ASlotTellsAClickFromADoubleClickAndHasKeysOfItsOwn) {
 
 TEST_F(WalkTest, ARefusedRenamingIsReportedAndTheTypedLetterIsOnTheDisk) {
   ChooseItem(5, u"MenuOuvrirLettre");
-  desktop->Letter().Nom = u"Marchand";
-  desktop->Letter().Text1 = u"Bonjour et merci";
+  desktop->Letters().Form().Nom = u"Marchand";
+  desktop->Letters().Form().Text1 = u"Bonjour et merci";
   pickers.file = Folder() / "absent" / "m";
   ChooseItem(5, u"RenommerLettre");
   ASSERT_EQ(failures.size(), 1u);
@@ -282,10 +288,10 @@ TEST_F(WalkTest, ACopyShowsHowFarItIsAndIsStoppedFromItsWindow) {
   pickers.file = scratch.Path() / "clé" / "Talvor.mdb";
   auto* window = static_cast<BackupWindow*>(Window(u"FormLoadSave"));
   bool seen = false;
-  const auto shown = desktop->Backup().OnProgress;
-  desktop->Backup().OnProgress = [&] {
+  const auto shown = desktop->Backup().Form().OnProgress;
+  desktop->Backup().Form().OnProgress = [&] {
     shown();
-    if (seen || !desktop->Backup().busy) return;
+    if (seen || !desktop->Backup().Form().busy) return;
     seen = true;
     EXPECT_TRUE(window->findChild<QLabel*>(QStringLiteral("Avancement"))
                     ->text()

@@ -190,14 +190,14 @@ QWidget* CandidatureDetailPane::MakePostBlock() {
   AddRow(grid, tr("Lieu d'exécution"), Line(QStringLiteral("Lieu"), block));
   QLineEdit* duration = Line(QStringLiteral("Duree"), block);
   AddPair(grid, tr("Durée"), duration, tr("Salaire proposé"), Line(QStringLiteral("Salaire"), block));
-  QPlainTextEdit* description = Lines(QStringLiteral("Description"), 58, block);
+  description_ = Lines(QStringLiteral("Description"), 58, block);
   QPushButton* analyse =
       MakeLink(theme_, QStringLiteral("analyse"), tr("Anal&yser"), QStringLiteral("Analyser"), block);
   connect(analyse, &QPushButton::clicked, this, [this] {
     if (OnAnalyser) OnAnalyser();
   });
   fields_.append(analyse);
-  AddTallRow(grid, tr("D&escription du poste"), description, analyse);
+  AddTallRow(grid, tr("D&escription du poste"), description_, analyse);
   return block;
 }
 

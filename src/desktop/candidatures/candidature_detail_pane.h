@@ -30,6 +30,7 @@ class CandidatureDetailPane : public QWidget {
 
   [[nodiscard]] ChoiceField& Statut() { return *statut_; }
   [[nodiscard]] ChoiceField& Nature() { return *nature_; }
+  [[nodiscard]] QPlainTextEdit& Description() { return *description_; }
   void ShowInternet(bool shown);
   void ShowPostuler(bool shown);
   // Follows the text of the status with its dot.
@@ -66,6 +67,7 @@ class CandidatureDetailPane : public QWidget {
   QPushButton* postuler_ = nullptr;
   ChoiceField* statut_ = nullptr;
   ChoiceField* nature_ = nullptr;
+  QPlainTextEdit* description_ = nullptr;
   QScrollArea* scroll_ = nullptr;
   QHBoxLayout* columns_ = nullptr;
   QVBoxLayout* left_ = nullptr;

@@ -9,7 +9,7 @@
 #include "cv/editor.h"
 #include "desktop/cv/cv_page_pane.h"
 #include "desktop/cv/cv_zones_pane.h"
-#include "desktop/shell/menus.h"
+#include "desktop/platform/qt_menus.h"
 #include "desktop/widgets/field_binder.h"
 
 class QSplitter;

@@ -9,7 +9,17 @@
 
 namespace talvor {
 
-void QtShell::Register(TextView name, Form form) { entries_[Text{name}].form = std::move(form); }
+QtShell::Form& QtShell::Page(TextView name, Maker make) {
+  Form& form = entries_[Text{name}].form;
+  form.make = std::move(make);
+  return form;
+}
+
+QtShell::Form& QtShell::Over(TextView name, Maker make) {
+  Form& form = Page(name, std::move(make));
+  form.place = Place::Over;
+  return form;
+}
 
 void QtShell::SetFrame(QWidget* frame, QStackedWidget* pages) {
   frame_ = frame;

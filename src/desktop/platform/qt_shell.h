@@ -18,18 +18,23 @@ class QtShell : public Shell {
   // Whether a load alone shows the form.
   enum class OnLoad { Hidden, Shown };
 
+  // Makes the window with that parent, hidden; the shell owns it.
+  using Maker = std::function<QWidget*(QWidget* parent)>;
+
   struct Form {
     Place place = Place::Page;
     OnLoad onLoad = OnLoad::Hidden;
-    // Makes the window with that parent, hidden; the shell owns it.
-    std::function<QWidget*(QWidget* parent)> make;
+    Maker make;
     // The form has been loaded, and shown if that is its way.
     std::function<void()> loaded;
     // The window is gone.
     std::function<void()> unloaded;
   };
 
-  void Register(TextView name, Form form);
+  // A page of the main window; a window over it. The caller adds to the answer what else there is to say of
+  // the form.
+  Form& Page(TextView name, Maker make);
+  Form& Over(TextView name, Maker make);
   // The main window, with the stack that takes the pages.
   void SetFrame(QWidget* frame, QStackedWidget* pages);
   // Called when another page comes to the front; empty when none is left.

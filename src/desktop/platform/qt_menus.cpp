@@ -1,4 +1,4 @@
-#include "desktop/shell/menus.h"
+#include "desktop/platform/qt_menus.h"
 
 #include <algorithm>
 #include <array>

@@ -1,4 +1,4 @@
-#include "desktop/cv/cv_desk.h"
+#include "desktop/desks/cv_desk.h"
 
 #include <QLabel>
 #include <QPrinter>
@@ -6,6 +6,7 @@
 
 #include "base/line_file.h"
 #include "desktop/platform/printing.h"
+#include "desktop/shell/advice_box.h"
 #include "desktop/shell/guide_panel.h"
 #include "desktop/widgets/text_edge.h"
 #include "platform/twips.h"
@@ -24,24 +25,31 @@ std::shared_ptr<QPrinter> DefaultPrinter() {
 
 }  // namespace
 
-CvDesk::CvDesk(Program program)
+CvDesk::CvDesk(const DeskSurroundings& around)
     : makePrinter(&DefaultPrinter),
-      program_(program),
-      menus_(program.theme, {u"MenuImprimer", u"MenuPhoto", u"MenuLangues", u"MenuConvertirWord"}) {
+      around_(around),
+      menus_(around.theme, {u"MenuImprimer", u"MenuPhoto", u"MenuLangues", u"MenuConvertirWord"}),
+      printAdvice_(around.shell, around.dialogs) {
   menus_.OnChosen = [this](TextView item) { Chosen(item); };
+  documents_.OnRefused = [this](TextView target) { TellNotOpened(target, around_.dialogs); };
+  printAdvice_.previsualiser = [this] { Preview(); };
   MakeForm();
+  around_.ways.cvEditor = [this]() -> FormRédigerCV& { return *form_; };
+  around_.ways.openCv = [this](TextView name) { OpenFile(name); };
+  around_.ways.printCv = [this] { Print(); };
+  RegisterForms();
 }
 
 void CvDesk::MakeForm() {
-  form_.emplace(FormRédigerCV::Surroundings{.principale = program_.principale,
-                                            .shell = program_.shell,
-                                            .dialogs = program_.dialogs,
-                                            .pickers = program_.pickers,
+  form_.emplace(FormRédigerCV::Surroundings{.principale = around_.principale,
+                                            .shell = around_.shell,
+                                            .dialogs = around_.dialogs,
+                                            .pickers = around_.pickers,
                                             .menus = menus_,
                                             .webBrowser1 = preview_,
                                             .clipboard = clipboard_,
-                                            .environment = program_.environment,
-                                            .clock = program_.clock,
+                                            .environment = around_.environment,
+                                            .clock = around_.clock,
                                             .showHelp = [this](TextView text) { ShowHelp(text); },
                                             .layOut =
                                                 [this] {
@@ -51,36 +59,41 @@ void CvDesk::MakeForm() {
 
 QWidget* CvDesk::MakeWindow(QWidget* parent) {
   MakeForm();
-  window_ = new CvWindow(*form_, menus_, program_.theme, parent);
+  window_ = new CvWindow(*form_, menus_, around_.theme, parent);
   preview_.SetView(&window_->Page());
-  window_->OnActed = [this] {
-    if (OnActed) OnActed();
-  };
+  window_->OnActed = around_.ways.refresh;
   window_->OnHelp = [this](int icon) {
     if (icon >= 0) return form_->MouseOverImage6(icon);
-    program_.shell.Unload(EditorHelpForm);
+    around_.shell.Unload(EditorHelpForm);
   };
   return window_;
 }
 
-void CvDesk::Register() {
-  documents_.OnRefused = [this](TextView target) { TellNotOpened(target, program_.dialogs); };
-  program_.shell.Register(EditorForm, {.onLoad = QtShell::OnLoad::Shown,
-                                       .make = [this](QWidget* parent) { return MakeWindow(parent); },
-                                       .loaded =
-                                           [this] {
-                                             const int width = window_->window()->width() * TwipsPerPixel;
-                                             window_->Do([&] { form_->Open(width); });
-                                           },
-                                       .unloaded =
-                                           [this] {
-                                             // The window looks at the model until it is gone, so it goes at once.
-                                             delete window_.data();
-                                             program_.shell.Unload(EditorHelpForm);
-                                           }});
-  program_.shell.Register(EditorHelpForm,
-                          {.place = QtShell::Place::Over,
-                           .make = [](QWidget* parent) -> QWidget* { return new AidePanel(parent); }});
+void CvDesk::RegisterForms() {
+  QtShell& shell = around_.shell;
+  QtShell::Form& page = shell.Page(EditorForm, [this](QWidget* parent) { return MakeWindow(parent); });
+  page.onLoad = QtShell::OnLoad::Shown;
+  page.loaded = [this] { Loaded(); };
+  page.unloaded = [this] { Unloaded(); };
+  shell.Over(EditorHelpForm, [](QWidget* parent) { return new AidePanel(parent); });
+  shell.Over(PrintAdviceForm,
+             [this](QWidget* parent) { return new AdviceBox(printAdvice_, around_.theme, parent); });
+}
+
+void CvDesk::Loaded() {
+  const int width = window_->window()->width() * TwipsPerPixel;
+  window_->Do([&] { form_->Open(width); });
+}
+
+// The window looks at the model until it is gone, so it goes at once.
+void CvDesk::Unloaded() {
+  delete window_.data();
+  around_.shell.Unload(EditorHelpForm);
+}
+
+void CvDesk::CloseDocuments() {
+  KeepTyping();
+  around_.shell.Unload(EditorForm);
 }
 
 void CvDesk::KeepTyping() {
@@ -89,18 +102,18 @@ void CvDesk::KeepTyping() {
 
 void CvDesk::OpenFile(TextView name) {
   KeepTyping();
-  program_.shell.Show(EditorForm);
+  around_.shell.Show(EditorForm);
   if (!window_) return;
   window_->Do([&] { form_->ChargerFichierCV(FileIn(workspace_paths::CvFolder(), name)); });
 }
 
 void CvDesk::OpenNew() {
-  program_.shell.Unload(EditorForm);
-  program_.shell.Show(EditorForm);
+  around_.shell.Unload(EditorForm);
+  around_.shell.Show(EditorForm);
 }
 
 void CvDesk::ShowHelp(TextView text) {
-  auto* panel = static_cast<AidePanel*>(program_.shell.WindowOf(EditorHelpForm));
+  auto* panel = static_cast<AidePanel*>(around_.shell.WindowOf(EditorHelpForm));
   if (panel == nullptr || !window_) return;
   panel->Info().setText(ShownText(text));
   PlaceHelp(*panel);
@@ -124,23 +137,23 @@ void CvDesk::Chosen(TextView item) {
   if (item == u"SupprimerPhoto") return window_->Do([&] { form_->SupprimerPhoto(); });
   if (item == u"PrévisualiserCV") return Preview();
   if (item == u"ImprimerCV") return Print();
-  if (item == u"MessageTrames") return program_.shell.Show(PrintAdviceForm);
-  if (item == u"MenuConvFWord") return program_.shell.Show(ConvertForm);
+  if (item == u"MessageTrames") return around_.shell.Show(PrintAdviceForm);
+  if (item == u"MenuConvFWord") return around_.shell.Show(ConvertForm);
   if (item == u"ConsulterWord") return OpenLastWordVersion();
 }
 
 // In "Documents", whatever the layout of the folders is.
 void CvDesk::OpenLastWordVersion() {
-  const auto version = ConvertedCv(program_.environment, DocumentsLayout::Newer, form_->NomCV, u".doc");
+  const auto version = ConvertedCv(around_.environment, DocumentsLayout::Newer, form_->NomCV, u".doc");
   OuvrirDocument(TextOf(ExistingFile(version).value_or(version)).value_or(Text{}), documents_,
-                 program_.dialogs);
+                 around_.dialogs);
 }
 
 // The page as it stands on the disk, as it will be printed.
 void CvDesk::Preview() {
   if (!window_) return;
-  const auto pdf = ConvertedCv(program_.environment, DocumentsLayout::Newer, form_->NomCV, u".pdf");
-  printPreview_ = new PrintPreviewWindow(program_.theme,
+  const auto pdf = ConvertedCv(around_.environment, DocumentsLayout::Newer, form_->NomCV, u".pdf");
+  printPreview_ = new PrintPreviewWindow(around_.theme,
                                          {.file = ToQt(preview_.LocationURL()),
                                           .reach = Reach::Folder,
                                           .layout = CvPageLayout(),
@@ -152,10 +165,10 @@ void CvDesk::Preview() {
 void CvDesk::Print() {
   if (!window_) return;
   const std::shared_ptr<QPrinter> printer = makePrinter();
-  if (!printer) return program_.dialogs.Tell(u"Aucune imprimante n’est installée.");
+  if (!printer) return around_.dialogs.Tell(u"Aucune imprimante n’est installée.");
   printer->setPageLayout(CvPageLayout());
   PrintPage(window_->Page(), printer, [this](bool printed) {
-    if (!printed) program_.dialogs.Tell(u"L’impression n’a pas abouti.");
+    if (!printed) around_.dialogs.Tell(u"L’impression n’a pas abouti.");
   });
 }
 

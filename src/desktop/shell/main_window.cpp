@@ -1,4 +1,4 @@
-#include "desktop/main_window.h"
+#include "desktop/shell/main_window.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -53,7 +53,10 @@ MainWindow::MainWindow(Principale& principale, QtShell& shell, const Theme& them
     Refresh();
   };
   header_->OnLogo = [this] { menu_.ClicLogo(); };
-  header_->OnMenu = [this] { menu_.ClicMenu(); };
+  header_->OnMenu = [this] {
+    if (BeforeMenu) BeforeMenu();
+    menu_.ClicMenu();
+  };
   header_->OnSave = [this] { menu_.ClicSauver(); };
   AddShortcuts();
   KeepSurface();

@@ -1,4 +1,4 @@
-#include "desktop/header_bar.h"
+#include "desktop/shell/header_bar.h"
 
 #include <QApplication>
 #include <QEvent>

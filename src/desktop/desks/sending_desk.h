@@ -6,53 +6,39 @@
 #include <optional>
 
 #include "app/libre_office.h"
-#include "desktop/cv/cv_desk.h"
+#include "desktop/desks/desk.h"
 #include "desktop/platform/page_pdf.h"
 #include "desktop/platform/qt_documents.h"
-#include "desktop/platform/qt_shell.h"
 #include "desktop/platform/xdg_mail_client.h"
 #include "desktop/sending/apply_window.h"
 #include "desktop/sending/convert_window.h"
 
 namespace talvor {
 
-class SendingDesk {
+class SendingDesk : public Desk {
  public:
-  // All of them must outlive it.
-  struct Program {
-    Principale& principale;
-    std::function<FormCand&()> formCand;
-    std::function<CandidatureTexts()> tags;  // the texts of its fields
-    CvDesk& cv;
-    QtShell& shell;
-    const Theme& theme;
-    const Environment& environment;
-    const Clock& clock;
-    Dialogs& dialogs;
-  };
-  explicit SendingDesk(Program program);
+  explicit SendingDesk(const DeskSurroundings& around);
 
-  // Called after each action of the apply form.
-  std::function<void()> OnActed;
+  void CloseDocuments() override;
+  void Stop() override;
 
-  // Registers `FormPostuler` and `FormConvert`.
-  void Register();
   // The ways into the apply form that review a candidature: its picture on `FormCand`, and
   // `MenuPostuler`.
   void OpenFromFormCand(const ApplyRequest& request);
   void OpenFromMenu();
-  void StopTimer();
 
   // The apply form, or null while it is not loaded.
   [[nodiscard]] FormPostuler* Apply();
 
  private:
+  void OfferWays();
+  void RegisterForms();
   void MakeApply();
   void Review(const std::function<void()>& wayIn);
   QWidget* MakeApplyWindow(QWidget* parent);
   QWidget* MakeConvertWindow(QWidget* parent);
 
-  Program program_;
+  DeskSurroundings around_;
   XdgMailClient mail_;
   QtDocuments documents_;
   LibreOffice wordProcessor_;

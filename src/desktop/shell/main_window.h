@@ -6,8 +6,8 @@
 
 #include <functional>
 
-#include "desktop/header_bar.h"
 #include "desktop/platform/qt_shell.h"
+#include "desktop/shell/header_bar.h"
 
 namespace talvor {
 
@@ -26,6 +26,7 @@ class MainWindow : public QMainWindow {
   [[nodiscard]] QStackedWidget* Pages() { return pages_; }
 
   std::function<void()> OnClosed;
+  std::function<void()> BeforeMenu;  // "Menu" has been clicked and is about to act
   // F1: the last hint again.
   std::function<void()> OnHelp;
   std::function<void()> OnUserGuide;  // Shift+F1
