@@ -7,11 +7,6 @@
 
 namespace talvor {
 
-QPageLayout CvPageLayout() {
-  constexpr QMarginsF Millimetres(15, 12, 15, 12);
-  return {QPageSize(QPageSize::A4), QPageLayout::Portrait, Millimetres, QPageLayout::Millimeter};
-}
-
 CvPageView::CvPageView(QWidget* parent) : QWebEngineView(parent), page_(new SealedPage(Reach::Folder, this)) {
   setPage(page_);
   setContextMenuPolicy(Qt::NoContextMenu);

@@ -2,7 +2,6 @@
 // than the folder that its template and photo lie in.
 #pragma once
 
-#include <QPageLayout>
 #include <QPointer>
 #include <QWebEngineView>
 
@@ -11,9 +10,6 @@
 namespace talvor {
 
 class SealedPage;
-
-// A CV on paper, whose templates leave the margins to the sheet.
-[[nodiscard]] QPageLayout CvPageLayout();
 
 class CvPageView : public QWebEngineView {
  public:

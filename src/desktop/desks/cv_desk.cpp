@@ -5,6 +5,7 @@
 #include <QPrinterInfo>
 
 #include "base/line_file.h"
+#include "desktop/platform/page_pdf.h"
 #include "desktop/platform/printing.h"
 #include "desktop/shell/advice_box.h"
 #include "desktop/shell/guide_panel.h"

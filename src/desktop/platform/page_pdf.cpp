@@ -3,14 +3,14 @@
 #include <QEventLoop>
 #include <QPageLayout>
 #include <QTimer>
-#include <QWebEnginePage>
+#include <QWebEngineView>
 #include <filesystem>
 #include <memory>
 
 #include "app/temporary_folder.h"
 #include "base/failure_cause.h"
 #include "base/line_file.h"
-#include "desktop/cv/cv_page_view.h"
+#include "desktop/platform/sealed_page.h"
 #include "desktop/widgets/text_edge.h"
 
 namespace talvor {
@@ -34,46 +34,50 @@ bool Waited(QEventLoop& loop) {
   return inTime;
 }
 
-bool Shown(CvPageView& view, const QString& page) {
+bool Shown(SealedPage& page, const QString& file) {
   QEventLoop loop;
   bool well = false;
-  QObject::connect(&view, &QWebEngineView::loadFinished, &loop, [&](bool ok) {
+  QObject::connect(&page, &QWebEnginePage::loadFinished, &loop, [&](bool ok) {
     well = ok;
     loop.quit();
   });
-  view.ShowPage(page);
+  page.ShowFile(file);
   return Waited(loop) && well;
 }
 
 // The page as a document, empty when it could not be made.
-QByteArray Printed(CvPageView& view) {
-  // The margins that a template gives its paper are not taken by the browser.
-  const QPageLayout paper(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF(15, 12, 15, 12),
-                          QPageLayout::Millimeter);
+QByteArray Printed(QWebEnginePage& page) {
   // The answer may come when nobody waits any more.
   const auto loop = std::make_shared<QEventLoop>();
   const auto document = std::make_shared<QByteArray>();
-  view.page()->printToPdf(
+  page.printToPdf(
       [loop, document](const QByteArray& bytes) {
         *document = bytes;
         loop->quit();
       },
-      paper);
+      CvPageLayout());
   return Waited(*loop) ? *document : QByteArray();
 }
 
 }  // namespace
 
+QPageLayout CvPageLayout() {
+  constexpr QMarginsF Millimetres(15, 12, 15, 12);
+  return {QPageSize(QPageSize::A4), QPageLayout::Portrait, Millimetres, QPageLayout::Millimeter};
+}
+
 Result<> PagePdf::Export(const fs::path& page, const fs::path& target) {
   const auto source = TextOf(fs::absolute(page));
-  CvPageView view(nullptr);
+  QWebEngineView view;
   view.resize(800, 1000);  // wide enough for the page at its own size
-  if (!source || !Shown(view, ToQt(*source))) return Failure(u"La page du CV n’a pas pu être lue.");
+  auto* sealed = new SealedPage(Reach::Folder, &view);
+  view.setPage(sealed);
+  if (!source || !Shown(*sealed, ToQt(*source))) return Failure(u"La page du CV n’a pas pu être lue.");
   try {
     // Beside the target, so that the whole document takes its name in one step.
     const TemporaryFolder outcome(target.parent_path());
     const fs::path made = outcome.Path() / "cv.pdf";
-    const QByteArray document = Printed(view);
+    const QByteArray document = Printed(*sealed);
     if (document.isEmpty()) return Failure(u"La page du CV n’a pas pu être imprimée en PDF.");
     if (const auto written = WriteBytes(made, document.toStdString()); written.Failed())
       throw fs::filesystem_error({}, made, written.Code());
