@@ -31,6 +31,7 @@ class CvOptionPanels : public QWidget {
   // Steps through the rows of the open list, for the keyboard of the field above it; the row chosen.
   void StepTemplate(int step);
   [[nodiscard]] int CurrentTemplate() const;
+  [[nodiscard]] bool TemplatesStand() const { return !panels_[0]->isHidden(); }
 
  private:
   QWidget* MakePanel(const char16_t* name);

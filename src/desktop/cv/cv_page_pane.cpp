@@ -243,8 +243,7 @@ bool CvPagePane::eventFilter(QObject* watched, QEvent* event) {
   const bool down = key == Qt::Key_Down;
   if (down || key == Qt::Key_Up) {
     if (watched == font_) return StepFont(down ? 1 : -1), true;
-    if (OnTemplates && panels_->findChild<QWidget*>(QStringLiteral("CadreModeles"))->isHidden())
-      OnTemplates();
+    if (OnTemplates && !panels_->TemplatesStand()) OnTemplates();
     return panels_->StepTemplate(down ? 1 : -1), true;
   }
   if (watched == template_ && (key == Qt::Key_Return || key == Qt::Key_Enter) &&

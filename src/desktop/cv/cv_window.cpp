@@ -46,7 +46,10 @@ CvWindow::CvWindow(FormRédigerCV& form, QtMenus& menus, const Theme& theme, QWi
 CvWindow::~CvWindow() { OutliveWhilePrinting(Page()); }
 
 void CvWindow::BindFields() {
-  binder_.BindByName(*this, CvFields, static_cast<CvDocument&>(shown_));
+  // The others are boxes to tick, the title of the zones, or written into the file alone.
+  binder_.BindByName(*this, CvFields, static_cast<CvDocument&>(shown_),
+                     {u"LangueCV", u"Langues", u"NomCV", u"Modèle", u"Souligné", u"Gras", u"Indentation",
+                      u"Saut", u"List1"});
   binder_.OnEdited = [this](QWidget& widget) {
     const Text name = FromQt(widget.objectName());
     if (const auto* field = FindField(CvFields, name))
@@ -168,8 +171,7 @@ void CvWindow::resizeEvent(QResizeEvent* event) {
 
 void CvWindow::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
-  const QString first = form_.FrameIdentite ? QStringLiteral("Identite") : QStringLiteral("Nom");
-  if (auto* field = findChild<QWidget*>(first)) field->setFocus(Qt::OtherFocusReason);
+  WidgetNamed(*this, form_.FrameIdentite ? u"Identite" : u"Nom").setFocus(Qt::OtherFocusReason);
 }
 
 }  // namespace talvor

@@ -111,7 +111,7 @@ void LetterSenderPane::AddPlace(QFormLayout* grid, QWidget* parent) {
 QWidget* LetterSenderPane::MakeIdentity() {
   auto* block = new QWidget(this);
   QFormLayout* grid = identity_ = MakeGrid(block);
-  AddRow(grid, tr("Nom"), Line(QStringLiteral("Nom"), block), tr("Marchand"));
+  AddRow(grid, tr("Nom"), name_ = Line(QStringLiteral("Nom"), block), tr("Marchand"));
   AddRow(grid, tr("Prénom"), prenom_ = Line(QStringLiteral("Prénom"), block), tr("Jean-Christophe"));
   AddRow(grid, tr("Adresse 1"), Line(QStringLiteral("Adresse1"), block), tr("18 quai des Tanneurs"));
   AddRow(grid, tr("Adresse 2"), Line(QStringLiteral("Adresse2"), block), tr("18 quai des Tanneurs"));

@@ -23,6 +23,7 @@ class LetterSenderPane : public QWidget {
   std::function<void()> OnLeaveEmail, OnLeavePrénom;
 
   void ShowCvs(const FormLettre& form);
+  [[nodiscard]] QWidget& Name() { return *name_; }
   [[nodiscard]] const QList<QWidget*>& Fields() const { return fields_; }
 
  protected:
@@ -48,6 +49,7 @@ class LetterSenderPane : public QWidget {
   QFormLayout* identity_ = nullptr;
   QFormLayout* career_ = nullptr;
   QList<QWidget*> fields_;  // in the order of reading
+  QWidget* name_ = nullptr;
   QLineEdit* email_ = nullptr;
   QLineEdit* prenom_ = nullptr;
   QWidget* cvs_ = nullptr;

@@ -102,7 +102,7 @@ void LetterWindow::Refresh() {
 
 void LetterWindow::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
-  if (auto* name = findChild<QWidget*>(QStringLiteral("Nom"))) name->setFocus(Qt::OtherFocusReason);
+  sender_->Name().setFocus(Qt::OtherFocusReason);
 }
 
 // In a narrow window the letter keeps what it needs, and the sentences a little.

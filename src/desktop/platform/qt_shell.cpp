@@ -5,7 +5,7 @@
 #include <QTimer>
 #include <utility>
 
-#include "desktop/widgets/text_edge.h"
+#include "desktop/widgets/field_binder.h"
 
 namespace talvor {
 
@@ -91,8 +91,7 @@ bool QtShell::FormeVisible(TextView form) const {
 }
 
 void QtShell::Focus(TextView form, TextView field) {
-  if (QWidget* window = WindowOf(form))
-    if (auto* widget = window->findChild<QWidget*>(ToQt(field))) widget->setFocus(Qt::OtherFocusReason);
+  if (const QWidget* window = WindowOf(form)) WidgetNamed(*window, field).setFocus(Qt::OtherFocusReason);
 }
 
 void QtShell::PumpEvents() { QCoreApplication::processEvents(); }

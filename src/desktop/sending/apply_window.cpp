@@ -134,15 +134,14 @@ QWidget* ApplyWindow::MakeMessage() {
   grid->addWidget(documents_, grid->rowCount(), 1);
 
   QWidget* attachment = MakeAttachment(plane);
-  auto* path = attachment->findChild<QLineEdit*>();
   AddRow(grid, tr("P&J (CV)"), attachment, FormPostuler::AttachmentCheck);
-  path->setAccessibleName(tr("PJ (CV)"));
+  path_->setAccessibleName(tr("PJ (CV)"));
 
   binder_.Bind(*sender, form_.Email);
   binder_.Bind(*recipient_, emailDest_);
   binder_.Bind(*subject, form_.Objet);
   binder_.Bind(*letter, form_.Texte);
-  binder_.Bind(*path, form_.PJ);
+  binder_.Bind(*path_, form_.PJ);
   return plane;
 }
 
@@ -151,16 +150,16 @@ QWidget* ApplyWindow::MakeAttachment(QWidget* parent) {
   auto* row = new QHBoxLayout(box);
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(6);
-  QLineEdit* path = Line(QStringLiteral("PJ"), box);
+  path_ = Line(QStringLiteral("PJ"), box);
   auto* browse = new QPushButton(tr("Parco&urir"), box);
   browse->setObjectName(QStringLiteral("Parcourir"));
   browse->setProperty("dense", true);
   browse->setAutoDefault(false);
   TintIcon(theme_, *browse, QStringLiteral("folder"), QStringLiteral("text"));
   connect(browse, &QPushButton::clicked, this, [this] { Do([this] { form_.ClicParcourir(); }); });
-  row->addWidget(path, 1);
+  row->addWidget(path_, 1);
   row->addWidget(browse);
-  box->setFocusProxy(path);
+  box->setFocusProxy(path_);
   return box;
 }
 

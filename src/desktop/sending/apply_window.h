@@ -65,6 +65,7 @@ class ApplyWindow : public ScrollingDialog {
   std::array<QPushButton*, 5> models_{}, cvs_{};
   std::array<QRadioButton*, 2> ways_{};
   QLineEdit* recipient_ = nullptr;
+  QLineEdit* path_ = nullptr;  // of the attachment
   QListWidget* documents_ = nullptr;
   BoutonTLV* action_ = nullptr;
   BoutonTLV* online_ = nullptr;

@@ -28,7 +28,7 @@ ConvertWindow::ConvertWindow(FormConvert& form, const Theme& theme, QWidget* par
   body->addStretch(1);
   AddFoot(MakeLine(theme, this));
   AddFoot(MakeFoot());
-  if (auto* convert = findChild<QPushButton*>(QStringLiteral("BoutonTLV2"))) convert->setFocus();
+  convert_->setFocus();
   connect(this, &QDialog::finished, this, [this] {
     if (OnClosed) OnClosed();
   });
@@ -111,17 +111,17 @@ QWidget* ConvertWindow::MakeFoot() {
       TintIcon(theme_, *button, icon, primary ? QStringLiteral("onprimary") : QStringLiteral("text"));
     connect(button, &QPushButton::clicked, this, action);
     row->addWidget(button);
+    return button;
   };
   add("BoutonTLV3", tr("Ouverture du CV au format &HTML"), QStringLiteral("code"), false,
       [this] { form_.BoutonTLV3(); });
   row->addStretch(1);
-  add("ConvertirPDF", tr("&PDF"), QStringLiteral("cv-pdf"), false,
-      [this] { Convert([this] { form_.ClicPDF(); }); });
-  add("BoutonTLV2", tr("&Convertir"), QStringLiteral("convert"), true,
-      [this] { Convert([this] { form_.BoutonTLV2(); }); });
+  add("ConvertirPDF", tr("&PDF"), QStringLiteral("cv-pdf"), false, [this] {
+    Convert([this] { form_.ClicPDF(); });
+  })->setAccessibleName(tr("Convertir au format PDF"));
+  convert_ = add("BoutonTLV2", tr("&Convertir"), QStringLiteral("convert"), true,
+                 [this] { Convert([this] { form_.BoutonTLV2(); }); });
   add("BoutonTLV1", tr("&Fermer"), {}, false, [this] { form_.BoutonTLV1(); });
-  if (auto* pdf = findChild<QPushButton*>(QStringLiteral("ConvertirPDF")))
-    pdf->setAccessibleName(tr("Convertir au format PDF"));
   return foot;
 }
 

@@ -27,6 +27,7 @@ class ConvertWindow : public ScrollingDialog {
 
   FormConvert& form_;
   const Theme& theme_;
+  QWidget* convert_ = nullptr;
 };
 
 }  // namespace talvor

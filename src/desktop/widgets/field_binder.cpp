@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QTextDocument>
+#include <stdexcept>
 #include <utility>
 
 namespace talvor {
@@ -13,6 +14,13 @@ QString ExactText(const QPlainTextEdit& edit) {
   for (QChar& c : text)
     if (c == QChar::ParagraphSeparator || c == QChar::LineSeparator) c = QChar::LineFeed;
   return text;
+}
+
+QWidget& WidgetNamed(const QWidget& root, TextView name) {
+  auto* found = root.findChild<QWidget*>(ToQt(name));
+  if (found == nullptr)
+    throw std::logic_error(ToUtf8(FromQt(root.objectName()) + u" has no widget " + Text{name}));
+  return *found;
 }
 
 void FieldBinder::Bind(QWidget& widget, Text& field) {

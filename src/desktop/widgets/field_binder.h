@@ -3,7 +3,9 @@
 
 #include <QPointer>
 #include <QWidget>
+#include <algorithm>
 #include <functional>
+#include <initializer_list>
 #include <vector>
 
 #include "base/fields.h"
@@ -13,6 +15,10 @@ class QPlainTextEdit;
 
 namespace talvor {
 
+// The descendant of `root` of that object name. Names bind widgets to fields: one that no widget bears is a
+// fault of the window, std::logic_error.
+[[nodiscard]] QWidget& WidgetNamed(const QWidget& root, TextView name);
+
 // What the user types goes into the field at once; what the view model writes shows at the next
 // Refresh. A field must outlive the binder. Widgets of several lines turn LF and CR LF at this edge.
 class FieldBinder : public QObject {
@@ -20,12 +26,14 @@ class FieldBinder : public QObject {
   // Called after a field has taken what the user typed.
   std::function<void(QWidget&)> OnEdited;
 
-  // Binds each descendant of `root` whose object name is the name of a field: QLineEdit, QPlainTextEdit
-  // (to type in) or QLabel (shown only). Names without a widget are passed over.
+  // Binds the descendants of `root` that bear the names of the fields: QLineEdit, QPlainTextEdit (to type
+  // in) or QLabel (shown only). The fields named in `unseen` have no widget.
   template <class Record, std::size_t N, class Form>
-  void BindByName(QWidget& root, const FieldTable<Record, N>& table, Form& form) {
+  void BindByName(QWidget& root, const FieldTable<Record, N>& table, Form& form,
+                  std::initializer_list<TextView> unseen = {}) {
     for (const auto& field : table)
-      if (auto* widget = root.findChild<QWidget*>(ToQt(field.name))) Bind(*widget, form.*(field.text));
+      if (std::find(unseen.begin(), unseen.end(), field.name) == unseen.end())
+        Bind(WidgetNamed(root, field.name), form.*(field.text));
   }
   void Bind(QWidget& widget, Text& field);
 
