@@ -67,7 +67,18 @@ void FormCand::TellBadDate(TextView field, TextView value) {
   dialogs_.Tell(messages::BadDate);
 }
 
-void FormCand::RefuserDateRDV(TextView typed) { TellBadDate(u"DateRDV", typed); }
+void FormCand::QuitterRDV() {
+  if (refusing_ || SaisieRDV.IsDate()) return;
+  const Raised refusing(refusing_);  // the box takes the focus, which ends the typing once more
+  TellBadDate(u"DateRDV", SaisieRDV.Texte);
+}
+
+bool FormCand::IsAtFault(TextView field) const {
+  if (!Refus || Refus->field != field) return false;
+  if (field == u"DateRDV") return Refus->value == SaisieRDV.Texte;
+  const auto* detail = FindField(DetailFields, field);
+  return detail != nullptr && Refus->value == this->*(detail->text);
+}
 
 bool FormCand::ControleSaisie() {
   Refus.reset();
@@ -128,6 +139,7 @@ void FormCand::Action(std::size_t index) {
     default:
       break;
   }
+  if (Num.empty()) SaisieRDV.Restart();
 }
 
 void FormCand::MontrerCadreWeb() {

@@ -13,6 +13,7 @@
 #include "platform/shell.h"
 #include "tracking/candidature.h"
 #include "tracking/candidature_tree.h"
+#include "tracking/interview_field.h"
 #include "workspace/principale.h"
 
 namespace talvor {
@@ -50,6 +51,7 @@ class FormCand : public Candidature {
   Text AdresseWeb;
   bool CadreWebVisible = false;
   bool PicturePostulerVisible = false;
+  InterviewField SaisieRDV{*this};  // what stands in the field of `DateRDV`
   std::optional<Refusal> Refus;
   ChoiceList ListeStatutsChoice;
   ChoiceList ListeContratsChoice;
@@ -103,8 +105,8 @@ class FormCand : public Candidature {
   // True if the fields can be saved; the first fault is told, stands in `Refus` and, being a date, takes
   // the focus. `DateRDV` is not looked at.
   [[nodiscard]] bool ControleSaisie();
-  // What a text field keeps from `DateRDV` because it is no date: told, and in `Refus`.
-  void RefuserDateRDV(TextView typed);
+  // Whether a field still says what the last check refused.
+  [[nodiscard]] bool IsAtFault(TextView field) const;
   // Saves the detail as a new row or over its own; the only writer of rows. Throws StoreError when the
   // engine refuses, a `DateRDV` that is no date included.
   void Valider();
@@ -112,7 +114,8 @@ class FormCand : public Candidature {
   void Timer2();
 
   // The action labels by index: 0 "Nouvelle", 1 "Supprimer", 3 "Valider", 4 "Internet". Index 2, which
-  // no label bears, brings the apply form forward with its merged letter.
+  // no label bears, brings the apply form forward with its merged letter. A form without a row keeps no
+  // interview that is no date.
   void Action(std::size_t index);
   // Deletes the row of the detail on the handle that the detail holds. Once the list has been built
   // again that handle is closed and the delete fails like any failure of the engine.
@@ -132,6 +135,9 @@ class FormCand : public Candidature {
   void ClicContrat(std::size_t index);
   void QuitterNature();
 
+  // The typing into the field of the interview is over: what is no date is told, and stands in `Refus`.
+  void QuitterRDV();
+
  private:
   [[nodiscard]] Text Today() const;
   [[nodiscard]] std::optional<std::int32_t> Key() const;
@@ -150,6 +156,7 @@ class FormCand : public Candidature {
   Browser& browser_;
   Database base_;  // the handle of the last operation
   bool saving_ = false;
+  bool refusing_ = false;
 };
 
 }  // namespace talvor

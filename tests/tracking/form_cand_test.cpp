@@ -97,6 +97,56 @@ TEST_F(FormCandTest, ADateOfInterviewIsNotCheckedButRefusedByTheStore) {
   EXPECT_EQ(Count(), 0);
 }
 
+TEST_F(FormCandTest, AnInterviewBecomesTheRowsOnceItIsADate) {
+  form.Intitule = u"Maçon";
+  form.Valider();
+  InterviewField& field = form.SaisieRDV;
+  field.Follow();
+  const auto type = [&](TextView text) {
+    field.Texte = text;
+    field.Typed();
+    field.Follow();
+    form.Timer2();
+  };
+  type(u"24");
+  EXPECT_EQ(field.Texte, u"24") << "a tick in the middle of a date leaves the field alone";
+  EXPECT_EQ(Read(1).DateRDV, u"");
+  type(u"24/11/2026");
+  EXPECT_EQ(Read(1).DateRDV, u"24/11/2026");
+  type(u"24/11/2026 14:30");
+  EXPECT_EQ(Read(1).DateRDV, u"24/11/2026") << "the last date stays";
+  type(u"");
+  EXPECT_EQ(Read(1).DateRDV, u"") << "no interview is an answer, too";
+
+  field.Texte = u"mardi";
+  form.DateRDV = u"01/12/2026";
+  field.Follow();
+  EXPECT_EQ(field.Texte, u"01/12/2026") << "a date that comes into the row shows";
+  field.Texte = u"mardi";
+  form.ViderDetail();
+  form.DateRDV = u"01/12/2026";
+  field.Follow();
+  EXPECT_EQ(field.Texte, u"01/12/2026") << "the row is another one";
+  field.Texte = u"mardi";
+  form.Action(0);
+  EXPECT_EQ(field.Texte, u"");
+}
+
+TEST_F(FormCandTest, AnInterviewThatIsNoDateIsRefusedOnceAndUntilItChanges) {
+  form.SaisieRDV.Texte = u"24/11/2026";
+  form.QuitterRDV();
+  EXPECT_TRUE(dialogs.told.empty());
+  form.SaisieRDV.Texte = u"mardi";
+  // The box takes the focus from the field.
+  dialogs.whileTelling = [&] { form.QuitterRDV(); };
+  form.QuitterRDV();
+  EXPECT_EQ(dialogs.told, (std::vector<Text>{Text{messages::BadDate}}));
+  EXPECT_TRUE(form.IsAtFault(u"DateRDV"));
+  EXPECT_FALSE(form.IsAtFault(u"DateEnvoi"));
+  form.SaisieRDV.Texte = u"mard";
+  EXPECT_FALSE(form.IsAtFault(u"DateRDV"));
+}
+
 TEST_F(FormCandTest, TheTimerSavesWhatTheSignatureSees) {
   form.Timer2();
   EXPECT_EQ(Count(), 0) << "a row without a key waits";

@@ -33,6 +33,7 @@ class BrowserPane : public QWidget {
   };
   Actions on;
 
+  [[nodiscard]] QLineEdit& Address() { return *address_; }
   // Makes the view of the page, once.
   QWebEngineView* MakeView();
   void FillSites(const SiteDirectory& directory) { sites_->Fill(directory); }

@@ -180,9 +180,9 @@ void CandidatureDetailPane::AddPair(QGridLayout* grid, const QString& first, QLi
 QWidget* CandidatureDetailPane::MakePostBlock() {
   auto* block = new QWidget(this);
   QGridLayout* grid = MakeGrid(block);
-  QLineEdit* title = Line(QStringLiteral("Intitule"), block);
-  AddRow(grid, tr("Intitulé du poste"), title);
-  title->setAccessibleDescription(tr("obligatoire"));
+  title_ = Line(QStringLiteral("Intitule"), block);
+  AddRow(grid, tr("Intitulé du poste"), title_);
+  title_->setAccessibleDescription(tr("obligatoire"));
   nature_ = new ChoiceField(theme_, QStringLiteral("Image1"), QStringLiteral("ListeContrats"), block);
   nature_->setObjectName(QStringLiteral("Nature"));
   fields_.append(nature_);
@@ -240,7 +240,7 @@ QWidget* CandidatureDetailPane::MakeAdvertisementBlock() {
   QLineEdit* reference = Line(QStringLiteral("Reference"), block);
   AddPair(grid, tr("Ref"), reference, tr("Date de diffusion"), Line(QStringLiteral("DateDiffusion"), block));
   AddRow(grid, tr("Origine de l'annonce"), Line(QStringLiteral("Origine"), block));
-  AddRow(grid, tr("Adresse Internet"), Line(QStringLiteral("www"), block));
+  AddRow(grid, tr("Adresse Internet"), link_ = Line(QStringLiteral("www"), block));
   return block;
 }
 
@@ -274,8 +274,8 @@ QWidget* CandidatureDetailPane::MakeFollowUpBlock() {
 
   QLineEdit* sent = Line(QStringLiteral("DateEnvoi"), block);
   AddPair(grid, tr("Date d'envoi"), sent, tr("limite rép."), Line(QStringLiteral("DateLimite"), block));
-  QLineEdit* interview = Line(QStringLiteral("DateRDV"), block);
-  AddPair(grid, tr("Date RDV"), interview, tr("CV"), Line(QStringLiteral("CV"), block));
+  interview_ = Line(QStringLiteral("DateRDV"), block);
+  AddPair(grid, tr("Date RDV"), interview_, tr("CV"), Line(QStringLiteral("CV"), block));
   AddTallRow(grid, tr("Lettre"), Lines(QStringLiteral("Lettre"), 40, block));
   AddTallRow(grid, tr("Remar&ques"), Lines(QStringLiteral("Remarques"), 54, block));
   return block;

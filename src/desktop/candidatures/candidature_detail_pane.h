@@ -30,7 +30,10 @@ class CandidatureDetailPane : public QWidget {
 
   [[nodiscard]] ChoiceField& Statut() { return *statut_; }
   [[nodiscard]] ChoiceField& Nature() { return *nature_; }
+  [[nodiscard]] QLineEdit& Title() { return *title_; }
   [[nodiscard]] QPlainTextEdit& Description() { return *description_; }
+  [[nodiscard]] QLineEdit& Link() { return *link_; }  // `www`
+  [[nodiscard]] QLineEdit& Interview() { return *interview_; }
   void ShowInternet(bool shown);
   void ShowPostuler(bool shown);
   // Follows the text of the status with its dot.
@@ -67,7 +70,10 @@ class CandidatureDetailPane : public QWidget {
   QPushButton* postuler_ = nullptr;
   ChoiceField* statut_ = nullptr;
   ChoiceField* nature_ = nullptr;
+  QLineEdit* title_ = nullptr;
   QPlainTextEdit* description_ = nullptr;
+  QLineEdit* link_ = nullptr;
+  QLineEdit* interview_ = nullptr;
   QScrollArea* scroll_ = nullptr;
   QHBoxLayout* columns_ = nullptr;
   QVBoxLayout* left_ = nullptr;

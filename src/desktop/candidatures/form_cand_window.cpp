@@ -8,15 +8,11 @@
 #include <QStyle>
 #include <algorithm>
 
-#include "base/day.h"
-#include "base/raised.h"
-
 namespace talvor {
 namespace {
 
 constexpr int ListWidth = 312;
 constexpr int DetailWidth = 502;
-constexpr TextView InterviewField = u"DateRDV";
 
 }  // namespace
 
@@ -36,18 +32,7 @@ FormCandWindow::FormCandWindow(FormCand& form, FormCandCapture& capture, FormCan
   for (int i = 0; i < splitter_->count(); ++i) splitter_->setStretchFactor(i, i);
   row->addWidget(splitter_);
 
-  for (const auto& field : DetailFields)
-    if (auto* widget = findChild<QWidget*>(ToQt(field.name)))
-      binder_.Bind(*widget, field.name == InterviewField ? interview_ : form_.*(field.text));
-  if (auto* address = findChild<QWidget*>(QStringLiteral("AdresseWeb")))
-    binder_.Bind(*address, form_.AdresseWeb);
-  binder_.OnEdited = [this](QWidget& field) {
-    if (&field == &detail_->Statut()) detail_->ShowStatusDot(form_.Statut);
-    if (FromQt(field.objectName()) == InterviewField && DateValide(interview_))
-      form_.DateRDV = interviewTaken_ = interview_;
-    ShowRefusal();
-  };
-  ConnectInterview();
+  Bind();
   ConnectList();
   ConnectDetail();
   ConnectWeb();
@@ -62,19 +47,21 @@ FormCandWindow::FormCandWindow(FormCand& form, FormCandCapture& capture, FormCan
   Refresh();
 }
 
-void FormCandWindow::ConnectInterview() {
-  auto* field = findChild<QLineEdit*>(ToQt(InterviewField));
-  if (field == nullptr) return;
-  connect(field, &QLineEdit::editingFinished, this, [this] {
-    if (refusing_ || DateValide(interview_)) return;
-    const Raised refusing(refusing_);  // the box takes the focus, which ends the editing once more
-    Do([&] { form_.RefuserDateRDV(interview_); });
-  });
-}
-
-void FormCandWindow::ShowInterview() {
-  interview_ = interviewTaken_ = form_.DateRDV;
-  interviewRow_ = form_.Num;
+void FormCandWindow::Bind() {
+  QLineEdit& interview = detail_->Interview();
+  for (const auto& field : DetailFields) {
+    if (field.text == &Candidature::Num) continue;  // not shown
+    QWidget& widget = WidgetNamed(*detail_, field.name);
+    binder_.Bind(widget, &widget == &interview ? form_.SaisieRDV.Texte : form_.*(field.text));
+    if (auto* line = qobject_cast<QLineEdit*>(&widget)) lines_.push_back(line);
+  }
+  binder_.Bind(web_->Address(), form_.AdresseWeb);
+  binder_.OnEdited = [this, &interview](QWidget& field) {
+    if (&field == &detail_->Statut()) detail_->ShowStatusDot(form_.Statut);
+    if (&field == &interview) form_.SaisieRDV.Typed();
+    ShowRefusal();
+  };
+  connect(&interview, &QLineEdit::editingFinished, this, [this] { Do([&] { form_.QuitterRDV(); }); });
 }
 
 void FormCandWindow::ConnectList() {
@@ -92,12 +79,7 @@ void FormCandWindow::ConnectList() {
 }
 
 void FormCandWindow::ConnectDetail() {
-  detail_->OnAction = [this](std::size_t index) {
-    Do([&] {
-      form_.Action(index);
-      if (form_.Num.empty()) ShowInterview();
-    });
-  };
+  detail_->OnAction = [this](std::size_t index) { Do([&] { form_.Action(index); }); };
   detail_->OnAnalyser = [this] { Do([&] { capture_.Analyser(); }); };
   detail_->OnPostuler = [this] { Do([&] { form_.ClicPicturePostuler(); }); };
   ChoiceField& status = detail_->Statut();
@@ -109,7 +91,7 @@ void FormCandWindow::ConnectDetail() {
   contract.OnChosen = [this](std::size_t row) { Do([&] { form_.ClicContrat(row); }); };
   contract.OnLeave = [this] { Do([&] { form_.QuitterNature(); }); };
   // A click on the address of the advertisement opens it.
-  if (auto* www = findChild<QWidget*>(QStringLiteral("www"))) www->installEventFilter(this);
+  detail_->Link().installEventFilter(this);
 }
 
 void FormCandWindow::ConnectWeb() {
@@ -157,7 +139,7 @@ FormCandWindow::~FormCandWindow() {
 }
 
 bool FormCandWindow::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::MouseButtonRelease && watched->objectName() == QStringLiteral("www"))
+  if (event->type() == QEvent::MouseButtonRelease && watched == &detail_->Link())
     Later([this] { webModel_.ClicWww(); });
   return QWidget::eventFilter(watched, event);
 }
@@ -191,7 +173,7 @@ void FormCandWindow::Tick3000() {
 
 void FormCandWindow::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
-  if (auto* title = findChild<QWidget*>(QStringLiteral("Intitule"))) title->setFocus(Qt::OtherFocusReason);
+  detail_->Title().setFocus(Qt::OtherFocusReason);
 }
 
 // The fields come first: they get what their font asks for, and in a narrow window whatever the list and
@@ -215,7 +197,7 @@ void FormCandWindow::StopTimers() {
 }
 
 void FormCandWindow::Refresh() {
-  if (form_.DateRDV != interviewTaken_ || form_.Num != interviewRow_) ShowInterview();
+  form_.SaisieRDV.Follow();
   binder_.Refresh();
   if (shownVersion_ != form_.ListeVersion) {
     shownVersion_ = form_.ListeVersion;
@@ -234,11 +216,8 @@ void FormCandWindow::Refresh() {
 
 // A field at fault looks and speaks so until its text changes.
 void FormCandWindow::ShowRefusal() {
-  for (const auto& field : DetailFields) {
-    auto* line = findChild<QLineEdit*>(ToQt(field.name));
-    if (line == nullptr) continue;
-    const Text& shown = field.name == InterviewField ? interview_ : form_.*(field.text);
-    const bool refused = form_.Refus && form_.Refus->field == field.name && form_.Refus->value == shown;
+  for (QLineEdit* line : lines_) {
+    const bool refused = form_.IsAtFault(FromQt(line->objectName()));
     if (line->property("invalid").toBool() == refused) continue;
     line->setProperty("invalid", refused);
     line->setAccessibleDescription(refused ? ToQt(form_.Refus->message) : QString());

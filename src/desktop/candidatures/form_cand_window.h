@@ -6,6 +6,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <vector>
 
 #include "capture/form_cand_capture.h"
 #include "desktop/browser/browser_pane.h"
@@ -13,6 +14,7 @@
 #include "desktop/candidatures/candidature_list_pane.h"
 #include "desktop/widgets/field_binder.h"
 
+class QLineEdit;
 class QSplitter;
 
 namespace talvor {
@@ -52,11 +54,10 @@ class FormCandWindow : public QWidget {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  void Bind();
   void ConnectList();
   void ConnectDetail();
   void ConnectWeb();
-  void ConnectInterview();
-  void ShowInterview();
   void ShowRefusal();
   // Does that once the event under way is over. To leave a page for another may take a wait, in which the
   // form can be closed, and a field or a list must not go under its own event.
@@ -68,6 +69,7 @@ class FormCandWindow : public QWidget {
   WebBrowser& browser_;
   const Theme& theme_;
   FieldBinder binder_;
+  std::vector<QLineEdit*> lines_;  // the fields of one line
   QSplitter* splitter_;
   CandidatureListPane* list_;
   CandidatureDetailPane* detail_;
@@ -75,12 +77,6 @@ class FormCandWindow : public QWidget {
   QTimer timer1_;
   QTimer timer2_;
   unsigned shownVersion_ = 0;
-  // What stands in the field of the interview. The form's own date follows while it is one: a save comes
-  // every few seconds, also in the middle of a date, and the database takes no other text there.
-  Text interview_;
-  Text interviewTaken_;  // the form's date when both were last alike
-  Text interviewRow_;    // and its row
-  bool refusing_ = false;
   std::optional<bool> narrow_;  // until the first layout
 };
 
