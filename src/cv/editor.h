@@ -37,6 +37,9 @@ class FormRédigerCV : public CvDocument {
     const Clock& clock;
     std::function<void(TextView)> showHelp;  // puts a text into the panel `Aide`
     std::function<void()> layOut;            // gives the controls and the preview their sizes
+    // -- Ways out of the menus; one that is not set does nothing.
+    std::function<void()> previsualiser, imprimer;  // the page, in a print preview or straight to the printer
+    std::function<void(TextView document)> ouvrirDocument;
   };
 
   // The option panels, of which one at most is open.
@@ -98,12 +101,22 @@ class FormRédigerCV : public CvDocument {
   void ClicImageMenu(std::size_t i);
   void MouseOverImage6(int i);
 
+  // -- The menus of the buttons.
+  // Runs the item of that name; false for a name of other menus.
+  bool Choisir(TextView item);
+  void PrévisualiserCV();
+  void ImprimerCV();
+  void MessageTrames();  // the advice on printing
   void MenuFrancais();
   void MenuAnglais();
-
   void RattacherPhoto();
   void CollerPhoto();
   void SupprimerPhoto();
+  void MenuConvFWord();  // the conversion
+  void ConsulterWord();  // the last word-processor version
+
+  // Where the page goes as a PDF: beside the converted versions.
+  [[nodiscard]] std::filesystem::path VersionPDF() const;
 
  private:
   void SaveUnderName();

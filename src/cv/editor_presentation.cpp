@@ -1,4 +1,4 @@
-// The part of the editor that sets how the page looks, and its menus and help.
+// The part of the editor that sets how the page looks, opens its menus and gives help.
 #include <algorithm>
 #include <array>
 
@@ -129,18 +129,6 @@ void FormRédigerCV::MouseOverImage6(int i) {
   text.append(help->text);
   if (!around_.shell.FormeVisible(EditorHelpForm)) around_.shell.Show(EditorHelpForm);
   if (around_.showHelp) around_.showHelp(text);
-}
-
-void FormRédigerCV::MenuFrancais() {
-  around_.menus.Check(u"MenuFrancais", true);
-  around_.menus.Check(u"MenuAnglais", false);
-  Change(u"LangueCV", u"0");
-}
-
-void FormRédigerCV::MenuAnglais() {
-  around_.menus.Check(u"MenuAnglais", true);
-  around_.menus.Check(u"MenuFrancais", false);
-  Change(u"LangueCV", u"1");
 }
 
 }  // namespace talvor

@@ -55,8 +55,21 @@ class Editor : public testing::Test {
   Principale principale_{shell_};
   Text help_;
   int layouts_ = 0;
-  FormRédigerCV form_{{principale_, shell_, dialogs_, pickers_, menus_, browser_, clipboard_, environment_,
-                       clock_, [this](TextView text) { help_ = text; }, [this] { ++layouts_; }}};
+  std::vector<Text> opened_;
+  FormRédigerCV form_{{principale_,
+                       shell_,
+                       dialogs_,
+                       pickers_,
+                       menus_,
+                       browser_,
+                       clipboard_,
+                       environment_,
+                       clock_,
+                       [this](TextView text) { help_ = text; },
+                       [this] { ++layouts_; },
+                       {},
+                       {},
+                       [this](TextView document) { opened_.emplace_back(document); }}};
 };
 
 TEST_F(Editor, OpeningListsTheTemplatesAndGreetsAUserWithoutCv) {
@@ -238,6 +251,22 @@ TEST_F(Editor, OnePanelAtMostIsOpen) {
   EXPECT_EQ(menus_.opened, u"MenuLangues");
   form_.ClicImageMenu(3);
   EXPECT_EQ(menus_.opened, u"MenuImprimer");
+}
+
+TEST_F(Editor, AnItemOfItsMenusLeadsWhereItSays) {
+  environment_.variables[u"userprofile"] = *TextOf(scratch_.Path());
+  fs::create_directories("Documents");
+  Write("Documents/essai.DOC", "x");
+  form_.NomCV = u"Essai";
+  form_.Photo = "GIF89a";
+  for (const TextView item : {u"MenuAnglais", u"SupprimerPhoto", u"MessageTrames", u"MenuConvFWord",
+                              u"ConsulterWord", u"PrévisualiserCV", u"ImprimerCV"})
+    EXPECT_TRUE(form_.Choisir(item)) << ToUtf8(item);
+  EXPECT_EQ(form_.LangueCV, u"1");
+  EXPECT_EQ(form_.Photo, "");
+  EXPECT_EQ(shell_.log, (std::vector<Text>{u"show MiseEnPage", u"show FormConvert"}));
+  EXPECT_EQ(opened_, std::vector<Text>{*TextOf(scratch_.Path() / "Documents/essai.DOC")});
+  EXPECT_FALSE(form_.Choisir(u"MenuNouveauCV")) << "an item of the slots";
 }
 
 TEST_F(Editor, TheLastWordVersionIsOfferedWhenItExists) {

@@ -12,7 +12,6 @@
 #include "desktop/widgets/text_edge.h"
 #include "platform/twips.h"
 #include "workspace/document_keeping.h"
-#include "workspace/documents_folder.h"
 #include "workspace/systeme.h"
 #include "workspace/workspace_paths.h"
 
@@ -31,7 +30,9 @@ CvDesk::CvDesk(const DeskSurroundings& around)
       around_(around),
       menus_(around.theme, {u"MenuImprimer", u"MenuPhoto", u"MenuLangues", u"MenuConvertirWord"}),
       printAdvice_(around.shell, around.dialogs) {
-  menus_.OnChosen = [this](TextView item) { Chosen(item); };
+  menus_.OnChosen = [this](TextView item) {
+    if (window_) window_->Do([&] { form_->Choisir(item); });
+  };
   documents_.OnRefused = [this](TextView target) { TellNotOpened(target, around_.dialogs); };
   printAdvice_.previsualiser = [this] { Preview(); };
   MakeForm();
@@ -42,20 +43,25 @@ CvDesk::CvDesk(const DeskSurroundings& around)
 }
 
 void CvDesk::MakeForm() {
-  form_.emplace(FormRédigerCV::Surroundings{.principale = around_.principale,
-                                            .shell = around_.shell,
-                                            .dialogs = around_.dialogs,
-                                            .pickers = around_.pickers,
-                                            .menus = menus_,
-                                            .webBrowser1 = preview_,
-                                            .clipboard = clipboard_,
-                                            .environment = around_.environment,
-                                            .clock = around_.clock,
-                                            .showHelp = [this](TextView text) { ShowHelp(text); },
-                                            .layOut =
-                                                [this] {
-                                                  if (window_) window_->Refresh();
-                                                }});
+  form_.emplace(FormRédigerCV::Surroundings{
+      .principale = around_.principale,
+      .shell = around_.shell,
+      .dialogs = around_.dialogs,
+      .pickers = around_.pickers,
+      .menus = menus_,
+      .webBrowser1 = preview_,
+      .clipboard = clipboard_,
+      .environment = around_.environment,
+      .clock = around_.clock,
+      .showHelp = [this](TextView text) { ShowHelp(text); },
+      .layOut =
+          [this] {
+            if (window_) window_->Refresh();
+          },
+      .previsualiser = [this] { Preview(); },
+      .imprimer = [this] { Print(); },
+      .ouvrirDocument =
+          [this](TextView document) { OuvrirDocument(document, documents_, around_.dialogs); }});
 }
 
 QWidget* CvDesk::MakeWindow(QWidget* parent) {
@@ -129,36 +135,14 @@ void CvDesk::PlaceHelp(QWidget& panel) {
   panel.move(corner - QPoint(panel.width() + Margin, panel.height() + Margin));
 }
 
-void CvDesk::Chosen(TextView item) {
-  if (!window_) return;
-  if (item == u"MenuFrancais") return window_->Do([&] { form_->MenuFrancais(); });
-  if (item == u"MenuAnglais") return window_->Do([&] { form_->MenuAnglais(); });
-  if (item == u"RattacherPhoto") return window_->Do([&] { form_->RattacherPhoto(); });
-  if (item == u"CollerPhoto") return window_->Do([&] { form_->CollerPhoto(); });
-  if (item == u"SupprimerPhoto") return window_->Do([&] { form_->SupprimerPhoto(); });
-  if (item == u"PrévisualiserCV") return Preview();
-  if (item == u"ImprimerCV") return Print();
-  if (item == u"MessageTrames") return around_.shell.Show(PrintAdviceForm);
-  if (item == u"MenuConvFWord") return around_.shell.Show(ConvertForm);
-  if (item == u"ConsulterWord") return OpenLastWordVersion();
-}
-
-// In "Documents", whatever the layout of the folders is.
-void CvDesk::OpenLastWordVersion() {
-  const auto version = ConvertedCv(around_.environment, DocumentsLayout::Newer, form_->NomCV, u".doc");
-  OuvrirDocument(TextOf(ExistingFile(version).value_or(version)).value_or(Text{}), documents_,
-                 around_.dialogs);
-}
-
 // The page as it stands on the disk, as it will be printed.
 void CvDesk::Preview() {
   if (!window_) return;
-  const auto pdf = ConvertedCv(around_.environment, DocumentsLayout::Newer, form_->NomCV, u".pdf");
   printPreview_ = new PrintPreviewWindow(around_.theme,
                                          {.file = ToQt(preview_.LocationURL()),
                                           .reach = Reach::Folder,
                                           .layout = CvPageLayout(),
-                                          .pdf = ToQt(TextOf(pdf).value_or(Text{}))},
+                                          .pdf = ToQt(TextOf(form_->VersionPDF()).value_or(Text{}))},
                                          window_);
   printPreview_->show();
 }

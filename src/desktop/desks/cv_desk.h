@@ -49,10 +49,8 @@ class CvDesk : public Desk {
   void RegisterForms();
   void Loaded();
   void Unloaded();
-  void Chosen(TextView item);
   void ShowHelp(TextView text);
   void PlaceHelp(QWidget& panel);
-  void OpenLastWordVersion();
 
   DeskSurroundings around_;
   CvPreview preview_;
