@@ -53,6 +53,7 @@ bool IsFile(TextView path) {
 FormPostuler::FormPostuler(Surroundings around) : around_(std::move(around)) {}
 
 void FormPostuler::Charger() {
+  num_ = around_.formCand().Num;
   // The models; those beyond the fifth are not offered.
   File1.Point(workspace_paths::LetterFolder());
   for (std::size_t i = 0; i < ModelCount; ++i) Modele[i] = ReplaceAll(File1.List(i), LetterEnding, {});
@@ -92,6 +93,13 @@ void FormPostuler::PointFile2() {
   File2.clear();
   for (std::size_t i = 0; i < files.Count(); ++i)
     if (CanBeAttached(files.List(i))) File2.push_back(files.List(i));
+}
+
+bool FormPostuler::IsForTheSame() const { return num_ == around_.formCand().Num; }
+
+void LoadForReview(const FormPostuler* open, Shell& shell) {
+  if (open != nullptr && !open->IsForTheSame()) shell.Unload(ApplyForm);
+  shell.Load(ApplyForm);
 }
 
 void FormPostuler::OuvrirDepuisFormCand(const ApplyRequest& request) {

@@ -73,6 +73,9 @@ class FormPostuler : public MergedLetter {
   // merged with the candidature, and the form comes to the front.
   void Charger();
 
+  // Whether `FormCand` still shows the candidature that it was loaded for.
+  [[nodiscard]] bool IsForTheSame() const;
+
   // -- The ways in that review a candidature. They replace the merged letter, even by an empty text, and
   // load the form unless it stands already. Showing the form is the third way: the letter stays.
   // From the picture of `FormCand`: what was sent already cannot be sent again.
@@ -101,7 +104,12 @@ class FormPostuler : public MergedLetter {
   void PointFile2();
 
   Surroundings around_;
+  Text num_;        // the number of its candidature at the load
   Text documents_;  // the folder of `File2`, without a "/" at its end
 };
+
+// Loads the apply form so that it can review a candidature. `open` is the form while it is loaded: one that
+// was loaded for another candidature would keep that one's recipient and subject, and begins anew.
+void LoadForReview(const FormPostuler* open, Shell& shell);
 
 }  // namespace talvor

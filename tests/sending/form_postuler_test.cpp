@@ -276,6 +276,24 @@ INSTANTIATE_TEST_SUITE_P(Marks, Checks,
                                          Checked{FormPostuler::AttachmentCheck, u"CV", false},
                                          Checked{FormPostuler::AttachmentCheck, u"cv.doc;cv.doc", false}));
 
+TEST_F(FormPostulerTest, AFormOpenForAnotherCandidatureBeginsAnew) {
+  const auto callsOf = [&](const FormPostuler* open) {
+    shell.calls.clear();
+    LoadForReview(open, shell);
+    return shell.calls;
+  };
+  const std::vector<Text> goesOn{u"Load FormPostuler"};
+  const std::vector<Text> beginsAnew{u"Unload FormPostuler", u"Load FormPostuler"};
+  formCand.Num = u"3";
+  Load();
+  EXPECT_EQ(callsOf(&form), goesOn);
+  formCand.Num = u"4";
+  EXPECT_EQ(callsOf(&form), beginsAnew) << "its recipient is that of another company";
+  EXPECT_EQ(callsOf(nullptr), goesOn);
+  formCand.Num.clear();
+  EXPECT_EQ(callsOf(&form), beginsAnew) << "one that is not saved is another one, too";
+}
+
 TEST_F(FormPostulerTest, AnAttachmentRemovedMeanwhileTurnsItsMark) {
   Write(u"Documents/x.pdf");
   form.PJ = Documents(u"x.pdf");

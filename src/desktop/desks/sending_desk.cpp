@@ -29,7 +29,6 @@ SendingDesk::SendingDesk(const DeskSurroundings& around) : around_(around), mail
 }
 
 void SendingDesk::MakeApply() {
-  openedFor_ = around_.ways.formCand().Num;
   apply_.emplace(FormPostuler::Surroundings{.principale = around_.principale,
                                             .formCand = around_.ways.formCand,
                                             .tags = around_.ways.candidatureTexts,
@@ -100,11 +99,9 @@ void SendingDesk::CloseDocuments() {
   around_.shell.Unload(ConvertForm);
 }
 
-// The load begins the form anew in its place, so that it comes before the form is asked. A form that is
-// open for another candidature would keep that one's recipient and subject.
+// The load begins the form anew in its place, so that it comes before the form is asked.
 void SendingDesk::Review(const std::function<void()>& wayIn) {
-  if (Apply() != nullptr && openedFor_ != around_.ways.formCand().Num) around_.shell.Unload(ApplyForm);
-  around_.shell.Load(ApplyForm);
+  LoadForReview(Apply(), around_.shell);
   if (!applyWindow_) return;
   applyWindow_->Do(wayIn);
   // The marks of the letter that has been replaced would stand for a second.

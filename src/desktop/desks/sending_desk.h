@@ -45,7 +45,6 @@ class SendingDesk : public Desk {
   PagePdf printer_;
   // Begun anew at each load of the form, in its place.
   std::optional<FormPostuler> apply_;
-  Text openedFor_;  // the number of its candidature, as it was at the load
   std::optional<FormConvert> convert_;
   QPointer<ApplyWindow> applyWindow_;
 };
