@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <stdexcept>
 
 #include "desktop/widgets/text_edge.h"
 
@@ -112,8 +113,13 @@ void QtMenus::OpenAt(TextView menu, QPoint place) {
 }
 
 void QtMenus::Pick(const std::function<void(QAction&)>& action, TextView item) const {
+  bool known = false;
   for (const auto& menu : menus_)
-    if (auto* found = menu->findChild<QAction*>(ToQt(item))) action(*found);
+    if (auto* found = menu->findChild<QAction*>(ToQt(item))) {
+      action(*found);
+      known = true;
+    }
+  if (!known) throw std::logic_error("no menu has an item " + ToUtf8(item));
 }
 
 void QtMenus::Enable(TextView item, bool enabled) {
