@@ -55,6 +55,10 @@ struct Desktop::Parts {
   void OfAll(void (Desk::*action)()) {
     for (Desk* desk : desks) (desk->*action)();
   }
+  void AfterTyping(void (Desk::*action)()) {
+    OfAll(&Desk::KeepTyping);
+    OfAll(action);
+  }
 };
 
 Desktop::Desktop(const Theme& theme, const Environment& environment, const Clock& clock, Dialogs& dialogs,
@@ -75,7 +79,7 @@ void Desktop::OfferWays() {
     if (parts.main) parts.main->Refresh();
   };
   parts.ways.keepTyping = [&parts] { parts.OfAll(&Desk::KeepTyping); };
-  parts.ways.closeDocuments = [&parts] { parts.OfAll(&Desk::CloseDocuments); };
+  parts.ways.closeDocuments = [&parts] { parts.AfterTyping(&Desk::CloseDocuments); };
   parts.ownPickers.SetFrame(parts.main.get());
   parts.ownPickers.CurrentColour = [&parts] { return QColor(ToQt(parts.cv.Form().Couleur)); };
 }
@@ -83,9 +87,9 @@ void Desktop::OfferWays() {
 void Desktop::ConnectMain() {
   Parts& parts = *parts_;
   parts.shell.Over(MainForm, [&parts](QWidget*) { return parts.main.get(); });
-  parts.main->BeforeMenu = [&parts] { parts.OfAll(&Desk::Leave); };
+  parts.main->BeforeMenu = [&parts] { parts.AfterTyping(&Desk::Leave); };
   parts.main->OnClosed = [&parts] {
-    parts.OfAll(&Desk::Close);
+    parts.AfterTyping(&Desk::Close);
     FinishPrinting();
     QCoreApplication::quit();
   };

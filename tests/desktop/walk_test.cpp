@@ -252,6 +252,18 @@ TEST_F(WalkTest, ARefusedRenamingIsReportedAndTheTypedLetterIsOnTheDisk) {
   EXPECT_NE(ReadBytes(Folder() / "Lettres" / "l (ER).dat")->find("Bonjour et merci"), std::string::npos);
 }
 
+TEST_F(WalkTest, ADatabaseThatFailsAtTheEndTakesNoTypedLetterWithIt) {
+  desktop->Windows().Show(u"FormCand");
+  SaveRow(QStringLiteral("Maçon"));
+  ChooseItem(5, u"MenuOuvrirLettre");
+  desktop->Letters().Form().Nom = u"Marchand";
+  desktop->Letters().Form().Text1 = u"Bonjour et merci";
+  desktop->Candidatures().Form().DateRDV = u"mardi";  // which the database refuses
+  desktop->Main().close();
+  EXPECT_EQ(failures.size(), 1u);
+  EXPECT_NE(ReadBytes(Folder() / "Lettres" / "l (ER).dat")->find("Bonjour et merci"), std::string::npos);
+}
+
 TEST_F(WalkTest, TheDataGoesOutAndComesBackThroughTheWindowOfTheBackup) {
   const auto key = scratch.Path() / "clé";
   std::filesystem::create_directory(key);

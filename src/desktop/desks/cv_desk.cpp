@@ -98,10 +98,7 @@ void CvDesk::Unloaded() {
   around_.shell.Unload(EditorHelpForm);
 }
 
-void CvDesk::CloseDocuments() {
-  KeepTyping();
-  around_.shell.Unload(EditorForm);
-}
+void CvDesk::CloseDocuments() { around_.shell.Unload(EditorForm); }
 
 void CvDesk::KeepTyping() {
   if (window_) window_->KeepTyping();

@@ -75,10 +75,11 @@ class Desk {
   Desk& operator=(const Desk&) = delete;
   virtual ~Desk() = default;
 
-  // What was typed in its documents reaches the disk.
+  // What was typed in its documents reaches the disk. Every desk is asked for it before any desk is asked
+  // for what follows: the database may fail there, and no document is to be lost with it.
   virtual void KeepTyping() {}
-  // The user turns to the main menu: everything that was typed is kept.
-  virtual void Leave() { KeepTyping(); }
+  // The user turns to the main menu: what was typed elsewhere is kept, too.
+  virtual void Leave() {}
   // The main window has been closed. Waits of a form end with the form; the event loop alone would leave
   // them turning.
   virtual void Close() { Leave(); }
