@@ -39,7 +39,7 @@ class FormCandWeb {
 
   FormCandWeb(FormCand& form, FormCandCapture& capture, const Surroundings& around);
 
-  // -- State beside `AdresseWeb` and `CadreWebVisible` of the form.
+  // -- State beside `AdresseWeb` and `WebPaneVisible` of the form.
   SiteDirectory Sites;
   bool List1Visible = false;
   int FrameWeb = StripClosed;  // the top of the strip

@@ -155,7 +155,7 @@ void FormCandWeb::DeplacerFrameWeb(int top) {
 
 void FormCandWeb::Timer1() {
   capture_.Timer1();
-  if (!form_.CadreWebVisible) return;
+  if (!form_.WebPaneVisible) return;
   const Text title = FenetreHttp(documents_);
   if (const auto blank = title.find(u' '); blank != Text::npos) Text1 = title.substr(0, blank);
   // An address that has been taken over does not hide the link again.

@@ -63,7 +63,7 @@ ExitCode Capturer(const std::string& workspace, const CaptureOptions& options, C
 
 ExitCode Candidatures(const std::string& workspace, const std::string& tri, bool json, Console& console) {
   Workspace space(workspace, Text{BlankPage}, console);
-  space.form.ClicTri(TriOf(tri));
+  space.form.SortBy(TriOf(tri));
   const auto& nodes = space.form.Liste.Nodes();
   const auto leaves = LeavesByGroup(nodes);
   Json groups = Json::array();

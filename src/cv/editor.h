@@ -88,9 +88,9 @@ class FormRédigerCV : public CvDocument {
   void ClicLangue(TextView grid, std::size_t i);
 
   void ClicCoul(std::size_t i);
-  void BoutonTLV3();  // another colour, by the dialog
-  void ClicImage2();  // opens the list of templates
-  void ClicImage3();  // opens the fonts
+  void BoutonTLV3();     // another colour, by the dialog
+  void OpenTemplates();  // opens the list of templates
+  void ClicImage3();     // opens the fonts
   void ClicListeModeles(std::size_t row);
   void ClicPoliceT(std::size_t i);
   void ClicListeSituations(std::size_t row);

@@ -57,7 +57,7 @@ void FormRédigerCV::OpenPanel(Panel panel) {
   openPanel = panel;
 }
 
-void FormRédigerCV::ClicImage2() { OpenPanel(Panel::ListeModeles); }
+void FormRédigerCV::OpenTemplates() { OpenPanel(Panel::ListeModeles); }
 void FormRédigerCV::ClicImage3() { OpenPanel(Panel::FramePolice); }
 
 void FormRédigerCV::ClicListeModeles(std::size_t row) {

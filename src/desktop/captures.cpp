@@ -90,7 +90,7 @@ void PhotographCv(Desktop& desktop, Photographer& photographer) {
     cv.Window()->Do([&] { cv.Form().ClicImageMenu(i); });
     photographer.Take(entries[i]);
   }
-  cv.Window()->Do([&] { cv.Form().ClicImage2(); });
+  cv.Window()->Do([&] { cv.Form().OpenTemplates(); });
   photographer.Take(u"cv-modeles");
   cv.Window()->Do([&] { cv.Form().ClicImage3(); });
   photographer.Take(u"cv-polices");
@@ -245,9 +245,9 @@ void PhotographForms(Desktop& desktop, const Theme& theme, Photographer photogra
   photographer.Take(u"candidatures-sans-navigateur");
   window.Do([&] { desktop.Candidatures().Form().ShowWebPane(); });
   photographer.Take(u"candidatures");
-  window.Do([&] { desktop.Candidatures().Form().ClicImage2(); });
+  window.Do([&] { desktop.Candidatures().Form().ToggleStatusList(); });
   photographer.Take(u"candidatures-statuts");
-  window.Do([&] { desktop.Candidatures().Form().QuitterStatut(); });
+  window.Do([&] { desktop.Candidatures().Form().CloseStatusList(); });
   PhotographBrowser(desktop, photographer);
   PhotographLetters(desktop, photographer);
   PhotographSending(desktop, photographer);

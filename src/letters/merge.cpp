@@ -68,8 +68,8 @@ CandidatureTexts TextsOf(const FormCand& form) {
   static_cast<Candidature&>(texts) = form;
   texts.AdresseWeb = form.AdresseWeb;
   texts.TermFin = form.TermFin;
-  if (const auto row = form.ListeStatutsChoice.selected) texts.ListeStatuts = ListeStatuts[*row];
-  if (const auto row = form.ListeContratsChoice.selected) texts.ListeContrats = ListeContrats[*row];
+  if (const auto row = form.StatusList.selected) texts.ListeStatuts = ListeStatuts[*row];
+  if (const auto row = form.ContractList.selected) texts.ListeContrats = ListeContrats[*row];
   return texts;
 }
 

@@ -39,7 +39,7 @@ void FormCand::ChargerCandidature(std::int16_t num) {
   base_ = Database::Open(clock_);
   static_cast<Candidature&>(*this) = base_.ReadRow(num);
   DescriptionConnue = Description;
-  PicturePostulerVisible = Statut == NonEmise;
+  ApplyButtonVisible = Statut == NonEmise;
   SignatureCourante = SignatureEnregistree = Signature(*this);
 }
 
@@ -63,7 +63,7 @@ bool FormCand::RefuseDate(TextView field, const Text& value) {
 }
 
 void FormCand::TellBadDate(TextView field, TextView value) {
-  Refus = {Text{field}, Text{value}, Text{messages::BadDate}};
+  LastRefusal = {Text{field}, Text{value}, Text{messages::BadDate}};
   dialogs_.Tell(messages::BadDate);
 }
 
@@ -74,17 +74,17 @@ void FormCand::QuitterRDV() {
 }
 
 bool FormCand::IsAtFault(TextView field) const {
-  if (!Refus || Refus->field != field) return false;
-  if (field == u"DateRDV") return Refus->value == SaisieRDV.Texte;
+  if (!LastRefusal || LastRefusal->field != field) return false;
+  if (field == u"DateRDV") return LastRefusal->value == SaisieRDV.Texte;
   const auto* detail = FindField(DetailFields, field);
-  return detail != nullptr && Refus->value == this->*(detail->text);
+  return detail != nullptr && LastRefusal->value == this->*(detail->text);
 }
 
 bool FormCand::ControleSaisie() {
-  Refus.reset();
+  LastRefusal.reset();
   if (Intitule.empty()) {
-    const TextView message = CadreWebVisible ? messages::NotIdentified : messages::TitleRequired;
-    Refus = {u"Intitule", {}, Text{message}};
+    const TextView message = WebPaneVisible ? messages::NotIdentified : messages::TitleRequired;
+    LastRefusal = {u"Intitule", {}, Text{message}};
     dialogs_.Tell(message);
     return false;
   }
@@ -112,7 +112,7 @@ void FormCand::EnregistrerLigne() {
   base_.Save(row, values);
 }
 
-void FormCand::Timer2() {
+void FormCand::SaveIfChanged() {
   if (Num.empty() || saving_) return;
   SignatureCourante = Signature(*this);
   if (SignatureCourante != SignatureEnregistree) Valider();
@@ -173,7 +173,7 @@ void FormCand::ViderControles() {
   ShowAddress({});
 }
 
-void FormCand::ClicPicturePostuler() {
+void FormCand::OpenApplyForm() {
   if (OuvrirPostuler) OuvrirPostuler({Lettre, DateEnvoi.empty()});
 }
 

@@ -49,19 +49,19 @@ class FormCand : public Candidature {
   // The browser pane: its address field, which takes what the user types, and whether it stands. All else
   // writes them through the methods of the pane below.
   Text AdresseWeb;
-  bool CadreWebVisible = false;
-  bool PicturePostulerVisible = false;
+  bool WebPaneVisible = false;
+  bool ApplyButtonVisible = false;
   InterviewField SaisieRDV{*this};  // what stands in the field of `DateRDV`
-  std::optional<Refusal> Refus;
-  ChoiceList ListeStatutsChoice;
-  ChoiceList ListeContratsChoice;
+  std::optional<Refusal> LastRefusal;
+  ChoiceList StatusList;
+  ChoiceList ContractList;
 
-  std::optional<Tri> TriChoisi = Tri::Statuts;
+  std::optional<Tri> ChosenSort = Tri::Statuts;
   CandidatureTree Liste;
-  bool ListeVisible = false;
-  unsigned ListeVersion = 0;       // counts the builds, for a view that has to take the tree over
-  bool BoutonDroit = false;        // the last press on the tree was the right button
-  bool MenuPostulerActif = false;  // whether the popup offers "Postuler"
+  bool ListVisible = false;
+  unsigned ListVersion = 0;       // counts the builds, for a view that has to take the tree over
+  bool BoutonDroit = false;       // the last press on the tree was the right button
+  bool ApplyItemEnabled = false;  // whether the popup offers "Postuler"
 
   // -- Ways out to what stands on higher floors; one that is not set does nothing.
   std::function<void(const ApplyRequest&)> OuvrirPostuler;
@@ -71,8 +71,8 @@ class FormCand : public Candidature {
   void Charger();
 
   // -- The browser pane.
-  void ShowWebPane() { CadreWebVisible = true; }
-  void HideWebPane() { CadreWebVisible = false; }
+  void ShowWebPane() { WebPaneVisible = true; }
+  void HideWebPane() { WebPaneVisible = false; }
   // The browser goes to an address, which its field shows from now on.
   void GoTo(TextView address);
   // The same in two steps, for who lets events run in between: the field shows the address, and the browser
@@ -84,10 +84,10 @@ class FormCand : public Candidature {
   // Rebuilds the tree from the rows and the sort option. Failures are not reported: the tree holds what
   // could be read. Closes the handle that the detail keeps.
   void InitListe();
-  void ClicTri(Tri tri);
+  void SortBy(Tri tri);
   // Opens the row of a leaf; the right button opens the popup as well. A key that passes as a leaf's and
   // names no row is a failure of the engine.
-  void ClicNoeud(TextView key);
+  void OpenNode(TextView key);
   // Deletes every row after a question; the same from the main menu, which asks in other words and
   // clears the tree instead of building it again.
   void ToutSupprimer();
@@ -102,7 +102,7 @@ class FormCand : public Candidature {
   void ViderDetail();
   // Fills what an empty field stands for.
   void ValeursParDefaut();
-  // True if the fields can be saved; the first fault is told, stands in `Refus` and, being a date, takes
+  // True if the fields can be saved; the first fault is told, stands in `LastRefusal` and, being a date, takes
   // the focus. `DateRDV` is not looked at.
   [[nodiscard]] bool ControleSaisie();
   // Whether a field still says what the last check refused.
@@ -111,7 +111,7 @@ class FormCand : public Candidature {
   // engine refuses, a `DateRDV` that is no date included.
   void Valider();
   // Every 3000 ms: saves a row that has a key and has changed. Nothing while a save is under way.
-  void Timer2();
+  void SaveIfChanged();
 
   // The action labels by index: 0 "Nouvelle", 1 "Supprimer", 3 "Valider", 4 "Internet". Index 2, which
   // no label bears, brings the apply form forward with its merged letter. A form without a row keeps no
@@ -122,20 +122,20 @@ class FormCand : public Candidature {
   void Supprimer();
   // The same from the popup, on a handle of its own.
   void MenuSupprimerCand();
-  void ClicPicturePostuler();
+  void OpenApplyForm();  // with the letter that the row holds
 
   // Marks the row as sent today with that CV and letter, and saves it.
   void MarquerEnvoyee(TextView cv, TextView lettre);
 
   // -- The choices of status and contract.
-  void ClicImage2();
-  void ClicStatut(std::size_t index);
-  void QuitterStatut();
-  void ClicImage1();
-  void ClicContrat(std::size_t index);
-  void QuitterNature();
+  void ToggleStatusList();
+  void ChooseStatus(std::size_t index);
+  void CloseStatusList();
+  void ToggleContractList();
+  void ChooseContract(std::size_t index);
+  void CloseContractList();
 
-  // The typing into the field of the interview is over: what is no date is told, and stands in `Refus`.
+  // The typing into the field of the interview is over: what is no date is told, and stands in `LastRefusal`.
   void QuitterRDV();
 
  private:

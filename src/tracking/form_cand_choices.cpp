@@ -24,12 +24,12 @@ void Toggle(ChoiceList& list, const std::array<TextView, N>& rows, TextView valu
 
 }  // namespace
 
-void FormCand::ClicImage2() {
-  Toggle(ListeStatutsChoice, ListeStatuts, Statut);
+void FormCand::ToggleStatusList() {
+  Toggle(StatusList, ListeStatuts, Statut);
   shell_.Focus(CandidatureForm, u"Statut");
 }
 
-void FormCand::ClicStatut(std::size_t index) {
+void FormCand::ChooseStatus(std::size_t index) {
   const TextView entry = ListeStatuts.at(index);
   if (Statut == entry) return;
   Statut = entry;
@@ -40,22 +40,22 @@ void FormCand::ClicStatut(std::size_t index) {
     DateRDV = Today();
     Remarques.append(LineEnd).append(u"Prise de rendez-vous le ").append(Today()).append(LineEnd);
   }
-  ListeStatutsChoice.visible = false;
+  StatusList.visible = false;
   if (!Num.empty()) Valider();
 }
 
-void FormCand::QuitterStatut() { ListeStatutsChoice.visible = false; }
+void FormCand::CloseStatusList() { StatusList.visible = false; }
 
-void FormCand::ClicImage1() {
-  Toggle(ListeContratsChoice, ListeContrats, Nature);
+void FormCand::ToggleContractList() {
+  Toggle(ContractList, ListeContrats, Nature);
   shell_.Focus(CandidatureForm, u"Nature");
 }
 
-void FormCand::ClicContrat(std::size_t index) {
+void FormCand::ChooseContract(std::size_t index) {
   Nature = ListeContrats.at(index);
-  ListeContratsChoice.visible = false;
+  ContractList.visible = false;
 }
 
-void FormCand::QuitterNature() { ListeContratsChoice.visible = false; }
+void FormCand::CloseContractList() { ContractList.visible = false; }
 
 }  // namespace talvor

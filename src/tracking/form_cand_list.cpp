@@ -27,27 +27,27 @@ std::optional<std::int16_t> ShortNumber(TextView text) {
 }  // namespace
 
 void FormCand::InitListe() {
-  ListeVisible = false;
+  ListVisible = false;
   Liste = {};
   try {
     base_ = Database::Open(clock_);
-    if (TriChoisi) Liste = CandidatureTree::Build(base_, *TriChoisi);
+    if (ChosenSort) Liste = CandidatureTree::Build(base_, *ChosenSort);
   } catch (const StoreError&) {
     // A base that cannot be opened leaves the tree empty, without a message.
   }
   if (!Liste.Empty())
     principale_.ImageMenu[Principale::CandidatureSlot].picture = SlotPicture::ImageCandidature;
   base_.Close();
-  ListeVisible = true;
-  ++ListeVersion;
+  ListVisible = true;
+  ++ListVersion;
 }
 
-void FormCand::ClicTri(Tri tri) {
-  TriChoisi = tri;
+void FormCand::SortBy(Tri tri) {
+  ChosenSort = tri;
   InitListe();
 }
 
-void FormCand::ClicNoeud(TextView key) {
+void FormCand::OpenNode(TextView key) {
   const TextView behindFirst = key.substr(std::min<std::size_t>(1, key.size()));
   // A company of one letter and a number passes as a leaf here, too.
   if (ValeurNumerique(behindFirst) > 0) {
@@ -61,7 +61,7 @@ void FormCand::ClicNoeud(TextView key) {
   }
   const TreeNode* node = Liste.Find(key);
   if (node == nullptr || node->childCount != 0 || !BoutonDroit) return;
-  MenuPostulerActif = DateEnvoi.empty();
+  ApplyItemEnabled = DateEnvoi.empty();
   if (OuvrirMenuItemCand) OuvrirMenuItemCand();
 }
 
@@ -88,11 +88,11 @@ void FormCand::MenuSupprimer() {
   DeleteAllRows();
   principale_.ImageMenu[Principale::CandidatureSlot].picture = SlotPicture::ImageNew;
   Liste = {};
-  ++ListeVersion;
+  ++ListVersion;
 }
 
 void FormCand::Rechercher(std::size_t index) {
-  if (index == 0 && !CadreWebVisible) MontrerCadreWeb();
+  if (index == 0 && !WebPaneVisible) MontrerCadreWeb();
 }
 
 }  // namespace talvor

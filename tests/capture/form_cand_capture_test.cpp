@@ -35,7 +35,7 @@ TEST_F(CaptureTest, ATextBecomesASavedRow) {
 }
 
 TEST_F(CaptureTest, ATextWithoutATitleIsToldAndKeepsWhatWasFound) {
-  form.CadreWebVisible = true;
+  form.WebPaneVisible = true;
   capture.CapturerTexte(u"Société : Acme\r\nx");
   EXPECT_EQ(dialogs.told, std::vector<Text>{Text{messages::NotIdentified}});
   EXPECT_EQ(form.Societe, u"ACME ");

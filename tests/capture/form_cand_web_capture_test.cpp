@@ -184,10 +184,10 @@ TEST_F(WebTest, APageLoadedDuringARatingIsRatedBehindIt) {
 
 TEST_F(WebTest, AWindowOutsideIsOfferedAndBroughtIn) {
   documents.titles = {u"Courrier", u"http://outside.example/a - Navigateur", u"http://later.example/ x"};
-  form.CadreWebVisible = false;
+  form.WebPaneVisible = false;
   web.Timer1();
   EXPECT_FALSE(web.Label3Visible) << "watched with the pane only";
-  form.CadreWebVisible = true;
+  form.WebPaneVisible = true;
   web.Timer1();
   EXPECT_TRUE(web.Label3Visible);
   web.ClicLabel3();
@@ -255,9 +255,9 @@ TEST_F(WebTest, TheDirectoryLeadsThePane) {
   web.ClicList1(7);
   EXPECT_TRUE(web.List1Visible) << "no such row";
   form.www = u"http://www.example/";
-  form.CadreWebVisible = false;
+  form.WebPaneVisible = false;
   web.ClicWww();
-  EXPECT_TRUE(form.CadreWebVisible);
+  EXPECT_TRUE(form.WebPaneVisible);
   EXPECT_EQ(browser.location, u"http://www.example/");
   web.ClicImage4();
   EXPECT_EQ(browser.location, principale.AdresseWeb);

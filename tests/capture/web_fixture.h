@@ -16,7 +16,7 @@ inline const Text AdvertisementPage =
 class WebTest : public TrackingTest {
  protected:
   WebTest() {
-    form.CadreWebVisible = true;
+    form.WebPaneVisible = true;
     web.OnSignal = [this](TextView key) { signalled.emplace_back(key); };
     web.OnChange = [this] { tops.push_back(web.FrameWeb); };
   }

@@ -245,7 +245,7 @@ TEST_F(Editor, OnePanelAtMostIsOpen) {
   EXPECT_EQ(shell_.log, (std::vector<Text>{u"focus FormRédigerCV.Age", u"focus FormRédigerCV.Nom"}));
   form_.Leave(u"Nom");
   EXPECT_EQ(form_.openPanel, Panel::None);
-  form_.ClicImage2();
+  form_.OpenTemplates();
   form_.ClicImageMenu(2);
   EXPECT_EQ(form_.openPanel, Panel::None);
   EXPECT_EQ(menus_.opened, u"MenuLangues");
@@ -284,7 +284,7 @@ TEST_F(Editor, TheLastWordVersionIsOfferedWhenItExists) {
 TEST_F(Editor, ListsFillTheirFields) {
   Write("Modeles/Zen.htm", "zen");
   form_.Open(20000);
-  form_.ClicImage2();
+  form_.OpenTemplates();
   form_.ClicListeModeles(1);
   EXPECT_EQ(form_.NomModele, u"Zen");
   EXPECT_EQ(form_.openPanel, Panel::None);

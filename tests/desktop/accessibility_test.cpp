@@ -238,7 +238,7 @@ TEST_F(AccessibilityTest, TheEditorOfCvsWithEachOfItsPanels) {
     Click(entry);
     Walk(Main(), entry);
   }
-  desktop->Cv().Window()->Do([&] { desktop->Cv().Form().ClicImage2(); });
+  desktop->Cv().Window()->Do([&] { desktop->Cv().Form().OpenTemplates(); });
   Walk(Main(), "templates");
   desktop->Cv().Window()->Do([&] { desktop->Cv().Form().ClicImage3(); });
   Walk(Main(), "fonts");

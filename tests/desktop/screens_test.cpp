@@ -309,7 +309,7 @@ TEST_P(ScreensTest, TheEditorOfCvsWithEachOfItsPanels) {
     Click(entry);
     VisitMain(entry);
   }
-  desktop->Cv().Window()->Do([&] { desktop->Cv().Form().ClicImage2(); });
+  desktop->Cv().Window()->Do([&] { desktop->Cv().Form().OpenTemplates(); });
   VisitMain("templates");
   desktop->Cv().Window()->Do([&] { desktop->Cv().Form().ClicImage3(); });
   VisitMain("fonts");

@@ -130,7 +130,7 @@ TEST_F(SendingWindowTest, ASendMarksTheCandidatureOnlyOnceTheClientHasTheMessage
   desktop->Windows().WindowOf(ApplyForm)->close();
   EXPECT_EQ(desktop->Windows().WindowOf(ApplyForm), nullptr);
   ClickLeaf(u"s1");
-  desktop->Candidatures().Form().ClicPicturePostuler();
+  desktop->Candidatures().Form().OpenApplyForm();
   EXPECT_FALSE(InWindow(ApplyForm, "BoutonTLV1")->isVisible());
 }
 
@@ -160,7 +160,7 @@ TEST_F(SendingWindowTest, AnAdvertisementOnTheWebIsAnsweredThereUnlessAnAddressI
   EXPECT_TRUE(InWindow<QRadioButton>(ApplyForm, "Messagerie0")->isChecked());
   Press(ApplyForm, "BoutonTLV2");
   EXPECT_EQ(Line("AdresseWeb"), QStringLiteral("about:blank#offre"));
-  EXPECT_TRUE(desktop->Candidatures().Form().CadreWebVisible);
+  EXPECT_TRUE(desktop->Candidatures().Form().WebPaneVisible);
 
   TypeKeys(InWindow(ApplyForm, "EmailDest"), QStringLiteral("rh@acme.fr"));
   EXPECT_TRUE(InWindow(ApplyForm, "Messagerie1")->isEnabled());

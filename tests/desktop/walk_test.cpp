@@ -156,7 +156,7 @@ TEST_F(WalkTest, TheMenusOfTheSlotsDoTheirWork) {
     EXPECT_TRUE(Visible(u"FormCand"));
     Home();
     ChooseItem(10, u"MenuRechercherOffres", byKeyboard);
-    EXPECT_TRUE(desktop->Candidatures().Form().CadreWebVisible);
+    EXPECT_TRUE(desktop->Candidatures().Form().WebPaneVisible);
     Home();
     ChooseItem(2, u"MenuNouveauCV", byKeyboard);
     EXPECT_TRUE(Visible(u"FormRédigerCV"));
@@ -200,7 +200,7 @@ TEST_F(WalkTest, ThePopupOfACandidatureLeadsToItsPageItsSiteAndTheApplication) {
     QTest::keyClick(menu, Qt::Key_Return);
   };
   choose(u"MenuConsulterInternet");
-  EXPECT_TRUE(desktop->Candidatures().Form().CadreWebVisible);
+  EXPECT_TRUE(desktop->Candidatures().Form().WebPaneVisible);
   EXPECT_EQ(desktop->Candidatures().Form().AdresseWeb, u"http://emploi.example/offres/4821");
   // The end of a load writes its own address into the field.
   ASSERT_TRUE(WaitFor(

@@ -426,7 +426,7 @@ TEST_F(BrowserTest, TheAddressOfTheAdvertisementOpensIt) {
   Click("Action0");
   Type("Intitule", QStringLiteral("Maçon"));
   Find<QLineEdit>("www")->setText(site.Address(QStringLiteral("tableau.htm")));
-  desktop->Candidatures().Form().CadreWebVisible = false;
+  desktop->Candidatures().Form().WebPaneVisible = false;
   Window().Refresh();
   Click("www");
   QCoreApplication::processEvents();

@@ -84,14 +84,14 @@ void Worker::ChangedRow() {
   if (rows_.empty()) return;
   const std::int32_t id = rows_[static_cast<std::size_t>(Draw(static_cast<int>(rows_.size())))];
   form_.ChargerCandidature(static_cast<std::int16_t>(id));
-  SaveRow([this] { form_.Timer2(); }, id);
+  SaveRow([this] { form_.SaveIfChanged(); }, id);
 }
 
 // The capture begins a detail of its own: its row takes the body afterwards, by the timer.
 void Worker::Capture() {
   capture_.CapturerTexte(Text{Advertisement});
   if (form_.Num.empty()) return;
-  SaveRow([this] { form_.Timer2(); }, static_cast<std::int32_t>(ValeurNumerique(form_.Num)));
+  SaveRow([this] { form_.SaveIfChanged(); }, static_cast<std::int32_t>(ValeurNumerique(form_.Num)));
 }
 
 void Worker::SaveCv() {

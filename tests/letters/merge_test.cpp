@@ -124,7 +124,7 @@ TEST_F(MergeTest, TakesTheTextsOfTheForm) {
   FormCand formCand{principale, clock, dialogs, shell, browser};
   formCand.Ville = u"Lyon";
   formCand.AdresseWeb = u"http://x";
-  formCand.ListeStatutsChoice.selected = 0;
+  formCand.StatusList.selected = 0;
   candidature = TextsOf(formCand);
   EXPECT_EQ(Merged(u"#Ville# #AdresseWeb# #ListeStatuts# #ListeContrats# #List1#"),
             u"Lyon http://x NON EMISE  ");

@@ -196,13 +196,13 @@ TEST_F(FormPostulerTest, TheThreeWaysInDifferInWhatTheyReplace) {
 
   formCand.OuvrirPostuler = [this](const ApplyRequest& request) { form.OuvrirDepuisFormCand(request); };
   formCand.DateEnvoi = u"01/02/2026";
-  formCand.ClicPicturePostuler();
+  formCand.OpenApplyForm();
   EXPECT_EQ(form.Texte, u"stored");
   EXPECT_EQ(form.PJ, u"");
   EXPECT_FALSE(form.BoutonTLV1Visible);
   formCand.DateEnvoi.clear();
   formCand.Lettre.clear();
-  formCand.ClicPicturePostuler();
+  formCand.OpenApplyForm();
   EXPECT_EQ(form.Texte, u"");
   EXPECT_TRUE(form.BoutonTLV1Visible);
 
@@ -439,7 +439,7 @@ TEST_F(FormPostulerTest, ApplyingOnlineLeadsToThePageUnlessItIsOnShow) {
   browser.location = u"elsewhere";
   formCand.AdresseWeb = formCand.www;
   form.BoutonTLV2();
-  EXPECT_TRUE(formCand.CadreWebVisible);
+  EXPECT_TRUE(formCand.WebPaneVisible);
   EXPECT_EQ(shell.calls.back(), u"Show FormCand");
   EXPECT_EQ(browser.location, u"elsewhere");
 

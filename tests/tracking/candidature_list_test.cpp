@@ -44,7 +44,7 @@ INSTANTIATE_TEST_SUITE_P(
 class ListTest : public TrackingTest {
  protected:
   std::string OutlineBy(Tri tri) {
-    form.ClicTri(tri);
+    form.SortBy(tri);
     return Outline(form.Liste);
   }
 };
@@ -94,13 +94,13 @@ TEST_F(ListTest, ALabelThatComesBackFindsItsFirstGroup) {
 TEST_F(ListTest, AnEmptyTableOrAMissingBaseLeavesTheTreeEmptyAndTheSlotAsItIs) {
   form.InitListe();
   EXPECT_TRUE(form.Liste.Empty());
-  EXPECT_TRUE(form.ListeVisible);
+  EXPECT_TRUE(form.ListVisible);
   EXPECT_EQ(principale.ImageMenu[10].picture, SlotPicture::None);
   Insert({.Intitule = u"x", .Societe = u"y"});
-  form.TriChoisi.reset();
+  form.ChosenSort.reset();
   form.InitListe();
   EXPECT_TRUE(form.Liste.Empty()) << "no option, no query";
-  form.ClicTri(Tri::Dates);
+  form.SortBy(Tri::Dates);
   EXPECT_EQ(principale.ImageMenu[10].picture, SlotPicture::ImageCandidature);
   std::filesystem::remove("Talvor.mdb");
   form.InitListe();
@@ -111,16 +111,16 @@ TEST_F(ListTest, AnEmptyTableOrAMissingBaseLeavesTheTreeEmptyAndTheSlotAsItIs) {
 TEST_F(ListTest, AClickOpensALeafAndNothingElse) {
   Insert({.Intitule = u"Maçon", .Societe = u"A", .Statut = u"NON EMISE"});
   form.InitListe();
-  form.CadreWebVisible = true;
-  form.ClicNoeud(u"Candidatures non émises");
+  form.WebPaneVisible = true;
+  form.OpenNode(u"Candidatures non émises");
   EXPECT_EQ(form.Num, u"");
-  EXPECT_TRUE(form.CadreWebVisible);
-  form.ClicNoeud(u"s1");
+  EXPECT_TRUE(form.WebPaneVisible);
+  form.OpenNode(u"s1");
   EXPECT_EQ(form.Intitule, u"Maçon");
-  EXPECT_FALSE(form.CadreWebVisible);
+  EXPECT_FALSE(form.WebPaneVisible);
   // The keys of companies can pass for those of leaves.
-  EXPECT_THROW(form.ClicNoeud(u"A5"), StoreError);
-  form.ClicNoeud(u"s32768");
+  EXPECT_THROW(form.OpenNode(u"A5"), StoreError);
+  form.OpenNode(u"s32768");
   EXPECT_EQ(dialogs.told, std::vector<Text>{Text{messages::OutOfReach}});
 }
 
@@ -130,16 +130,16 @@ TEST_F(ListTest, TheRightButtonOpensThePopupOnALeafOnly) {
   Insert({.Intitule = u"Maçon", .Societe = u"A", .Statut = u"NON EMISE"});
   Insert({.Intitule = u"Maçon", .Societe = u"A", .DateEnvoi = u"01/02/2026", .Statut = u"NON EMISE"});
   form.InitListe();
-  form.ClicNoeud(u"s1");
+  form.OpenNode(u"s1");
   EXPECT_EQ(opened, 0);
   form.BoutonDroit = true;
-  form.ClicNoeud(u"Candidatures non émises");
+  form.OpenNode(u"Candidatures non émises");
   EXPECT_EQ(opened, 0);
-  form.ClicNoeud(u"s1");
+  form.OpenNode(u"s1");
   EXPECT_EQ(opened, 1);
-  EXPECT_TRUE(form.MenuPostulerActif);
-  form.ClicNoeud(u"s2");
-  EXPECT_FALSE(form.MenuPostulerActif) << "already sent";
+  EXPECT_TRUE(form.ApplyItemEnabled);
+  form.OpenNode(u"s2");
+  EXPECT_FALSE(form.ApplyItemEnabled) << "already sent";
 }
 
 TEST_F(ListTest, DeletingAllAsksFirstAndTheMenuAsksInItsOwnWords) {
@@ -164,9 +164,9 @@ TEST_F(ListTest, DeletingAllAsksFirstAndTheMenuAsksInItsOwnWords) {
 
 TEST_F(ListTest, TheSearchPanelOpensTheStartPageOnce) {
   form.Rechercher(1);
-  EXPECT_FALSE(form.CadreWebVisible);
+  EXPECT_FALSE(form.WebPaneVisible);
   form.Rechercher(0);
-  EXPECT_TRUE(form.CadreWebVisible);
+  EXPECT_TRUE(form.WebPaneVisible);
   EXPECT_EQ(browser.location, StartPage);
   EXPECT_EQ(form.AdresseWeb, StartPage);
   browser.location = u"about:blank";

@@ -73,7 +73,7 @@ TEST_F(FormCandTest, EveryFieldComesBackAtTheNextLoad) {
 TEST_F(FormCandTest, ARefusedSaveTellsOnceKeepsTheFieldsAndLosesItsNumber) {
   form.Societe = u"ACME";
   form.Valider();
-  form.CadreWebVisible = true;
+  form.WebPaneVisible = true;
   form.Valider();
   form.Intitule = u"Maçon";
   form.DateEnvoi = u"31/02/2026";
@@ -106,7 +106,7 @@ TEST_F(FormCandTest, AnInterviewBecomesTheRowsOnceItIsADate) {
     field.Texte = text;
     field.Typed();
     field.Follow();
-    form.Timer2();
+    form.SaveIfChanged();
   };
   type(u"24");
   EXPECT_EQ(field.Texte, u"24") << "a tick in the middle of a date leaves the field alone";
@@ -148,19 +148,19 @@ TEST_F(FormCandTest, AnInterviewThatIsNoDateIsRefusedOnceAndUntilItChanges) {
 }
 
 TEST_F(FormCandTest, TheTimerSavesWhatTheSignatureSees) {
-  form.Timer2();
+  form.SaveIfChanged();
   EXPECT_EQ(Count(), 0) << "a row without a key waits";
   form.Intitule = u"Maçon";
   form.Valider();
-  form.Timer2();
+  form.SaveIfChanged();
   EXPECT_EQ(form.SignatureEnregistree, form.SignatureCourante);
 
   form.Lettre = u"lettre";
   form.DateLimite = u"05/03/2026";
-  form.Timer2();
+  form.SaveIfChanged();
   EXPECT_EQ(Read(1).Lettre, u"") << "the letter is out of the signature";
   form.Ville = u"Lyon";
-  form.Timer2();
+  form.SaveIfChanged();
   EXPECT_EQ(Read(1).Ville, u"Lyon");
   EXPECT_EQ(Read(1).Lettre, u"lettre") << "written by the save that something else set off";
 }
@@ -171,14 +171,14 @@ TEST_F(FormCandTest, ATickInsideAMessageBoxStartsNoSecondSave) {
   form.DateEnvoi = u"x";
   dialogs.whileTelling = [&] {
     form.Remarques += u"+";
-    form.Timer2();
+    form.SaveIfChanged();
   };
-  form.Timer2();
+  form.SaveIfChanged();
   EXPECT_EQ(dialogs.told.size(), 1u);
   dialogs.whileTelling = {};
-  form.Timer2();
+  form.SaveIfChanged();
   EXPECT_EQ(dialogs.told.size(), 2u) << "the text has changed since";
-  form.Timer2();
+  form.SaveIfChanged();
   EXPECT_EQ(dialogs.told.size(), 2u) << "a refused text counts as seen";
 }
 
@@ -196,13 +196,13 @@ class StatusChoices : public FormCandTest, public testing::WithParamInterface<Ch
 TEST_P(StatusChoices, StampDatesAndRemarks) {
   form.Statut = u"SANS REPONSE APRES ENTRETIEN";
   form.Remarques = GetParam().remarks;
-  form.ListeStatutsChoice.visible = true;
-  form.ClicStatut(GetParam().index);
+  form.StatusList.visible = true;
+  form.ChooseStatus(GetParam().index);
   EXPECT_EQ(form.Statut, ListeStatuts[GetParam().index]);
   EXPECT_EQ(form.DateEnvoi, GetParam().sent ? u"01/03/2026" : u"");
   EXPECT_EQ(form.DateRDV, GetParam().interview ? u"01/03/2026" : u"");
   EXPECT_EQ(form.Remarques, GetParam().after);
-  EXPECT_FALSE(form.ListeStatutsChoice.visible);
+  EXPECT_FALSE(form.StatusList.visible);
   EXPECT_EQ(Count(), 0) << "a row without a key keeps the change in the fields";
 }
 
@@ -219,35 +219,35 @@ TEST_F(FormCandTest, AStatusChosenOnASavedRowIsSavedAndTheSameOneDoesNothing) {
   form.Intitule = u"Maçon";
   form.Valider();
   form.ChargerCandidature(1);
-  EXPECT_TRUE(form.PicturePostulerVisible);
-  form.ClicStatut(1);
+  EXPECT_TRUE(form.ApplyButtonVisible);
+  form.ChooseStatus(1);
   EXPECT_EQ(Read(1).Statut, ListeStatuts[1]);
-  EXPECT_TRUE(form.PicturePostulerVisible) << "follows the status at the next load only";
+  EXPECT_TRUE(form.ApplyButtonVisible) << "follows the status at the next load only";
   form.DateEnvoi.clear();
-  form.ClicStatut(1);
+  form.ChooseStatus(1);
   EXPECT_EQ(form.DateEnvoi, u"");
-  form.ClicStatut(0);
+  form.ChooseStatus(0);
   EXPECT_EQ(form.DateEnvoi, u"") << "the first status stamps and clears nothing";
 }
 
 TEST_F(FormCandTest, TheChoiceListsOpenOnTheirEntryAndCloseWithTheFocus) {
   form.Statut = ListeStatuts[4];
-  form.ClicImage2();
-  EXPECT_TRUE(form.ListeStatutsChoice.visible);
-  EXPECT_EQ(form.ListeStatutsChoice.selected, 4u);
+  form.ToggleStatusList();
+  EXPECT_TRUE(form.StatusList.visible);
+  EXPECT_EQ(form.StatusList.selected, 4u);
   EXPECT_EQ(shell.focus, u"FormCand.Statut");
-  form.QuitterStatut();
-  EXPECT_FALSE(form.ListeStatutsChoice.visible);
+  form.CloseStatusList();
+  EXPECT_FALSE(form.StatusList.visible);
   form.Statut = SansReponseApresEntretien;
-  form.ClicImage2();
-  EXPECT_EQ(form.ListeStatutsChoice.selected, std::nullopt);
-  form.ClicImage2();
-  EXPECT_FALSE(form.ListeStatutsChoice.visible);
+  form.ToggleStatusList();
+  EXPECT_EQ(form.StatusList.selected, std::nullopt);
+  form.ToggleStatusList();
+  EXPECT_FALSE(form.StatusList.visible);
 
-  form.ClicImage1();
-  form.ClicContrat(3);
+  form.ToggleContractList();
+  form.ChooseContract(3);
   EXPECT_EQ(form.Nature, u"INTERIM");
-  EXPECT_FALSE(form.ListeContratsChoice.visible);
+  EXPECT_FALSE(form.ContractList.visible);
   EXPECT_EQ(shell.focus, u"FormCand.Nature");
 }
 
@@ -295,7 +295,7 @@ TEST_F(FormCandTest, ApplyingHandsOverTheLetterAndMarksTheRowAsSent) {
   form.OuvrirPostuler = [&](const ApplyRequest& asked) { request = asked; };
   form.Intitule = u"Maçon";
   form.Lettre = u"Madame,";
-  form.ClicPicturePostuler();
+  form.OpenApplyForm();
   EXPECT_EQ(request.Texte, u"Madame,");
   EXPECT_TRUE(request.canBeSent);
   form.MarquerEnvoyee(u"a.doc", u"Monsieur,");
@@ -303,7 +303,7 @@ TEST_F(FormCandTest, ApplyingHandsOverTheLetterAndMarksTheRowAsSent) {
   EXPECT_EQ(row.Statut, ListeStatuts[1]);
   EXPECT_EQ(row.DateEnvoi, u"01/03/2026");
   EXPECT_EQ(row.CV + row.Lettre, u"a.docMonsieur,");
-  form.ClicPicturePostuler();
+  form.OpenApplyForm();
   EXPECT_FALSE(request.canBeSent);
 }
 

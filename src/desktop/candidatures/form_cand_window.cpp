@@ -43,7 +43,7 @@ FormCandWindow::FormCandWindow(FormCand& form, FormCandCapture& capture, FormCan
   connect(&timer2_, &QTimer::timeout, this, [this] { Tick3000(); });
   timer1_.start(PasteWatchMilliseconds);
   timer2_.start(SaveMilliseconds);
-  shownVersion_ = form_.ListeVersion;
+  shownVersion_ = form_.ListVersion;
   Refresh();
 }
 
@@ -65,12 +65,12 @@ void FormCandWindow::Bind() {
 }
 
 void FormCandWindow::ConnectList() {
-  list_->OnTri = [this](std::size_t index) { Do([&] { form_.ClicTri(static_cast<Tri>(index)); }); };
+  list_->OnTri = [this](std::size_t index) { Do([&] { form_.SortBy(static_cast<Tri>(index)); }); };
   list_->OnToutSupprimer = [this] { Do([&] { form_.ToutSupprimer(); }); };
   list_->OnRechercher = [this](std::size_t index) { Do([&] { form_.Rechercher(index); }); };
   CandidatureTreeView& tree = list_->Tree();
   tree.OnPress = [this](bool right) { form_.BoutonDroit = right; };
-  tree.OnNode = [this](TextView key) { Do([&] { form_.ClicNoeud(key); }); };
+  tree.OnNode = [this](TextView key) { Do([&] { form_.OpenNode(key); }); };
   tree.OnDelete = [this] { Do([&] { form_.MenuSupprimerCand(); }); };
   form_.OuvrirMenuItemCand = [this] {
     Refresh();
@@ -81,15 +81,15 @@ void FormCandWindow::ConnectList() {
 void FormCandWindow::ConnectDetail() {
   detail_->OnAction = [this](std::size_t index) { Do([&] { form_.Action(index); }); };
   detail_->OnAnalyser = [this] { Do([&] { capture_.Analyser(); }); };
-  detail_->OnPostuler = [this] { Do([&] { form_.ClicPicturePostuler(); }); };
+  detail_->OnPostuler = [this] { Do([&] { form_.OpenApplyForm(); }); };
   ChoiceField& status = detail_->Statut();
-  status.OnToggle = [this] { Do([&] { form_.ClicImage2(); }); };
-  status.OnChosen = [this](std::size_t row) { Do([&] { form_.ClicStatut(row); }); };
-  status.OnLeave = [this] { Do([&] { form_.QuitterStatut(); }); };
+  status.OnToggle = [this] { Do([&] { form_.ToggleStatusList(); }); };
+  status.OnChosen = [this](std::size_t row) { Do([&] { form_.ChooseStatus(row); }); };
+  status.OnLeave = [this] { Do([&] { form_.CloseStatusList(); }); };
   ChoiceField& contract = detail_->Nature();
-  contract.OnToggle = [this] { Do([&] { form_.ClicImage1(); }); };
-  contract.OnChosen = [this](std::size_t row) { Do([&] { form_.ClicContrat(row); }); };
-  contract.OnLeave = [this] { Do([&] { form_.QuitterNature(); }); };
+  contract.OnToggle = [this] { Do([&] { form_.ToggleContractList(); }); };
+  contract.OnChosen = [this](std::size_t row) { Do([&] { form_.ChooseContract(row); }); };
+  contract.OnLeave = [this] { Do([&] { form_.CloseContractList(); }); };
   // A click on the address of the advertisement opens it.
   detail_->Link().installEventFilter(this);
 }
@@ -168,7 +168,7 @@ void FormCandWindow::Tick500() {
 }
 
 void FormCandWindow::Tick3000() {
-  Do([&] { form_.Timer2(); });
+  Do([&] { form_.SaveIfChanged(); });
 }
 
 void FormCandWindow::showEvent(QShowEvent* event) {
@@ -199,18 +199,18 @@ void FormCandWindow::StopTimers() {
 void FormCandWindow::Refresh() {
   form_.SaisieRDV.Follow();
   binder_.Refresh();
-  if (shownVersion_ != form_.ListeVersion) {
-    shownVersion_ = form_.ListeVersion;
+  if (shownVersion_ != form_.ListVersion) {
+    shownVersion_ = form_.ListVersion;
     list_->Tree().Rebuild();
   }
-  list_->ShowTri(form_.TriChoisi ? static_cast<int>(*form_.TriChoisi) : -1);
-  detail_->ShowPostuler(form_.PicturePostulerVisible);
-  detail_->ShowInternet(form_.CadreWebVisible);
+  list_->ShowTri(form_.ChosenSort ? static_cast<int>(*form_.ChosenSort) : -1);
+  detail_->ShowPostuler(form_.ApplyButtonVisible);
+  detail_->ShowInternet(form_.WebPaneVisible);
   detail_->ShowStatusDot(form_.Statut);
   ShowRefusal();
-  detail_->Statut().ShowList(form_.ListeStatutsChoice);
-  detail_->Nature().ShowList(form_.ListeContratsChoice);
-  if (web_->isHidden() == form_.CadreWebVisible) web_->setVisible(form_.CadreWebVisible);
+  detail_->Statut().ShowList(form_.StatusList);
+  detail_->Nature().ShowList(form_.ContractList);
+  if (web_->isHidden() == form_.WebPaneVisible) web_->setVisible(form_.WebPaneVisible);
   web_->Show(webModel_);
 }
 
@@ -220,7 +220,7 @@ void FormCandWindow::ShowRefusal() {
     const bool refused = form_.IsAtFault(FromQt(line->objectName()));
     if (line->property("invalid").toBool() == refused) continue;
     line->setProperty("invalid", refused);
-    line->setAccessibleDescription(refused ? ToQt(form_.Refus->message) : QString());
+    line->setAccessibleDescription(refused ? ToQt(form_.LastRefusal->message) : QString());
     line->style()->unpolish(line);
     line->style()->polish(line);
   }

@@ -91,7 +91,7 @@ void CvWindow::ConnectPage() {
     menus_.SetAnchor(&button);
     Do([&] { form_.ClicImageMenu(entry); });
   };
-  page_->OnTemplates = [this] { Do([&] { form_.ClicImage2(); }); };
+  page_->OnTemplates = [this] { Do([&] { form_.OpenTemplates(); }); };
   page_->OnFonts = [this] { Do([&] { form_.ClicImage3(); }); };
   page_->OnDisposition = [this](std::size_t i) { Do([&] { form_.ClicCheckDisposition(i); }); };
   CvOptionPanels& panels = page_->Panels();

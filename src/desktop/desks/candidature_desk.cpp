@@ -63,7 +63,7 @@ void CandidatureDesk::Loaded() {
 }
 
 void CandidatureDesk::OpenItemMenu(QPoint place) {
-  popup_.Enable(u"MenuPostuler", models_->form.MenuPostulerActif);
+  popup_.Enable(u"MenuPostuler", models_->form.ApplyItemEnabled);
   popup_.OpenAt(u"MenuItemCand", place);
 }
 
