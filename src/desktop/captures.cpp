@@ -158,7 +158,7 @@ void PhotographBrowser(Desktop& desktop, Photographer photographer) {
   FormCandWindow& window = *desktop.Candidatures().Window();
   FormCandWeb& web = desktop.Candidatures().Web();
   constexpr int UntilThePageIsRated = 2500;
-  window.Do([&] { desktop.Candidatures().Form().Action(4); });
+  window.Do([&] { desktop.Candidatures().Form().RunAction(DetailAction::ShowBrowser); });
   desktop.Windows().Wait(UntilThePageIsRated);
   photographer.Take(u"navigateur-depart");
   window.Do([&] {

@@ -118,25 +118,23 @@ void FormCand::SaveIfChanged() {
   if (SignatureCourante != SignatureEnregistree) Valider();
 }
 
-void FormCand::Action(std::size_t index) {
-  switch (index) {
-    case 0:
+void FormCand::RunAction(DetailAction action) {
+  switch (action) {
+    case DetailAction::New:
       ViderDetail();
       browser_.Navigate(BlankPage);
       break;
-    case 1:
+    case DetailAction::Delete:
       Supprimer();
       break;
-    case 2:  // no label bears it
+    case DetailAction::ShowApplyForm:
       shell_.Show(ApplyForm);
       break;
-    case 3:
+    case DetailAction::Save:
       Valider();
       break;
-    case 4:
+    case DetailAction::ShowBrowser:
       MontrerCadreWeb();
-      break;
-    default:
       break;
   }
   if (Num.empty()) SaisieRDV.Restart();

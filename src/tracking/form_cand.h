@@ -37,6 +37,9 @@ struct Refusal {
   Text message;
 };
 
+// Their values number the buttons.
+enum class DetailAction { New, Delete, ShowApplyForm, Save, ShowBrowser };
+
 class FormCand : public Candidature {
  public:
   FormCand(Principale& principale, const Clock& clock, Dialogs& dialogs, Shell& shell, Browser& browser);
@@ -113,10 +116,9 @@ class FormCand : public Candidature {
   // Every 3000 ms: saves a row that has a key and has changed. Nothing while a save is under way.
   void SaveIfChanged();
 
-  // The action labels by index: 0 "Nouvelle", 1 "Supprimer", 3 "Valider", 4 "Internet". Index 2, which
-  // no label bears, brings the apply form forward with its merged letter. A form without a row keeps no
-  // interview that is no date.
-  void Action(std::size_t index);
+  // The actions above the detail. No button runs ShowApplyForm, which brings the apply form forward with
+  // its merged letter.
+  void RunAction(DetailAction action);
   // Deletes the row of the detail on the handle that the detail holds. Once the list has been built
   // again that handle is closed and the delete fails like any failure of the engine.
   void Supprimer();

@@ -154,7 +154,7 @@ TEST_F(SendingWindowTest, AnAdvertisementOnTheWebIsAnsweredThereUnlessAnAddressI
   Click("Action0");
   Type("Intitule", QStringLiteral("Soudeur"));
   Type("www", QStringLiteral("about:blank#offre"));
-  desktop->Candidatures().Form().Action(2);
+  desktop->Candidatures().Form().RunAction(DetailAction::ShowApplyForm);
   EXPECT_TRUE(Letter().contains(QStringLiteral("Soudeur")));
   EXPECT_FALSE(InWindow(ApplyForm, "Messagerie1")->isEnabled());
   EXPECT_TRUE(InWindow<QRadioButton>(ApplyForm, "Messagerie0")->isChecked());

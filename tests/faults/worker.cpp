@@ -73,7 +73,7 @@ void Worker::SaveRow(const std::function<void()>& save, std::int32_t id) {
 }
 
 void Worker::NewRow() {
-  form_.Action(0);
+  form_.RunAction(DetailAction::New);
   form_.Intitule = u"Maçon";
   form_.Statut = ListeStatuts[static_cast<std::size_t>(Draw(static_cast<int>(ListeStatuts.size())))];
   form_.DateEnvoi = DateText(clock_.Today());

@@ -189,7 +189,7 @@ TEST_F(FormPostulerTest, TheThreeWaysInDifferInWhatTheyReplace) {
   formCand.Lettre = u"stored";
   formCand.CV = u"C.doc";
 
-  formCand.Action(2);
+  formCand.RunAction(DetailAction::ShowApplyForm);
   EXPECT_EQ(form.Texte, u"a.dat Acme");
   EXPECT_EQ(form.PJ, u"");
   EXPECT_TRUE(form.BoutonTLV1Visible);

@@ -172,7 +172,7 @@ TEST_F(ListTest, TheSearchPanelOpensTheStartPageOnce) {
   browser.location = u"about:blank";
   form.Rechercher(0);
   EXPECT_EQ(browser.location, u"about:blank") << "the pane is on show already";
-  form.Action(4);
+  form.RunAction(DetailAction::ShowBrowser);
   EXPECT_EQ(browser.location, StartPage) << "the action looks at the page only";
 }
 

@@ -14,7 +14,7 @@ using FormCandTest = TrackingTest;
 
 TEST_F(FormCandTest, ANewRowWithATitleAloneTakesTheDefaults) {
   form.Intitule = u"Maçon";
-  form.Action(3);
+  form.RunAction(DetailAction::Save);
   EXPECT_EQ(form.Num, u"1");
   const Candidature row = Read(1);
   EXPECT_EQ(row.DateDiffusion, u"01/03/2026");
@@ -128,7 +128,7 @@ TEST_F(FormCandTest, AnInterviewBecomesTheRowsOnceItIsADate) {
   field.Follow();
   EXPECT_EQ(field.Texte, u"01/12/2026") << "the row is another one";
   field.Texte = u"mardi";
-  form.Action(0);
+  form.RunAction(DetailAction::New);
   EXPECT_EQ(field.Texte, u"");
 }
 
@@ -261,11 +261,11 @@ TEST_F(FormCandTest, DeletingNeedsTheHandleThatALoadHasLeft) {
 
   form.ChargerCandidature(1);
   dialogs.answer = false;
-  form.Action(1);
+  form.RunAction(DetailAction::Delete);
   EXPECT_EQ(form.Intitule, u"Maçon");
   dialogs.answer = true;
   form.AdresseWeb = u"http://a.example/";
-  form.Action(1);
+  form.RunAction(DetailAction::Delete);
   EXPECT_EQ(Count(), 0);
   for (const auto& field : DetailFields) EXPECT_EQ(form.*(field.text), u"") << ToUtf8(field.name);
   EXPECT_EQ(form.TermFin + form.AdresseWeb, u"") << "the hidden controls go with the rest";
@@ -284,7 +284,7 @@ TEST_F(FormCandTest, NewEmptiesTheDetailAndTheBrowser) {
   browser.location = u"http://a.example/";
   form.Description = form.DescriptionConnue = u"texte";
   form.Lettre = u"lettre";
-  form.Action(0);
+  form.RunAction(DetailAction::New);
   EXPECT_EQ(form.Description + form.DescriptionConnue + form.Lettre, u"");
   EXPECT_EQ(browser.location, u"about:blank");
   EXPECT_EQ(form.TermFin, TermFinDelivered);

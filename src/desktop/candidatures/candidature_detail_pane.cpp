@@ -112,21 +112,21 @@ QWidget* CandidatureDetailPane::MakeActionBar() {
   auto* row = new QHBoxLayout(bar);
   row->setContentsMargins(10, 0, 10, 0);
   row->setSpacing(6);
-  const auto add = [&](const QString& libelle, std::size_t index) {
-    auto* action = new BoutonTLV(theme_, libelle, bar);
-    action->setObjectName(QStringLiteral("Action%1").arg(index));
-    action->setProperty("dense", true);
-    connect(action, &QPushButton::clicked, this, [this, index] {
-      if (OnAction) OnAction(index);
+  const auto add = [&](const QString& libelle, DetailAction action) {
+    auto* button = new BoutonTLV(theme_, libelle, bar);
+    button->setObjectName(QStringLiteral("Action%1").arg(static_cast<int>(action)));
+    button->setProperty("dense", true);
+    connect(button, &QPushButton::clicked, this, [this, action] {
+      if (OnAction) OnAction(action);
     });
-    row->addWidget(action);
-    return action;
+    row->addWidget(button);
+    return button;
   };
-  add(tr("&Nouvelle"), 0);
-  add(tr("&Valider"), 3);
-  add(tr("Su&pprimer"), 1);
+  add(tr("&Nouvelle"), DetailAction::New);
+  add(tr("&Valider"), DetailAction::Save);
+  add(tr("Su&pprimer"), DetailAction::Delete);
   row->addStretch(1);
-  internet_ = add(tr("&Internet"), 4);
+  internet_ = add(tr("&Internet"), DetailAction::ShowBrowser);
   internet_->setCheckable(true);
   TintIcon(theme_, *internet_, QStringLiteral("globe"), QStringLiteral("primary"));
   return bar;

@@ -7,6 +7,7 @@
 
 #include "desktop/widgets/bouton_tlv.h"
 #include "desktop/widgets/choice_field.h"
+#include "tracking/form_cand.h"
 
 class QFrame;
 class QGridLayout;
@@ -24,7 +25,7 @@ class CandidatureDetailPane : public QWidget {
  public:
   CandidatureDetailPane(const Theme& theme, QWidget* parent);
 
-  std::function<void(std::size_t)> OnAction;  // by the index of the action label
+  std::function<void(DetailAction)> OnAction;
   std::function<void()> OnAnalyser;
   std::function<void()> OnPostuler;
 

@@ -79,7 +79,7 @@ void FormCandWindow::ConnectList() {
 }
 
 void FormCandWindow::ConnectDetail() {
-  detail_->OnAction = [this](std::size_t index) { Do([&] { form_.Action(index); }); };
+  detail_->OnAction = [this](DetailAction action) { Do([&] { form_.RunAction(action); }); };
   detail_->OnAnalyser = [this] { Do([&] { capture_.Analyser(); }); };
   detail_->OnPostuler = [this] { Do([&] { form_.OpenApplyForm(); }); };
   ChoiceField& status = detail_->Statut();
