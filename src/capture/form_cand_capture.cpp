@@ -29,7 +29,7 @@ void FormCandCapture::CapturerTexte(Text texte) {
   form_.Valider();
 }
 
-void FormCandCapture::Timer1() {
+void FormCandCapture::WatchPaste() {
   constexpr std::size_t LeastPaste = 50;
   if (form_.Description == form_.DescriptionConnue ||
       form_.Description.size() <= form_.DescriptionConnue.size() + LeastPaste)

@@ -25,7 +25,7 @@ class FormCandCapture {
   void CapturerTexte(Text texte);
 
   // Every 500 ms: analyses a description that has grown by more than 50 characters, as by a paste.
-  void Timer1();
+  void WatchPaste();
 
  private:
   FormCand& form_;

@@ -18,44 +18,40 @@ FormCandWeb::FormCandWeb(FormCand& form, FormCandCapture& capture, const Surroun
 
 void FormCandWeb::Charger() { Sites.Charger(); }
 
-void FormCandWeb::Fermer() { closed_ = true; }
+void FormCandWeb::Close() { closed_ = true; }
 
 void FormCandWeb::Changed() const {
   if (OnChange) OnChange();
 }
 
-void FormCandWeb::EntrerAdresseWeb() { form_.FollowAddress(); }
+void FormCandWeb::FollowAddress() { form_.FollowAddress(); }
 
-void FormCandWeb::ClicAdresseWeb() { List1Visible = false; }
+void FormCandWeb::CloseSiteList() { SiteListVisible = false; }
 
-void FormCandWeb::ClicGo() { form_.FollowAddress(); }
+void FormCandWeb::GoForward() { browser_.GoForward(); }
 
-void FormCandWeb::ClicSuivant() { browser_.GoForward(); }
+void FormCandWeb::GoBack() { browser_.GoBack(); }
 
-void FormCandWeb::ClicPrecedent() { browser_.GoBack(); }
+void FormCandWeb::GoToStartPage() { form_.GoTo(principale_.AdresseWeb); }
 
-void FormCandWeb::ClicImage4() { form_.GoTo(principale_.AdresseWeb); }
+void FormCandWeb::OpenStrip() { MoveStrip(StripOpen); }
 
-void FormCandWeb::ClicImage5() { DeplacerFrameWeb(StripOpen); }
-
-void FormCandWeb::ClicImage6() {
-  List1Visible = !List1Visible;
+void FormCandWeb::ToggleSiteList() {
+  SiteListVisible = !SiteListVisible;
   shell_.Focus(CandidatureForm, u"AdresseWeb");
 }
 
-void FormCandWeb::ClicList1(std::size_t row) {
-  if (row < Sites.List1.size()) {
+void FormCandWeb::OpenSite(std::size_t row) {
+  if (row < Sites.Rows.size()) {
     // A row with a "/" and no "http" leaves the address that stands.
-    const Text address = SiteDirectory::AddressOf(Sites.List1[row]);
+    const Text address = SiteDirectory::AddressOf(Sites.Rows[row]);
     if (!address.empty()) form_.ShowAddress(address);
-    List1Visible = false;
+    SiteListVisible = false;
   }
   form_.FollowAddress();
 }
 
-void FormCandWeb::QuitterList1() { List1Visible = false; }
-
-void FormCandWeb::ClicWww() {
+void FormCandWeb::OpenAdvertisement() {
   form_.ShowWebPane();
   form_.GoTo(form_.www);
 }
@@ -67,7 +63,7 @@ void FormCandWeb::ConsulterOrigine() {
   form_.GoTo(TextView{form_.www}.substr(0, path));
 }
 
-void FormCandWeb::Arreter() {
+void FormCandWeb::StopLoading() {
   stopped_ = true;
   browser_.Stop();
 }
@@ -86,7 +82,7 @@ ApplyTexts FormCandWeb::Postuler() const {
   return shown && FormPostuler ? FormPostuler() : ApplyTexts{};
 }
 
-void FormCandWeb::ClicLabel2() {
+void FormCandWeb::PrefillForm() {
   const PrefillValues values = PrefillValuesOf(principale_, Postuler().Texte);
   // The list begins with the root of the page at 0; the walk begins behind it.
   const std::vector<PageElement> elements = browser_.Elements(PrefillElements + 1);

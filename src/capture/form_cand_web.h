@@ -41,13 +41,13 @@ class FormCandWeb {
 
   // -- State beside `AdresseWeb` and `WebPaneVisible` of the form.
   SiteDirectory Sites;
-  bool List1Visible = false;
-  int FrameWeb = StripClosed;  // the top of the strip
-  PageRating Evaluation;       // of the page loaded last
-  double Niveau = 1;           // the width of the gauge
-  Text Text1;                  // address out of the title of a window outside the program
-  Text DerniereFenetreHttp;    // the address last taken over
-  bool Label3Visible = false;
+  bool SiteListVisible = false;
+  int StripPlace = StripClosed;  // the top of the strip
+  PageRating Evaluation;         // of the page loaded last
+  double Niveau = 1;             // the width of the gauge
+  Text OutsideAddress;           // address out of the title of a window outside the program
+  Text DerniereFenetreHttp;      // the address last taken over
+  bool BringLinkVisible = false;
 
   // -- Ways out; one that is not set does nothing.
   std::function<void()> OnChange;            // the state has changed while an operation goes on
@@ -59,11 +59,11 @@ class FormCandWeb {
   // True while a page is captured or rated.
   [[nodiscard]] bool Busy() const { return capturing_ || rating_ || pageLoaded_; }
   // The form goes: operations that wait end there, and do nothing more.
-  void Fermer();
+  void Close();
 
   // -- Capture. A second one is not begun while the first is under way.
   // A new candidature out of the selected text, or out of the whole page without a selection.
-  void ClicCaptureSel();
+  void CaptureSelection();
   // A new candidature out of the whole page. On one job board the company's details are fetched from a
   // second page; that wait ends when the load does, is stopped, or another candidature is opened.
   void CapturerPage();
@@ -72,30 +72,28 @@ class FormCandWeb {
   // meanwhile is rated in its turn.
   void EvaluerPage();
   // Every 500 ms: the paste watch, and the watch for an address in the title of a window outside.
-  void Timer1();
+  void WatchPasteAndWindows();
   // Brings the page of the window outside into the pane.
-  void ClicLabel3();
+  void BringOutsidePage();
 
   // -- Prefill of the form on the page from the identity and the letter.
-  void ClicLabel2();
+  void PrefillForm();
 
   // -- Browsing.
-  void EntrerAdresseWeb();  // Enter in the address
-  void ClicAdresseWeb();
-  void ClicGo();
-  void ClicSuivant();
-  void ClicPrecedent();
-  void ClicImage4();  // the start page
-  void ClicImage5();  // opens the strip
-  void ClicImage6();  // the list of sites
+  void FollowAddress();
+  void GoForward();
+  void GoBack();
+  void GoToStartPage();
+  void OpenStrip();
+  void ToggleSiteList();
   // A row of the list of sites, from 0.
-  void ClicList1(std::size_t row);
-  void QuitterList1();
-  void ClicWww();
+  void OpenSite(std::size_t row);
+  void CloseSiteList();
+  void OpenAdvertisement();
   // The start page of the site that `www` leads to.
   void ConsulterOrigine();
   // The user ends the load under way.
-  void Arreter();
+  void StopLoading();
   // Rebuilds the file of sites from the page of sites, unless that page has no text. Fails when the file
   // cannot be written.
   [[nodiscard]] Result<> MajListeSites();
@@ -105,7 +103,7 @@ class FormCandWeb {
   void SuivreCoordonnees(const Text& markup);
   void SignalerCandidature();
   void EvaluerUnePage();
-  void DeplacerFrameWeb(int top);
+  void MoveStrip(int top);
   void PreremplirFormulaireConnu();
   [[nodiscard]] ApplyTexts Postuler() const;
   // Lets events run until the page is complete. False when the wait was ended before that.

@@ -35,7 +35,7 @@ Text CompanyAddress(TextView markup, TextView address) {
 
 }  // namespace
 
-void FormCandWeb::ClicCaptureSel() {
+void FormCandWeb::CaptureSelection() {
   if (capturing_) return;
   const Raised capturing(capturing_);
   clipboard_.Clear();
@@ -132,42 +132,42 @@ void FormCandWeb::EvaluerUnePage() {
   if (closed_) return;
   // A gauge that empties does so before the strip closes; one that fills waits for the strip to open.
   if (!Evaluation.stripOpens) Niveau = Evaluation.Niveau;
-  DeplacerFrameWeb(StripTop(Evaluation));
+  MoveStrip(StripTop(Evaluation));
   if (closed_) return;
   Niveau = Evaluation.Niveau;
   Changed();
   PreremplirFormulaireConnu();
 }
 
-void FormCandWeb::DeplacerFrameWeb(int top) {
+void FormCandWeb::MoveStrip(int top) {
   constexpr int Step = 15;
   constexpr int StepMilliseconds = 20;
   const int step = top == StripOpen ? Step : -Step;
-  while (!closed_ && (step > 0 ? FrameWeb < top : FrameWeb > top)) {
-    FrameWeb += step;
+  while (!closed_ && (step > 0 ? StripPlace < top : StripPlace > top)) {
+    StripPlace += step;
     Changed();
     shell_.Wait(StepMilliseconds);
   }
   if (closed_) return;
-  FrameWeb = top;
+  StripPlace = top;
   Changed();
 }
 
-void FormCandWeb::Timer1() {
-  capture_.Timer1();
+void FormCandWeb::WatchPasteAndWindows() {
+  capture_.WatchPaste();
   if (!form_.WebPaneVisible) return;
   const Text title = FenetreHttp(documents_);
-  if (const auto blank = title.find(u' '); blank != Text::npos) Text1 = title.substr(0, blank);
+  if (const auto blank = title.find(u' '); blank != Text::npos) OutsideAddress = title.substr(0, blank);
   // An address that has been taken over does not hide the link again.
-  if (Text1.empty())
-    Label3Visible = false;
-  else if (Text1 != DerniereFenetreHttp)
-    Label3Visible = true;
+  if (OutsideAddress.empty())
+    BringLinkVisible = false;
+  else if (OutsideAddress != DerniereFenetreHttp)
+    BringLinkVisible = true;
 }
 
-void FormCandWeb::ClicLabel3() {
-  form_.GoTo(Text1);
-  DerniereFenetreHttp = Text1;
+void FormCandWeb::BringOutsidePage() {
+  form_.GoTo(OutsideAddress);
+  DerniereFenetreHttp = OutsideAddress;
 }
 
 }  // namespace talvor

@@ -34,11 +34,11 @@ Result<> WriteRows(const std::vector<Text>& rows) {
 }  // namespace
 
 void SiteDirectory::Charger() {
-  List1 = DeliveredRows();
+  Rows = DeliveredRows();
   std::error_code error;
-  if (!std::filesystem::exists(FileName, error) && WriteRows(List1).Failed()) return;
+  if (!std::filesystem::exists(FileName, error) && WriteRows(Rows).Failed()) return;
   const auto lines = ReadLines(FileName);
-  if (lines) List1 = RowsOf(*lines);
+  if (lines) Rows = RowsOf(*lines);
 }
 
 std::vector<Text> SiteDirectory::RowsOf(const std::vector<Text>& lines) {

@@ -10,7 +10,7 @@ namespace talvor {
 class SiteDirectory {
  public:
   // A site's name, blanks, and its address, which begins with "http".
-  std::vector<Text> List1;
+  std::vector<Text> Rows;
 
   // Writes the delivered rows when the file is missing, then reads it. An empty file gives an empty
   // list; one that cannot be written or read leaves the delivered rows.

@@ -31,7 +31,7 @@ Text Escaped(TextView text) {
 Text StartPageHtml(const SiteDirectory& directory, PagePalette palette) {
   Text page{Head};
   page.append(palette == PagePalette::Dark ? u"<body class='dark'>" : u"<body>").append(Advice);
-  for (const Text& row : directory.List1) {
+  for (const Text& row : directory.Rows) {
     const Text address = SiteDirectory::AddressOf(row);
     if (address.empty()) continue;
     page.append(u"<li><a href='").append(Escaped(address)).append(u"'>");

@@ -163,14 +163,14 @@ void PhotographBrowser(Desktop& desktop, Photographer photographer) {
   photographer.Take(u"navigateur-depart");
   window.Do([&] {
     desktop.Candidatures().Form().ShowAddress(SamplePage);
-    web.ClicGo();
+    web.FollowAddress();
   });
   desktop.Windows().Wait(UntilThePageIsRated);
-  window.Do([&] { web.Label3Visible = true; });
+  window.Do([&] { web.BringLinkVisible = true; });
   photographer.Take(u"navigateur");
-  window.Do([&] { web.ClicImage6(); });
+  window.Do([&] { web.ToggleSiteList(); });
   photographer.Take(u"navigateur-sites", window.findChild<QWidget*>(QStringLiteral("List1")));
-  window.Do([&] { web.QuitterList1(); });
+  window.Do([&] { web.CloseSiteList(); });
   window.Do([&] { desktop.Candidatures().Pages().Navigate(u"file:///"); });
   photographer.Take(u"navigateur-avis");
 }

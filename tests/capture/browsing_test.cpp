@@ -65,33 +65,33 @@ TEST(SiteDirectory, TheDeliveredRowsComeBackWithTheFileDeleted) {
   const ScratchFolder scratch;
   SiteDirectory directory;
   directory.Charger();
-  ASSERT_EQ(directory.List1.size(), 195u);
+  ASSERT_EQ(directory.Rows.size(), 195u);
   std::set<Text> animation;
-  for (const Text& row : directory.List1) {
+  for (const Text& row : directory.Rows) {
     EXPECT_TRUE(SiteDirectory::AddressOf(row).starts_with(u"https://")) << ToUtf8(row);
     if (SiteDirectory::NameOf(row) == u"EMPLOI-ANIMATION") animation.insert(SiteDirectory::AddressOf(row));
   }
   EXPECT_EQ(animation.size(), 2u);
-  EXPECT_EQ(SiteDirectory::NameOf(directory.List1.back()), u"YAKE OFREMPLOI");
+  EXPECT_EQ(SiteDirectory::NameOf(directory.Rows.back()), u"YAKE OFREMPLOI");
 
   std::ofstream{"Listesites.txt", std::ios::binary}
       << "UN DEUX   http://a.example/?u=http://b.example/\r\nsans adresse\r\n\r\n";
   directory.Charger();
-  ASSERT_EQ(directory.List1.size(), 1u) << "the file replaces the rows";
-  EXPECT_EQ(SiteDirectory::AddressOf(directory.List1[0]), u"http://a.example/?u=http://b.example/");
-  EXPECT_EQ(SiteDirectory::NameOf(directory.List1[0]), u"UN DEUX");
+  ASSERT_EQ(directory.Rows.size(), 1u) << "the file replaces the rows";
+  EXPECT_EQ(SiteDirectory::AddressOf(directory.Rows[0]), u"http://a.example/?u=http://b.example/");
+  EXPECT_EQ(SiteDirectory::NameOf(directory.Rows[0]), u"UN DEUX");
   std::ofstream{"Listesites.txt"} << "";
   directory.Charger();
-  EXPECT_TRUE(directory.List1.empty()) << "an empty file is kept";
+  EXPECT_TRUE(directory.Rows.empty()) << "an empty file is kept";
   std::filesystem::remove("Listesites.txt");
   directory.Charger();
-  EXPECT_EQ(directory.List1.size(), 195u);
+  EXPECT_EQ(directory.Rows.size(), 195u);
 }
 
 TEST(StartPage, LinksEverySiteAndLetsNoRowBreakItsMarkup) {
   SiteDirectory directory;
-  directory.List1 = {u"ACME & FILS   http://a.example/?x=1&y='2'", u"<script>   http://b.example/",
-                     u"sans/adresse"};
+  directory.Rows = {u"ACME & FILS   http://a.example/?x=1&y='2'", u"<script>   http://b.example/",
+                    u"sans/adresse"};
   const Text page = StartPageHtml(directory, PagePalette::Light);
   EXPECT_TRUE(Contains(page, u"<a href='http://a.example/?x=1&amp;y=&#39;2&#39;'>ACME &amp; FILS</a>"));
   EXPECT_TRUE(Contains(page, u"<a href='http://b.example/'>&lt;script&gt;</a>"));
@@ -106,8 +106,8 @@ TEST(SiteDirectory, APageOfSitesBecomesTheFile) {
   EXPECT_EQ(ReadBytes("Listesites.txt"), "UN   \thttp://a.example/\r\nDEUX   \tMOTS   \thttp://b.example/");
   SiteDirectory directory;
   directory.Charger();
-  ASSERT_EQ(directory.List1.size(), 2u);
-  EXPECT_EQ(SiteDirectory::AddressOf(directory.List1[1]), u"http://b.example/");
+  ASSERT_EQ(directory.Rows.size(), 2u);
+  EXPECT_EQ(SiteDirectory::AddressOf(directory.Rows[1]), u"http://b.example/");
 }
 
 TEST(SiteDirectory, TheDeliveredFileOpensWithTheBoardsOfToday) {

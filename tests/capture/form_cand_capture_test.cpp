@@ -63,15 +63,15 @@ TEST_F(CaptureTest, TheAnalysisUsesTheEndMarkersOfTheForm) {
 
 TEST_F(CaptureTest, ThePasteWatchSeesMoreThanFiftyCharacters) {
   form.Description = u"Vendeur\r\n" + Text(41, u'x');
-  capture.Timer1();
+  capture.WatchPaste();
   EXPECT_EQ(form.Intitule, u"") << "fifty characters are typing";
   form.Description += u"\r\n";
-  capture.Timer1();
+  capture.WatchPaste();
   EXPECT_EQ(form.Intitule, u"Vendeur");
   EXPECT_EQ(form.DescriptionConnue, form.Description);
   EXPECT_EQ(form.Statut, u"") << "the defaults wait for the save";
   form.Intitule.clear();
-  capture.Timer1();
+  capture.WatchPaste();
   EXPECT_EQ(form.Intitule, u"") << "the description is known";
 }
 

@@ -20,32 +20,32 @@ TEST_F(WebTest, WithoutASelectionTheWholePageBecomesANewRow) {
   form.Lettre = u"d'une autre";
   clipboard.text = u"copied earlier";
   Show(Board, {.text = u"Caissier de nuitSociété : Acme\r\n" + AdvertisementPage});
-  web.ClicCaptureSel();
+  web.CaptureSelection();
   EXPECT_EQ(form.Num, u"1");
   EXPECT_EQ(Read(1).Lettre, u"");
   EXPECT_EQ(form.www, Board);
   EXPECT_TRUE(form.Description.starts_with(u"Caissier de nuit Société")) << "glued words are parted";
   EXPECT_EQ(form.DescriptionConnue, form.Description);
   EXPECT_EQ(signalled, std::vector<Text>{u"s1"});
-  web.ClicCaptureSel();
+  web.CaptureSelection();
   EXPECT_EQ(Count(), 2) << "a capture never writes over the row on show";
 }
 
 TEST_F(WebTest, ASelectionIsCapturedInsteadOfThePage) {
   Show(Board, {.text = u"Boucher\r\nSociété : Autre\r\n"});
   browser.onCopy = [this] { clipboard.text = AdvertisementPage; };
-  web.ClicCaptureSel();
+  web.CaptureSelection();
   EXPECT_EQ(Read(1).Societe, u"ACME");
   EXPECT_EQ(form.DescriptionConnue, u"") << "only a page makes the description known";
   browser.onCopy = [this] { clipboard.text = u"Société : Sans Titre\r\nx"; };
-  web.ClicCaptureSel();
+  web.CaptureSelection();
   EXPECT_EQ(dialogs.told, std::vector<Text>{Text{messages::NotIdentified}});
   EXPECT_EQ(form.Societe, u"SANS TITRE ") << "the detail keeps what was found";
   EXPECT_EQ(Count(), 1);
 }
 
 TEST_F(WebTest, APageWithoutATitleIsToldAndNotSaved) {
-  web.ClicCaptureSel();
+  web.CaptureSelection();
   ASSERT_EQ(dialogs.told.size(), 1u);
   EXPECT_TRUE(dialogs.told[0].starts_with(u"Talvor a des difficultés pour identifier l'annonce"));
   EXPECT_TRUE(signalled.empty());
@@ -55,15 +55,15 @@ TEST_F(WebTest, APageWithoutATitleIsToldAndNotSaved) {
 TEST_F(WebTest, ABaseThatRefusesLosesNothingOfTheCapture) {
   std::filesystem::remove(workspace_paths::Database());
   Show(Board, {.text = AdvertisementPage});
-  web.ClicCaptureSel();
+  web.CaptureSelection();
   EXPECT_EQ(form.Intitule, u"Caissier De Nuit");
   EXPECT_EQ(form.Num, u"");
 }
 
 TEST_F(WebTest, ASecondClickDuringACaptureDoesNothing) {
   Show(Board, {.text = AdvertisementPage});
-  browser.whileReading = [this] { web.ClicCaptureSel(); };
-  web.ClicCaptureSel();
+  browser.whileReading = [this] { web.CaptureSelection(); };
+  web.CaptureSelection();
   EXPECT_EQ(Count(), 1);
 }
 
@@ -82,7 +82,7 @@ class SiteRule : public WebTest {
 };
 
 TEST_F(SiteRule, TheDetailsOfTheCompanyAreFetchedFromItsPage) {
-  web.ClicCaptureSel();
+  web.CaptureSelection();
   EXPECT_EQ(browser.visited, std::vector<Text>{Text{Company}});
   EXPECT_EQ(shell.waited, 3 * 50 + 100);
   EXPECT_EQ(browser.calls, std::vector<Text>{u"GoBack"});
@@ -96,13 +96,13 @@ TEST_F(SiteRule, TheDetailsOfTheCompanyAreFetchedFromItsPage) {
 
 TEST_F(SiteRule, StandsOnTheBoardTheMissingPostcodeAndTheMark) {
   form.AdresseWeb = u"https://cadres.example.fr/offres/12";
-  web.ClicCaptureSel();
+  web.CaptureSelection();
   form.AdresseWeb = Ad;
   browser.pages[Text{Ad}].text += u"12 rue Haute\r\n69002 Lyon\r\n";
-  web.ClicCaptureSel();
+  web.CaptureSelection();
   EXPECT_EQ(Read(2).CP, u"69002");
   browser.pages[Text{Ad}] = {.text = AdvertisementPage, .markup = u"<p>rien</p>"};
-  web.ClicCaptureSel();
+  web.CaptureSelection();
   EXPECT_TRUE(browser.visited.empty());
   EXPECT_EQ(signalled.size(), 3u);
 }
@@ -110,9 +110,9 @@ TEST_F(SiteRule, StandsOnTheBoardTheMissingPostcodeAndTheMark) {
 TEST_F(SiteRule, APageThatNeverAnswersIsLeftByStopByCloseAndByAnotherRow) {
   browser.pages[Text{Company}].loading = -1;
   shell.whileWaiting = [this] {
-    if (shell.waited >= 5000) web.Arreter();
+    if (shell.waited >= 5000) web.StopLoading();
   };
-  web.ClicCaptureSel();
+  web.CaptureSelection();
   EXPECT_EQ(browser.calls, std::vector<Text>{u"Stop"}) << "stopped, and not gone back from the advertisement";
   EXPECT_FALSE(Contains(Read(1).Description, u"12 rue Haute"));
   EXPECT_EQ(signalled.size(), 1u);
@@ -121,15 +121,15 @@ TEST_F(SiteRule, APageThatNeverAnswersIsLeftByStopByCloseAndByAnotherRow) {
   browser.pages[Text{Company}].loading = 1;
   browser.loading = 0;
   shell.whileWaiting = [this] { form.ChargerCandidature(1); };
-  web.ClicCaptureSel();
+  web.CaptureSelection();
   EXPECT_FALSE(Contains(Read(1).Description, u"12 rue Haute")) << "the row opened meanwhile is another one";
 
   browser.location = Ad;
   browser.pages[Text{Company}].loading = -1;
   browser.loading = 0;
-  shell.whileWaiting = [this] { web.Fermer(); };
+  shell.whileWaiting = [this] { web.Close(); };
   signalled.clear();
-  web.ClicCaptureSel();
+  web.CaptureSelection();
   EXPECT_TRUE(signalled.empty());
   EXPECT_EQ(Count(), 3) << "the candidatures themselves stand";
 }
@@ -146,7 +146,7 @@ TEST_F(WebTest, ALoadedPageOpensTheStripStepByStepAndShowsItsAddress) {
   form.AdresseWeb = u"typed";
   web.EvaluerPage();
   EXPECT_EQ(form.AdresseWeb, Board);
-  EXPECT_EQ(web.FrameWeb, 660);
+  EXPECT_EQ(web.StripPlace, 660);
   EXPECT_DOUBLE_EQ(web.Niveau, 700);
   EXPECT_EQ(shell.waited, 500 + 22 * 20);
   EXPECT_TRUE(std::is_sorted(tops.begin(), tops.end()));
@@ -154,10 +154,10 @@ TEST_F(WebTest, ALoadedPageOpensTheStripStepByStepAndShowsItsAddress) {
 
   Show(u"http://board.example/liste", TermsPage(4));
   web.EvaluerPage();
-  EXPECT_EQ(web.FrameWeb, 330);
+  EXPECT_EQ(web.StripPlace, 330);
   EXPECT_DOUBLE_EQ(web.Niveau, 1);
-  web.ClicImage5();
-  EXPECT_EQ(web.FrameWeb, 660) << "the strip opens by hand";
+  web.OpenStrip();
+  EXPECT_EQ(web.StripPlace, 660) << "the strip opens by hand";
 }
 
 TEST_F(WebTest, APageLoadedDuringARatingIsRatedBehindIt) {
@@ -176,31 +176,31 @@ TEST_F(WebTest, APageLoadedDuringARatingIsRatedBehindIt) {
   web.EvaluerPage();
   EXPECT_EQ(form.AdresseWeb, u"http://board.example/2");
   EXPECT_DOUBLE_EQ(web.Niveau, 1);
-  shell.whileWaiting = [this] { web.Fermer(); };
+  shell.whileWaiting = [this] { web.Close(); };
   Show(Board, TermsPage(12));
   web.EvaluerPage();
-  EXPECT_EQ(web.FrameWeb, 330) << "a form that is gone moves no more";
+  EXPECT_EQ(web.StripPlace, 330) << "a form that is gone moves no more";
 }
 
 TEST_F(WebTest, AWindowOutsideIsOfferedAndBroughtIn) {
   documents.titles = {u"Courrier", u"http://outside.example/a - Navigateur", u"http://later.example/ x"};
   form.WebPaneVisible = false;
-  web.Timer1();
-  EXPECT_FALSE(web.Label3Visible) << "watched with the pane only";
+  web.WatchPasteAndWindows();
+  EXPECT_FALSE(web.BringLinkVisible) << "watched with the pane only";
   form.WebPaneVisible = true;
-  web.Timer1();
-  EXPECT_TRUE(web.Label3Visible);
-  web.ClicLabel3();
+  web.WatchPasteAndWindows();
+  EXPECT_TRUE(web.BringLinkVisible);
+  web.BringOutsidePage();
   EXPECT_EQ(form.AdresseWeb, u"http://outside.example/a");
   EXPECT_EQ(browser.location, u"http://outside.example/a");
-  web.Timer1();
-  EXPECT_TRUE(web.Label3Visible) << "nothing hides it but an empty address";
+  web.WatchPasteAndWindows();
+  EXPECT_TRUE(web.BringLinkVisible) << "nothing hides it but an empty address";
   documents.titles = {u"http://sansblanc.example/"};
-  web.Timer1();
-  EXPECT_EQ(web.Text1, u"http://outside.example/a") << "a title without a blank gives none";
+  web.WatchPasteAndWindows();
+  EXPECT_EQ(web.OutsideAddress, u"http://outside.example/a") << "a title without a blank gives none";
   documents.titles = {u" http"};
-  web.Timer1();
-  EXPECT_FALSE(web.Label3Visible);
+  web.WatchPasteAndWindows();
+  EXPECT_FALSE(web.BringLinkVisible);
 }
 
 TEST_F(WebTest, ThePrefillTakesTheElementsOneToAThousand) {
@@ -214,7 +214,7 @@ TEST_F(WebTest, ThePrefillTakesTheElementsOneToAThousand) {
   page.elements[4] = {u"rien", u"email"};
   Show(Board, page);
   web.FormPostuler = [] { return ApplyTexts{u"moi@a.example", u"Madame"}; };
-  web.ClicLabel2();
+  web.PrefillForm();
   const auto filled = [this] {
     std::string text;
     for (const auto& order : browser.set) text += std::to_string(order.index) + ToUtf8(order.value) + ";";
@@ -222,10 +222,10 @@ TEST_F(WebTest, ThePrefillTakesTheElementsOneToAThousand) {
   };
   EXPECT_EQ(filled(), "1Durand;3;1000Durand;") << "without the apply form the letter is emptied";
   shell.visible.insert(u"FormPostuler");
-  web.ClicLabel2();
+  web.PrefillForm();
   EXPECT_EQ(filled(), "1Durand;3Madame;1000Durand;");
   principale.Nom.clear();
-  web.ClicLabel2();
+  web.PrefillForm();
   EXPECT_EQ(filled(), "1;3Madame;1000;") << "without a CV the fields are emptied";
 }
 
@@ -244,22 +244,22 @@ TEST_F(WebTest, TheDirectoryLeadsThePane) {
   ASSERT_FALSE(
       WriteBytes("Listesites.txt", "UN DEUX   http://a.example/?u=http://b/\r\nsans/http\r\n").Failed());
   web.Charger();
-  web.ClicImage6();
-  EXPECT_TRUE(web.List1Visible);
+  web.ToggleSiteList();
+  EXPECT_TRUE(web.SiteListVisible);
   EXPECT_EQ(shell.focus, u"FormCand.AdresseWeb");
-  web.ClicList1(0);
-  EXPECT_FALSE(web.List1Visible);
+  web.OpenSite(0);
+  EXPECT_FALSE(web.SiteListVisible);
   EXPECT_EQ(browser.location, u"http://a.example/?u=http://b/");
   EXPECT_EQ(form.AdresseWeb, browser.location);
-  web.ClicImage6();
-  web.ClicList1(7);
-  EXPECT_TRUE(web.List1Visible) << "no such row";
+  web.ToggleSiteList();
+  web.OpenSite(7);
+  EXPECT_TRUE(web.SiteListVisible) << "no such row";
   form.www = u"http://www.example/";
   form.WebPaneVisible = false;
-  web.ClicWww();
+  web.OpenAdvertisement();
   EXPECT_TRUE(form.WebPaneVisible);
   EXPECT_EQ(browser.location, u"http://www.example/");
-  web.ClicImage4();
+  web.GoToStartPage();
   EXPECT_EQ(browser.location, principale.AdresseWeb);
 }
 
@@ -269,7 +269,7 @@ TEST_F(WebTest, TheFileOfSitesIsRebuiltFromItsPage) {
   EXPECT_FALSE(web.MajListeSites().Failed());
   EXPECT_EQ(ReadBytes("Listesites.txt"), "UN   \thttp://a.example/\r\nDEUX   \thttp://b.example/");
   browser.pages[page] = {.text = u"", .loading = -1};
-  shell.whileWaiting = [this] { web.Arreter(); };
+  shell.whileWaiting = [this] { web.StopLoading(); };
   EXPECT_FALSE(web.MajListeSites().Failed());
   EXPECT_NE(ReadBytes("Listesites.txt"), "") << "a page that never came replaces nothing";
   browser.pages[page].loading = 1;

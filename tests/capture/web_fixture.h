@@ -18,7 +18,7 @@ class WebTest : public TrackingTest {
   WebTest() {
     form.WebPaneVisible = true;
     web.OnSignal = [this](TextView key) { signalled.emplace_back(key); };
-    web.OnChange = [this] { tops.push_back(web.FrameWeb); };
+    web.OnChange = [this] { tops.push_back(web.StripPlace); };
   }
 
   // The browser stands on a page.

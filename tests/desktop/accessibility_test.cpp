@@ -220,7 +220,7 @@ TEST_F(AccessibilityTest, TheCandidaturesWithAndWithoutTheBrowser) {
   desktop->Model().AdresseWeb = u"data:text/html,<p>offre de contrat, lieu et salaire du poste</p>";
   Click("Action4");
   ASSERT_TRUE(PageStands());
-  desktop->Candidatures().Web().Label3Visible = true;
+  desktop->Candidatures().Web().BringLinkVisible = true;
   Window().Refresh();
   Walk(Main(), "with the browser");
   Window().Do([&] { desktop->Candidatures().Pages().Navigate(u"file:///"); });

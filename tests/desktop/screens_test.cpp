@@ -292,7 +292,7 @@ TEST_P(ScreensTest, TheCandidaturesWithAndWithoutTheBrowser) {
   desktop->Model().AdresseWeb = u"data:text/html,<p>offre de contrat, lieu et salaire du poste</p>";
   Click("Action4");
   ASSERT_TRUE(PageStands());
-  desktop->Candidatures().Web().Label3Visible = true;
+  desktop->Candidatures().Web().BringLinkVisible = true;
   Window().Refresh();
   VisitMain("with the browser");
   Window().Do([&] { desktop->Candidatures().Pages().Navigate(u"file:///"); });

@@ -216,7 +216,7 @@ TEST_F(BrowserTest, AHostilePageReachesNothingAndLeavesTheProgramUsable) {
   Inside(QStringLiteral("document.getElementById('fichier').click()"));
   FillFrom(*desktop, Pane());
   EXPECT_EQ(Value(QStringLiteral("[name=nom]")), QString()) << "beyond the thousandth element";
-  EXPECT_FALSE(Web().Label3Visible) << "the title of the page is no window outside";
+  EXPECT_FALSE(Web().BringLinkVisible) << "the title of the page is no window outside";
   EXPECT_EQ(Pages().View()->url().scheme(), QStringLiteral("http"));
   Browse(QStringLiteral("file:///etc/passwd"));
   EXPECT_TRUE(InPane("AvisPage")->isVisible());
@@ -397,7 +397,7 @@ TEST_F(BrowserTest, TheListOfSitesServesTheKeyboardAndTheMouse) {
   ASSERT_TRUE(rows->isVisible());
   QTest::keyClick(rows, Qt::Key_Escape);
   EXPECT_FALSE(rows->isVisible());
-  EXPECT_FALSE(Web().List1Visible);
+  EXPECT_FALSE(Web().SiteListVisible);
   QTest::keyClick(&desktop->Main(), Qt::Key_F4);
   ASSERT_TRUE(rows->isVisible());
   EXPECT_LE(rows->mapToGlobal(QPoint(rows->width(), 0)).x(),
@@ -415,10 +415,10 @@ TEST_F(BrowserTest, TheDirectoryIsRebuiltFromTheDeliveredPage) {
   EXPECT_FALSE(Web().MajListeSites().Failed());
   SiteDirectory rebuilt;
   rebuilt.Charger();
-  EXPECT_GE(rebuilt.List1.size(), 195u + 20u);
-  EXPECT_EQ(SiteDirectory::NameOf(rebuilt.List1.front()), u"FRANCE\u00A0TRAVAIL");
-  EXPECT_EQ(SiteDirectory::AddressOf(rebuilt.List1.front()), u"https://www.francetravail.fr/");
-  for (const Text& row : rebuilt.List1)
+  EXPECT_GE(rebuilt.Rows.size(), 195u + 20u);
+  EXPECT_EQ(SiteDirectory::NameOf(rebuilt.Rows.front()), u"FRANCE\u00A0TRAVAIL");
+  EXPECT_EQ(SiteDirectory::AddressOf(rebuilt.Rows.front()), u"https://www.francetravail.fr/");
+  for (const Text& row : rebuilt.Rows)
     EXPECT_TRUE(SiteDirectory::AddressOf(row).starts_with(u"https://")) << ToUtf8(row);
 }
 

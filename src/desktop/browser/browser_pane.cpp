@@ -187,10 +187,10 @@ QWebEngineView* BrowserPane::MakeView() {
 }
 
 void BrowserPane::Show(const FormCandWeb& web) {
-  if (bring_->isHidden() == web.Label3Visible) bring_->setVisible(web.Label3Visible);
-  ShowStrip(web.FrameWeb);
+  if (bring_->isHidden() == web.BringLinkVisible) bring_->setVisible(web.BringLinkVisible);
+  ShowStrip(web.StripPlace);
   ShowGauge(web.Niveau);
-  ShowSites(web.List1Visible);
+  ShowSites(web.SiteListVisible);
 }
 
 // Between its two places the strip shows the part that its top has uncovered.

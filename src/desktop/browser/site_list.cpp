@@ -79,7 +79,7 @@ SiteList::SiteList(const Theme& theme, QWidget* parent) : QFrame(parent, Qt::Pop
 
 void SiteList::Fill(const SiteDirectory& directory) {
   rows_->clear();
-  for (const Text& row : directory.List1) {
+  for (const Text& row : directory.Rows) {
     const QString address = ToQt(SiteDirectory::AddressOf(row));
     auto* item = new QListWidgetItem(ToQt(SiteDirectory::NameOf(row)), rows_);
     item->setData(AddressRole, address);

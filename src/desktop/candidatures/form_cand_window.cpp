@@ -98,24 +98,24 @@ void FormCandWindow::ConnectWeb() {
   const auto doing = [this](void (FormCandWeb::*action)()) {
     return [this, action] { Do([&] { (webModel_.*action)(); }); };
   };
-  web_->on = {.enter = [this] { Later([this] { webModel_.EntrerAdresseWeb(); }); },
-              .address = doing(&FormCandWeb::ClicAdresseWeb),
-              .go = doing(&FormCandWeb::ClicGo),
-              .stop = doing(&FormCandWeb::Arreter),
-              .back = doing(&FormCandWeb::ClicPrecedent),
-              .forward = doing(&FormCandWeb::ClicSuivant),
-              .start = doing(&FormCandWeb::ClicImage4),
-              .strip = doing(&FormCandWeb::ClicImage5),
-              .sites = doing(&FormCandWeb::ClicImage6),
-              .leaveSites = doing(&FormCandWeb::QuitterList1),
-              .capture = doing(&FormCandWeb::ClicCaptureSel),
-              .prefill = doing(&FormCandWeb::ClicLabel2),
-              .bring = doing(&FormCandWeb::ClicLabel3),
+  web_->on = {.enter = [this] { Later([this] { webModel_.FollowAddress(); }); },
+              .address = doing(&FormCandWeb::CloseSiteList),
+              .go = doing(&FormCandWeb::FollowAddress),
+              .stop = doing(&FormCandWeb::StopLoading),
+              .back = doing(&FormCandWeb::GoBack),
+              .forward = doing(&FormCandWeb::GoForward),
+              .start = doing(&FormCandWeb::GoToStartPage),
+              .strip = doing(&FormCandWeb::OpenStrip),
+              .sites = doing(&FormCandWeb::ToggleSiteList),
+              .leaveSites = doing(&FormCandWeb::CloseSiteList),
+              .capture = doing(&FormCandWeb::CaptureSelection),
+              .prefill = doing(&FormCandWeb::PrefillForm),
+              .bring = doing(&FormCandWeb::BringOutsidePage),
               .reload = [this] { browser_.Reload(); },
               .save = [this] { Later([this] { browser_.TakeOffer(); }); },
               .dismiss = [this] { browser_.DismissOffer(); },
               .clear = [this] { Later([this] { browser_.AskToClearStore(); }); },
-              .site = [this](std::size_t row) { Later([this, row] { webModel_.ClicList1(row); }); }};
+              .site = [this](std::size_t row) { Later([this, row] { webModel_.OpenSite(row); }); }};
   webModel_.OnChange = [this] { Refresh(); };
   webModel_.OnSignal = [this](TextView key) {
     Refresh();
@@ -129,7 +129,7 @@ void FormCandWindow::ConnectWeb() {
 
 // The window goes: the model may still be in a wait, from which it comes back to no window.
 FormCandWindow::~FormCandWindow() {
-  webModel_.Fermer();
+  webModel_.Close();
   webModel_.OnChange = {};
   webModel_.OnSignal = {};
   browser_.makeView = {};
@@ -140,7 +140,7 @@ FormCandWindow::~FormCandWindow() {
 
 bool FormCandWindow::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::MouseButtonRelease && watched == &detail_->Link())
-    Later([this] { webModel_.ClicWww(); });
+    Later([this] { webModel_.OpenAdvertisement(); });
   return QWidget::eventFilter(watched, event);
 }
 
@@ -164,7 +164,7 @@ void FormCandWindow::Later(const std::function<void()>& action) {
 }
 
 void FormCandWindow::Tick500() {
-  Do([&] { webModel_.Timer1(); });
+  Do([&] { webModel_.WatchPasteAndWindows(); });
 }
 
 void FormCandWindow::Tick3000() {

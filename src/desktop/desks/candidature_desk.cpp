@@ -76,7 +76,7 @@ void CandidatureDesk::OfferWays() {
   ways.formCand = [this]() -> FormCand& { return models_->form; };
   ways.candidatureTexts = [this] {
     CandidatureTexts texts = TextsOf(models_->form);
-    texts.Text1 = models_->web.Text1;
+    texts.Text1 = models_->web.OutsideAddress;
     return texts;
   };
   ways.showWebPane = [this] { InWindow([this] { models_->form.ShowWebPane(); }); };
@@ -101,7 +101,7 @@ void CandidatureDesk::ConnectMenus() {
     return window_ ? window_->Detail().Description().height() * TwipsPerPixel : 0;
   };
   ways.montrerCadreWeb = inWindow([](Models& models) { models.form.ShowWebPane(); });
-  ways.naviguerAccueil = inWindow([](Models& models) { models.web.ClicImage4(); });
+  ways.naviguerAccueil = inWindow([](Models& models) { models.web.GoToStartPage(); });
   ways.imprimerListe = [this] { around_.ways.printReport(ReportMode::Liste); };
   ways.justificatif = [this] { around_.ways.printReport(ReportMode::Justificatif); };
   ways.toutSupprimer = [this] {
@@ -109,7 +109,7 @@ void CandidatureDesk::ConnectMenus() {
     models_->form.MenuSupprimer();
     if (window_) window_->Refresh();
   };
-  ways.consulterInternet = inWindow([](Models& models) { models.web.ClicWww(); });
+  ways.consulterInternet = inWindow([](Models& models) { models.web.OpenAdvertisement(); });
   ways.consulterOrigine = inWindow([](Models& models) { models.web.ConsulterOrigine(); });
   ways.postuler = [this] { around_.ways.applyFromMenu(); };
   ways.supprimerCand = inWindow([](Models& models) { models.form.MenuSupprimerCand(); });
