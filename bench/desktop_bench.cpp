@@ -121,7 +121,7 @@ void MeasureCvPage(Desktop& desktop) {
     career += u"Depuis " + NumberText(year) +
               u" : Chargée de communication\r\n- Préparation des salons\r\n- Suivi de la presse\r\n\r\n";
   window.Do([&] {
-    form.SaiseDetaillee();
+    form.HideIdentityBox();
     form.Change(u"Nom", u"Marchand");
     form.Change(u"Experiences", career);
   });

@@ -32,10 +32,10 @@ bool RendersOnLeaving(TextView field) {
 }  // namespace
 
 FormRédigerCV::FormRédigerCV(Surroundings surroundings)
-    : Label5(editor_texts::ZonesLabel), around_(std::move(surroundings)) {}
+    : ZonesTitle(editor_texts::ZonesLabel), around_(std::move(surroundings)) {}
 
 void FormRédigerCV::Open(int width) {
-  if (width < CompactUnder) BoutonTLV1();
+  if (width < CompactUnder) CompactLayout();
 
   FileList files;
   files.Point(workspace_paths::ModelFolder());
@@ -46,7 +46,7 @@ void FormRédigerCV::Open(int width) {
       templateRows.push_back(name.substr(0, name.size() - TemplateEnding.size()));
   }
 
-  around_.webBrowser1.Navigate(EmptyPage);
+  around_.preview.Navigate(EmptyPage);
 
   // The user's first CV.
   if (around_.principale.ImageMenu[0].picture != SlotPicture::ImageNew) return;
@@ -84,8 +84,8 @@ void FormRédigerCV::AgeFromBirthDate() {
 }
 
 void FormRédigerCV::Enter(TextView field) {
-  if (field == u"NomModele") OpenPanel(Panel::ListeModeles);
-  if (field == u"Police") OpenPanel(Panel::FramePolice);
+  if (field == u"NomModele") OpenPanel(Panel::Templates);
+  if (field == u"Police") OpenPanel(Panel::Fonts);
 }
 
 void FormRédigerCV::Leave(TextView field) {
@@ -94,7 +94,7 @@ void FormRédigerCV::Leave(TextView field) {
   };
   if (field == u"Identite") {
     if (!ParseIdentity(*this, [this] { AgeFromBirthDate(); })) return;
-    FrameIdentite = false;
+    IdentityBoxVisible = false;
     VisualisationCV();
   } else if (field == u"Nom") {
     Nom = UpperCase(Nom);

@@ -31,7 +31,7 @@ class FormRédigerCV : public CvDocument {
     Dialogs& dialogs;
     Pickers& pickers;
     Menus& menus;
-    Browser& webBrowser1;  // the preview
+    Browser& preview;
     Clipboard& clipboard;
     const Environment& environment;
     const Clock& clock;
@@ -43,15 +43,15 @@ class FormRédigerCV : public CvDocument {
   };
 
   // The option panels, of which one at most is open.
-  enum class Panel { None, ListeModeles, FramePolice, FrameParagraphe, CadreCouleur };
+  enum class Panel { None, Templates, Fonts, Paragraph, Colours };
 
   explicit FormRédigerCV(Surroundings surroundings);
 
-  bool Génère = true;         // the button that renders; nothing renders while it is off
-  bool FrameIdentite = true;  // the box of the pasted identity block is visible
-  bool compact = false;       // the layout is the compact one
+  bool RenderingOn = true;         // nothing renders while it is off
+  bool IdentityBoxVisible = true;  // the box of the pasted identity block
+  bool compact = false;            // the layout is the compact one
   Panel openPanel = Panel::None;
-  Text Label5;                     // the title of the zones
+  Text ZonesTitle;
   std::string Photo;               // bytes of the picture on show, whatever its kind; empty without
   std::vector<Text> templateRows;  // the rows of `ListeModeles`: templates without extension
   static constexpr int CompactUnder = 16000;  // width of the form in twips
@@ -81,25 +81,27 @@ class FormRédigerCV : public CvDocument {
   void Enter(TextView field);
   void Leave(TextView field);
 
-  void ClicGénère() { VisualisationCV(); }
-  void ClicCheckParagraphe(std::size_t i);
-  void ClicCheckDisposition(std::size_t i);
+  void Render() { VisualisationCV(); }
+  void ToggleParagraph(std::size_t i);
+  void ToggleOrder(std::size_t i);
   // A click on a box of the grid; `grid` is the name of the check group, `i` the language.
-  void ClicLangue(TextView grid, std::size_t i);
+  void ToggleLanguage(TextView grid, std::size_t i);
 
-  void ClicCoul(std::size_t i);
-  void BoutonTLV3();     // another colour, by the dialog
-  void OpenTemplates();  // opens the list of templates
-  void ClicImage3();     // opens the fonts
-  void ClicListeModeles(std::size_t row);
-  void ClicPoliceT(std::size_t i);
-  void ClicListeSituations(std::size_t row);
+  void ChooseSwatch(std::size_t i);
+  void ChooseOtherColour();  // by the dialog
+  void OpenTemplates();
+  void OpenFonts();
+  void ChooseTemplate(std::size_t row);
+  void ChooseFont(std::size_t i);
+  void ChooseSituation(std::size_t row);
   void ClosePanels() { openPanel = Panel::None; }
 
-  void SaiseDetaillee();
-  void BoutonTLV1();  // compacts the layout
-  void ClicImageMenu(std::size_t i);
-  void MouseOverImage6(int i);
+  void HideIdentityBox();
+  void CompactLayout();
+  // One of the five entries above the page: paragraph, colours, language, printing, Word version.
+  void OpenEntry(std::size_t i);
+  // The help of the icon of that number (cv/editor_texts.h).
+  void ShowHelpOf(int i);
 
   // -- The menus of the buttons.
   // Runs the item of that name; false for a name of other menus.

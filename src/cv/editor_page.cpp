@@ -48,7 +48,7 @@ void FormRédigerCV::ChargerFichierCV(const std::filesystem::path& chemin) {
   constexpr std::size_t ExtensionLength = 4;
 
   // No render starts while the fields change one by one.
-  Génère = false;
+  RenderingOn = false;
   if (const auto lines = ReadLines(chemin))
     for (const TextView line : *lines) TakeLine(line);
 
@@ -60,7 +60,7 @@ void FormRédigerCV::ChargerFichierCV(const std::filesystem::path& chemin) {
   around_.menus.Check(u"MenuAnglais", language == 1);
   around_.menus.Check(u"MenuFrancais", language == 0);
 
-  Génère = true;
+  RenderingOn = true;
 
   // The name of the file wins over the one that stands in it.
   NomCV = TextOf(chemin.filename()).value_or(NomCV);
@@ -69,12 +69,12 @@ void FormRédigerCV::ChargerFichierCV(const std::filesystem::path& chemin) {
   LoadPhotoOf(NomCV);
 
   VisualisationCV();
-  Label5 = Text{editor_texts::ZonesLabel} + u" (" + NomCV + u")";
+  ZonesTitle = Text{editor_texts::ZonesLabel} + u" (" + NomCV + u")";
 }
 
 void FormRédigerCV::VisualisationCV() {
-  if (!Génère) return;
-  FrameIdentite = false;
+  if (!RenderingOn) return;
+  IdentityBoxVisible = false;
 
   const auto file = ExistingModelFile(Modèle);
   auto page = file ? ReadTemplate(*file) : std::nullopt;
@@ -87,7 +87,7 @@ void FormRédigerCV::VisualisationCV() {
   // A page that cannot be written is not shown either; the CV is saved all the same.
   const auto output = ModelFile(u"CVtemp.html");
   if (!WriteBytes(output, ToCodePage(filled)).Failed())
-    if (const auto address = TextOf(output)) around_.webBrowser1.Navigate(*address);
+    if (const auto address = TextOf(output)) around_.preview.Navigate(*address);
 
   if (around_.layOut) around_.layOut();
 

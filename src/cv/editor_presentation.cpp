@@ -10,21 +10,21 @@
 
 namespace talvor {
 
-void FormRédigerCV::ClicCheckParagraphe(std::size_t i) {
+void FormRédigerCV::ToggleParagraph(std::size_t i) {
   static constexpr std::array<TextView, 4> Mirrors{u"Gras", u"Souligné", u"Indentation", u"Saut"};
   if (i >= Mirrors.size()) return;
   CheckParagraphe[i] = !CheckParagraphe[i];
   Change(Mirrors[i], CheckParagraphe[i] ? u"1" : u"0");
 }
 
-void FormRédigerCV::ClicCheckDisposition(std::size_t i) {
+void FormRédigerCV::ToggleOrder(std::size_t i) {
   if (i > 1) return;
   CheckDisposition[i] = !CheckDisposition[i];
   CheckDisposition[1 - i] = !CheckDisposition[i];
   VisualisationCV();
 }
 
-void FormRédigerCV::ClicLangue(TextView grid, std::size_t i) {
+void FormRédigerCV::ToggleLanguage(TextView grid, std::size_t i) {
   const CheckGroup* clicked = FindCheckGroup(grid);
   if (clicked == nullptr || !grid.starts_with(u"Langue") || i >= clicked->size) return;
   const bool ticked = !(this->*(clicked->values))[i];
@@ -44,11 +44,11 @@ void FormRédigerCV::TakeColour(Colour colour) {
     Change(u"Couleur", main);
 }
 
-void FormRédigerCV::ClicCoul(std::size_t i) {
-  if (i < Coul.size()) TakeColour(Coul[i]);
+void FormRédigerCV::ChooseSwatch(std::size_t i) {
+  if (i < Swatches.size()) TakeColour(Swatches[i]);
 }
 
-void FormRédigerCV::BoutonTLV3() {
+void FormRédigerCV::ChooseOtherColour() {
   if (const auto colour = around_.pickers.PickColour()) TakeColour(*colour);
 }
 
@@ -57,10 +57,10 @@ void FormRédigerCV::OpenPanel(Panel panel) {
   openPanel = panel;
 }
 
-void FormRédigerCV::OpenTemplates() { OpenPanel(Panel::ListeModeles); }
-void FormRédigerCV::ClicImage3() { OpenPanel(Panel::FramePolice); }
+void FormRédigerCV::OpenTemplates() { OpenPanel(Panel::Templates); }
+void FormRédigerCV::OpenFonts() { OpenPanel(Panel::Fonts); }
 
-void FormRédigerCV::ClicListeModeles(std::size_t row) {
+void FormRédigerCV::ChooseTemplate(std::size_t row) {
   if (row >= templateRows.size()) return;
   ListeModeles = templateRows[row];
   Change(u"NomModele", ListeModeles);
@@ -68,19 +68,19 @@ void FormRédigerCV::ClicListeModeles(std::size_t row) {
   ClosePanels();
 }
 
-void FormRédigerCV::ClicPoliceT(std::size_t i) {
+void FormRédigerCV::ChooseFont(std::size_t i) {
   if (i < editor_texts::Fonts.size()) Change(u"Police", editor_texts::Fonts[i]);
 }
 
-void FormRédigerCV::ClicListeSituations(std::size_t row) {
+void FormRédigerCV::ChooseSituation(std::size_t row) {
   if (row >= editor_texts::Situations.size()) return;
   ListeSituations = editor_texts::Situations[row];
   Change(u"Situation", ListeSituations);
 }
 
-void FormRédigerCV::SaiseDetaillee() { FrameIdentite = false; }
+void FormRédigerCV::HideIdentityBox() { IdentityBoxVisible = false; }
 
-void FormRédigerCV::BoutonTLV1() {
+void FormRédigerCV::CompactLayout() {
   compact = true;
   if (around_.layOut) around_.layOut();
 }
@@ -97,14 +97,14 @@ void FormRédigerCV::OfferLastWordVersion() {
   around_.menus.Open(u"MenuConvertirWord");
 }
 
-void FormRédigerCV::ClicImageMenu(std::size_t i) {
+void FormRédigerCV::OpenEntry(std::size_t i) {
   ClosePanels();
   switch (i) {
     case 0:
-      OpenPanelFocusing(Panel::FrameParagraphe, u"Age");
+      OpenPanelFocusing(Panel::Paragraph, u"Age");
       break;
     case 1:
-      OpenPanelFocusing(Panel::CadreCouleur, u"Nom");
+      OpenPanelFocusing(Panel::Colours, u"Nom");
       break;
     case 2:
       around_.menus.Open(u"MenuLangues");
@@ -120,7 +120,7 @@ void FormRédigerCV::ClicImageMenu(std::size_t i) {
   }
 }
 
-void FormRédigerCV::MouseOverImage6(int i) {
+void FormRédigerCV::ShowHelpOf(int i) {
   const auto help = std::find_if(editor_texts::Help.begin(), editor_texts::Help.end(),
                                  [i](const auto& row) { return row.icon == i; });
   if (help == editor_texts::Help.end()) return;

@@ -87,15 +87,15 @@ void PhotographCv(Desktop& desktop, Photographer& photographer) {
   photographer.Take(u"cv-page");
   const std::array<const char16_t*, 2> entries{u"cv-paragraphes", u"cv"};
   for (std::size_t i = 0; i < entries.size(); ++i) {
-    cv.Window()->Do([&] { cv.Form().ClicImageMenu(i); });
+    cv.Window()->Do([&] { cv.Form().OpenEntry(i); });
     photographer.Take(entries[i]);
   }
   cv.Window()->Do([&] { cv.Form().OpenTemplates(); });
   photographer.Take(u"cv-modeles");
-  cv.Window()->Do([&] { cv.Form().ClicImage3(); });
+  cv.Window()->Do([&] { cv.Form().OpenFonts(); });
   photographer.Take(u"cv-polices");
   cv.Window()->Do([&] { cv.Form().ClosePanels(); });
-  cv.Window()->Do([&] { cv.Form().MouseOverImage6(14); });
+  cv.Window()->Do([&] { cv.Form().ShowHelpOf(14); });
   photographer.Take(u"cv-aide");
   desktop.Windows().Unload(EditorHelpForm);
   cv.Preview();

@@ -123,7 +123,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST_F(Editor, LeavingAPastedIdentityFillsTheZonesThePageAndTheFile) {
   form_.Identite = u"Zoé Łódź\r\n12 rue des Lilas\r\n75011 Paris";
   EXPECT_EQ(Renders([&] { form_.Leave(u"Identite"); }), 1u);
-  EXPECT_FALSE(form_.FrameIdentite);
+  EXPECT_FALSE(form_.IdentityBoxVisible);
   EXPECT_EQ(Page(),
             "<p>&#321;\xF3"
             "d&#378;|Zo\xE9|<b></b>|||#FF6600|#FFE6D5</p>\r\n\r\n");
@@ -176,43 +176,43 @@ TEST_F(Editor, ChangesOfTheLookRenderAndOthersDoNot) {
   EXPECT_EQ(Renders([&] { form_.Change(u"Police", u"x"); }), 0u) << "no change";
   for (const TextView field : {u"Nom", u"CouleurClaire", u"NomModele", u"Inconnu"})
     EXPECT_EQ(Renders([&] { form_.Change(field, u"y"); }), 0u) << ToUtf8(field);
-  EXPECT_EQ(Renders([&] { form_.ClicGénère(); }), 1u);
+  EXPECT_EQ(Renders([&] { form_.Render(); }), 1u);
 }
 
 TEST_F(Editor, ParagraphBoxesCopyTheirValueToTheirMirror) {
-  form_.ClicCheckParagraphe(0);
-  form_.ClicCheckParagraphe(3);
+  form_.ToggleParagraph(0);
+  form_.ToggleParagraph(3);
   EXPECT_EQ(form_.Gras, u"0");
   EXPECT_EQ(form_.Saut, u"1");
-  form_.ClicCheckParagraphe(1);
-  form_.ClicCheckParagraphe(2);
+  form_.ToggleParagraph(1);
+  form_.ToggleParagraph(2);
   EXPECT_EQ(form_.Souligné, u"1");
   EXPECT_EQ(form_.Indentation, u"0");
   EXPECT_EQ(browser_.visited.size(), 4u);
-  form_.ClicCheckParagraphe(4);
+  form_.ToggleParagraph(4);
 }
 
 TEST_F(Editor, DispositionsExcludeEachOtherInEitherDirection) {
-  form_.ClicCheckDisposition(1);
+  form_.ToggleOrder(1);
   EXPECT_TRUE(form_.CheckDisposition[1] && !form_.CheckDisposition[0]);
-  form_.ClicCheckDisposition(1);
+  form_.ToggleOrder(1);
   EXPECT_TRUE(!form_.CheckDisposition[1] && form_.CheckDisposition[0]);
-  form_.ClicCheckDisposition(2);
+  form_.ToggleOrder(2);
   EXPECT_EQ(browser_.visited.size(), 2u);
 }
 
 TEST_F(Editor, ALanguageHasOneLevelOrNone) {
   form_.LangueProf[3] = form_.LangueScolaire[3] = form_.LangueProf[4] = true;  // as a file can have it
-  form_.ClicLangue(u"LangueCourant", 3);
-  form_.ClicLangue(u"LangueBilingue", 3);
+  form_.ToggleLanguage(u"LangueCourant", 3);
+  form_.ToggleLanguage(u"LangueBilingue", 3);
   EXPECT_TRUE(form_.LangueBilingue[3]);
   EXPECT_FALSE(form_.LangueCourant[3] || form_.LangueProf[3] || form_.LangueScolaire[3]);
   EXPECT_TRUE(form_.LangueProf[4]) << "the other rows stay";
   EXPECT_EQ(form_.Langues, u"Italien bilingue\r\nRusse professionnel\r\n");
-  form_.ClicLangue(u"LangueBilingue", 3);
+  form_.ToggleLanguage(u"LangueBilingue", 3);
   EXPECT_EQ(form_.Langues, u"Russe professionnel\r\n");
-  form_.ClicLangue(u"LangueProf", 9);
-  form_.ClicLangue(u"CheckParagraphe", 0);
+  form_.ToggleLanguage(u"LangueProf", 9);
+  form_.ToggleLanguage(u"CheckParagraphe", 0);
   EXPECT_EQ(browser_.visited.size(), 3u);
 }
 
@@ -221,35 +221,35 @@ TEST_F(Editor, ColoursComeInPairsAndThePageShowsBoth) {
   EXPECT_EQ(ColourText(PaleColour({255, 255, 255})), u"#FFFFFF");
   EXPECT_EQ(ColourText(PaleColour({0x0A, 0x66, 0xF0})), u"#DFEBFD");
   pickers_.colour = Colour{0x0A, 0x66, 0xF0};
-  EXPECT_EQ(Renders([&] { form_.BoutonTLV3(); }), 1u);
+  EXPECT_EQ(Renders([&] { form_.ChooseOtherColour(); }), 1u);
   EXPECT_EQ(Page(), "<p>||<b></b>|||#0A66F0|#DFEBFD</p>\r\n\r\n");
   pickers_.colour.reset();
-  EXPECT_EQ(Renders([&] { form_.BoutonTLV3(); }), 0u);
-  form_.ClicCoul(Coul.size());
+  EXPECT_EQ(Renders([&] { form_.ChooseOtherColour(); }), 0u);
+  form_.ChooseSwatch(Swatches.size());
   EXPECT_EQ(form_.Couleur, u"#0A66F0");
-  form_.ClicCoul(0);
+  form_.ChooseSwatch(0);
   EXPECT_EQ(form_.Couleur, u"#FF6600");
 }
 
 TEST_F(Editor, OnePanelAtMostIsOpen) {
   form_.Enter(u"NomModele");
-  EXPECT_EQ(form_.openPanel, Panel::ListeModeles);
-  form_.ClicImage3();
-  EXPECT_EQ(form_.openPanel, Panel::FramePolice);
+  EXPECT_EQ(form_.openPanel, Panel::Templates);
+  form_.OpenFonts();
+  EXPECT_EQ(form_.openPanel, Panel::Fonts);
   form_.Leave(u"Police");
   EXPECT_EQ(form_.openPanel, Panel::None);
-  form_.ClicImageMenu(0);
-  EXPECT_EQ(form_.openPanel, Panel::FrameParagraphe);
-  form_.ClicImageMenu(1);
-  EXPECT_EQ(form_.openPanel, Panel::CadreCouleur);
+  form_.OpenEntry(0);
+  EXPECT_EQ(form_.openPanel, Panel::Paragraph);
+  form_.OpenEntry(1);
+  EXPECT_EQ(form_.openPanel, Panel::Colours);
   EXPECT_EQ(shell_.log, (std::vector<Text>{u"focus FormRédigerCV.Age", u"focus FormRédigerCV.Nom"}));
   form_.Leave(u"Nom");
   EXPECT_EQ(form_.openPanel, Panel::None);
   form_.OpenTemplates();
-  form_.ClicImageMenu(2);
+  form_.OpenEntry(2);
   EXPECT_EQ(form_.openPanel, Panel::None);
   EXPECT_EQ(menus_.opened, u"MenuLangues");
-  form_.ClicImageMenu(3);
+  form_.OpenEntry(3);
   EXPECT_EQ(menus_.opened, u"MenuImprimer");
 }
 
@@ -272,11 +272,11 @@ TEST_F(Editor, AnItemOfItsMenusLeadsWhereItSays) {
 TEST_F(Editor, TheLastWordVersionIsOfferedWhenItExists) {
   environment_.variables[u"userprofile"] = *TextOf(scratch_.Path());
   form_.NomCV = u"Essai";
-  form_.ClicImageMenu(4);
+  form_.OpenEntry(4);
   EXPECT_FALSE(menus_.enabled.at(u"ConsulterWord"));
   fs::create_directories("Documents");
   Write("Documents/Essai.doc", "x");
-  form_.ClicImageMenu(4);
+  form_.OpenEntry(4);
   EXPECT_TRUE(menus_.enabled.at(u"ConsulterWord"));
   EXPECT_EQ(menus_.opened, u"MenuConvertirWord");
 }
@@ -285,31 +285,31 @@ TEST_F(Editor, ListsFillTheirFields) {
   Write("Modeles/Zen.htm", "zen");
   form_.Open(20000);
   form_.OpenTemplates();
-  form_.ClicListeModeles(1);
+  form_.ChooseTemplate(1);
   EXPECT_EQ(form_.NomModele, u"Zen");
   EXPECT_EQ(form_.openPanel, Panel::None);
   EXPECT_EQ(Page(), "zen\r\n\r\n");
-  form_.ClicPoliceT(5);
+  form_.ChooseFont(5);
   EXPECT_EQ(form_.Police, u"Lucida Handwriting");
-  form_.ClicListeSituations(3);
+  form_.ChooseSituation(3);
   EXPECT_EQ(form_.Situation, u"Veuf(ve)");
-  form_.ClicListeModeles(2);
-  form_.ClicPoliceT(6);
-  form_.ClicListeSituations(5);
+  form_.ChooseTemplate(2);
+  form_.ChooseFont(6);
+  form_.ChooseSituation(5);
   EXPECT_EQ(form_.Modèle, u"Zen.htm");
-  form_.SaiseDetaillee();
-  EXPECT_FALSE(form_.FrameIdentite);
+  form_.HideIdentityBox();
+  EXPECT_FALSE(form_.IdentityBoxVisible);
 }
 
 TEST_F(Editor, HelpOfAParagraphBeginsWithTheNoteOnItsLayout) {
-  form_.MouseOverImage6(16);
+  form_.ShowHelpOf(16);
   EXPECT_TRUE(help_.starts_with(u"Compléter ici la fonction principale du CV, Préciser"));
-  form_.MouseOverImage6(20);
+  form_.ShowHelpOf(20);
   EXPECT_TRUE(help_.starts_with(Text{editor_texts::ParagraphNote} + u"\r\nLes compétences permettent"));
   EXPECT_EQ(shell_.log, (std::vector<Text>{u"show Aide", u"show Aide"}));
   shell_.visible = u"Aide";
-  form_.MouseOverImage6(17);
-  form_.MouseOverImage6(13);
+  form_.ShowHelpOf(17);
+  form_.ShowHelpOf(13);
   EXPECT_TRUE(help_.starts_with(u"On fera apparaître"));
   EXPECT_EQ(shell_.log.size(), 2u);
 }
@@ -328,8 +328,8 @@ TEST_F(Editor, LoadingFillsTheFormOnceRendersOnceAndMirrorsTheIdentity) {
   EXPECT_TRUE(menus_.checked[u"MenuAnglais"]);
   EXPECT_FALSE(menus_.checked[u"MenuFrancais"]);
   EXPECT_EQ(form_.NomCV, u"Jean Dupont") << "the file's name wins, and the save puts it into form";
-  EXPECT_EQ(form_.Label5, u"Zones d'informations (Jean Dupont)");
-  EXPECT_TRUE(form_.Génère);
+  EXPECT_EQ(form_.ZonesTitle, u"Zones d'informations (Jean Dupont)");
+  EXPECT_TRUE(form_.RenderingOn);
   EXPECT_TRUE(fs::exists("CV/Jean Dupont.dat"));
   EXPECT_TRUE(fs::exists("Sauvegardes/CV/jean dupont.1.dat")) << "a line that the form drops is not lost";
 
@@ -393,11 +393,11 @@ TEST_F(Editor, WithoutItsTemplateNothingIsRenderedNorSaved) {
     form_.Modèle = name;
     EXPECT_EQ(Renders([&] { form_.VisualisationCV(); }), 0u) << ToUtf8(name);
   }
-  EXPECT_FALSE(form_.FrameIdentite);
+  EXPECT_FALSE(form_.IdentityBoxVisible);
   EXPECT_TRUE(fs::is_empty("CV"));
   form_.Modèle = u"BASIC.HTM";
   EXPECT_EQ(Renders([&] { form_.VisualisationCV(); }), 1u) << "names are compared without regard to case";
-  form_.Génère = false;
+  form_.RenderingOn = false;
   EXPECT_EQ(Renders([&] { form_.VisualisationCV(); }), 0u);
 }
 

@@ -240,9 +240,9 @@ TEST_F(AccessibilityTest, TheEditorOfCvsWithEachOfItsPanels) {
   }
   desktop->Cv().Window()->Do([&] { desktop->Cv().Form().OpenTemplates(); });
   Walk(Main(), "templates");
-  desktop->Cv().Window()->Do([&] { desktop->Cv().Form().ClicImage3(); });
+  desktop->Cv().Window()->Do([&] { desktop->Cv().Form().OpenFonts(); });
   Walk(Main(), "fonts");
-  desktop->Cv().Window()->Do([&] { desktop->Cv().Form().MouseOverImage6(14); });
+  desktop->Cv().Window()->Do([&] { desktop->Cv().Form().ShowHelpOf(14); });
   Walk(Main(), "with help");
 }
 

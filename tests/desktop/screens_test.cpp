@@ -311,7 +311,7 @@ TEST_P(ScreensTest, TheEditorOfCvsWithEachOfItsPanels) {
   }
   desktop->Cv().Window()->Do([&] { desktop->Cv().Form().OpenTemplates(); });
   VisitMain("templates");
-  desktop->Cv().Window()->Do([&] { desktop->Cv().Form().ClicImage3(); });
+  desktop->Cv().Window()->Do([&] { desktop->Cv().Form().OpenFonts(); });
   VisitMain("fonts");
   Visit("print preview", [this] {
     delete desktop->Cv().PreviewWindow();

@@ -138,7 +138,7 @@ QPushButton* CvOptionPanels::MakeSwatch(std::size_t index, QWidget* panel) {
   auto* swatch = new QPushButton(panel);
   swatch->setObjectName(QStringLiteral("Coul%1").arg(index));
   swatch->setFixedSize(SwatchSize);
-  const QString name = talvor::ToQt(ColourText(Coul[index]));
+  const QString name = talvor::ToQt(ColourText(Swatches[index]));
   swatch->setAccessibleName(tr("Couleur %1").arg(name));
   swatch->setToolTip(name);
   connect(swatch, &QPushButton::clicked, this, [this, index] {
@@ -211,8 +211,8 @@ void CvOptionPanels::Show(const FormRédigerCV& form) {
     fonts_[i]->setChecked(form.Police == editor_texts::Fonts[i]);
   for (std::size_t i = 0; i < paragraphs_.size(); ++i) paragraphs_[i]->setChecked(form.CheckParagraphe[i]);
   for (std::size_t i = 0; i < swatches_.size(); ++i) {
-    const QColor colour = ToQt(Coul[i]);
-    const bool chosen = ColourText(Coul[i]) == form.Couleur;
+    const QColor colour = ToQt(Swatches[i]);
+    const bool chosen = ColourText(Swatches[i]) == form.Couleur;
     Fill(*swatches_[i], colour,
          theme_.Color(chosen ? QStringLiteral("focus") : QStringLiteral("edge")).name(), chosen ? 3 : 1);
     swatches_[i]->setIcon(chosen ? theme_.Icon(QStringLiteral("check"), MarkOn(theme_, colour)) : QIcon());

@@ -49,7 +49,7 @@ class CvOptionPanels : public QWidget {
   QListWidget* templates_ = nullptr;
   std::array<QPushButton*, 6> fonts_{};
   std::array<QCheckBox*, 4> paragraphs_{};
-  std::array<QPushButton*, Coul.size()> swatches_{};
+  std::array<QPushButton*, Swatches.size()> swatches_{};
   std::array<QWidget*, 2> samples_{};  // of the main and the pale colour
 };
 

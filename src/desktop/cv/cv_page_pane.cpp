@@ -216,8 +216,8 @@ QWidget* CvPagePane::MakeOptions() {
 
 void CvPagePane::Show(const FormRédigerCV& form) {
   using Panel = FormRédigerCV::Panel;
-  entries_[0]->setChecked(form.openPanel == Panel::FrameParagraphe);
-  entries_[1]->setChecked(form.openPanel == Panel::CadreCouleur);
+  entries_[0]->setChecked(form.openPanel == Panel::Paragraph);
+  entries_[1]->setChecked(form.openPanel == Panel::Colours);
   for (std::size_t i = 0; i < dispositions_.size(); ++i)
     dispositions_[i]->setChecked(form.CheckDisposition[i]);
   for (const Text& name : form.templateRows) GiveRoom(*template_, ToQt(name));

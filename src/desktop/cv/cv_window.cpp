@@ -69,37 +69,37 @@ void CvWindow::SaveWhileTyping() {
 }
 
 void CvWindow::ConnectZones() {
-  zones_->OnDetailed = [this] { Do([&] { form_.SaiseDetaillee(); }); };
-  zones_->OnGenerate = [this] { Do([&] { form_.ClicGénère(); }); };
-  zones_->OnCompact = [this] { Do([&] { form_.BoutonTLV1(); }); };
+  zones_->OnDetailed = [this] { Do([&] { form_.HideIdentityBox(); }); };
+  zones_->OnGenerate = [this] { Do([&] { form_.Render(); }); };
+  zones_->OnCompact = [this] { Do([&] { form_.CompactLayout(); }); };
   zones_->OnBrowsePhoto = [this] { Do([&] { form_.RattacherPhoto(); }); };
   zones_->OnPhoto = [this](QWidget& photo) {
     menus_.SetAnchor(&photo);
     menus_.Open(u"MenuPhoto");
   };
-  zones_->OnSituation = [this](std::size_t row) { Do([&] { form_.ClicListeSituations(row); }); };
+  zones_->OnSituation = [this](std::size_t row) { Do([&] { form_.ChooseSituation(row); }); };
   zones_->OnHelp = [this](int icon) {
     if (OnHelp) OnHelp(icon);
   };
   zones_->Languages().OnClick = [this](TextView group, std::size_t language) {
-    Do([&] { form_.ClicLangue(group, language); });
+    Do([&] { form_.ToggleLanguage(group, language); });
   };
 }
 
 void CvWindow::ConnectPage() {
   page_->OnEntry = [this](std::size_t entry, QWidget& button) {
     menus_.SetAnchor(&button);
-    Do([&] { form_.ClicImageMenu(entry); });
+    Do([&] { form_.OpenEntry(entry); });
   };
   page_->OnTemplates = [this] { Do([&] { form_.OpenTemplates(); }); };
-  page_->OnFonts = [this] { Do([&] { form_.ClicImage3(); }); };
-  page_->OnDisposition = [this](std::size_t i) { Do([&] { form_.ClicCheckDisposition(i); }); };
+  page_->OnFonts = [this] { Do([&] { form_.OpenFonts(); }); };
+  page_->OnDisposition = [this](std::size_t i) { Do([&] { form_.ToggleOrder(i); }); };
   CvOptionPanels& panels = page_->Panels();
-  panels.OnTemplate = [this](std::size_t row) { Do([&] { form_.ClicListeModeles(row); }); };
-  panels.OnFont = [this](std::size_t i) { Do([&] { form_.ClicPoliceT(i); }); };
-  panels.OnParagraph = [this](std::size_t i) { Do([&] { form_.ClicCheckParagraphe(i); }); };
-  panels.OnSwatch = [this](std::size_t i) { Do([&] { form_.ClicCoul(i); }); };
-  panels.OnOtherColour = [this] { Do([&] { form_.BoutonTLV3(); }); };
+  panels.OnTemplate = [this](std::size_t row) { Do([&] { form_.ChooseTemplate(row); }); };
+  panels.OnFont = [this](std::size_t i) { Do([&] { form_.ChooseFont(i); }); };
+  panels.OnParagraph = [this](std::size_t i) { Do([&] { form_.ToggleParagraph(i); }); };
+  panels.OnSwatch = [this](std::size_t i) { Do([&] { form_.ChooseSwatch(i); }); };
+  panels.OnOtherColour = [this] { Do([&] { form_.ChooseOtherColour(); }); };
 }
 
 void CvWindow::Do(const std::function<void()>& action) {
@@ -119,7 +119,7 @@ QString CvWindow::FieldOf(const QWidget* widget) const {
 // The box of the pasted block is left by the user alone: when it is hidden because the CV has fields
 // already, reading it again would undo what was corrected in them.
 void CvWindow::LeaveField(const QString& name) {
-  const bool hidden = name == QStringLiteral("Identite") && !form_.FrameIdentite;
+  const bool hidden = name == QStringLiteral("Identite") && !form_.IdentityBoxVisible;
   if (!name.isEmpty() && !hidden) form_.Leave(FromQt(name));
 }
 
@@ -150,8 +150,8 @@ void CvWindow::MoveFocus(QWidget* now) {
 void CvWindow::Refresh() {
   shown_ = form_;
   binder_.Refresh();
-  zones_->SetTitle(form_.Label5);
-  zones_->ShowIdentityBox(form_.FrameIdentite);
+  zones_->SetTitle(form_.ZonesTitle);
+  zones_->ShowIdentityBox(form_.IdentityBoxVisible);
   zones_->ShowPhoto(form_.Photo);
   zones_->SetCompact(form_.compact);
   zones_->Languages().Show(form_);
@@ -171,7 +171,7 @@ void CvWindow::resizeEvent(QResizeEvent* event) {
 
 void CvWindow::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
-  WidgetNamed(*this, form_.FrameIdentite ? u"Identite" : u"Nom").setFocus(Qt::OtherFocusReason);
+  WidgetNamed(*this, form_.IdentityBoxVisible ? u"Identite" : u"Nom").setFocus(Qt::OtherFocusReason);
 }
 
 }  // namespace talvor

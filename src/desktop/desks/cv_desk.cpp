@@ -49,7 +49,7 @@ void CvDesk::MakeForm() {
       .dialogs = around_.dialogs,
       .pickers = around_.pickers,
       .menus = menus_,
-      .webBrowser1 = preview_,
+      .preview = preview_,
       .clipboard = clipboard_,
       .environment = around_.environment,
       .clock = around_.clock,
@@ -70,7 +70,7 @@ QWidget* CvDesk::MakeWindow(QWidget* parent) {
   preview_.SetView(&window_->Page());
   window_->OnActed = around_.ways.refresh;
   window_->OnHelp = [this](int icon) {
-    if (icon >= 0) return form_->MouseOverImage6(icon);
+    if (icon >= 0) return form_->ShowHelpOf(icon);
     around_.shell.Unload(EditorHelpForm);
   };
   return window_;
