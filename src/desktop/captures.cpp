@@ -136,11 +136,11 @@ void PhotographLetters(Desktop& desktop, Photographer photographer) {
         u"Je vous prie d'agréer, #Titre#, l'expression de mes salutations distinguées."};
     letter.InitLettre("CV/Assistante Com.dat");
     letter.Competences = u"la rédaction, la publication web et la vidéo";
-    letter.ListeCVVisible = true;
-    letter.ClicCheck_Modele(Printed);
+    letter.CvListVisible = true;
+    letter.ToggleMedium(Printed);
   });
   photographer.Take(u"lettre");
-  window.Do([&] { letter.ClicCheck_Modele(Mail); });
+  window.Do([&] { letter.ToggleMedium(Mail); });
   window.findChild<QPlainTextEdit*>(QStringLiteral("Text1"))->insertPlainText(QStringLiteral("Bonjour,\n"));
   window.Do([&] { letter.saveFailed = true; });
   photographer.Take(u"lettre-courriel");

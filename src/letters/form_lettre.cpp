@@ -34,7 +34,7 @@ void FormLettre::Clear() {
   static_cast<LetterModel&>(*this) = {};
   SetFlag(Check_Modele, Mail, true);
   SetFlag(Check_candidature, Answer, true);
-  ListeCVVisible = CadreObjetVisible = true;
+  CvListVisible = SubjectVisible = true;
   saveFailed = false;
   savedText_.clear();
 }
@@ -75,7 +75,7 @@ void FormLettre::NouvelleLettre() {
 }
 
 void FormLettre::InitLettre(const std::filesystem::path& chemin) {
-  ListeCVVisible = false;
+  CvListVisible = false;
   TakeFieldsOfCv(chemin, *this);
   // A CV has skills under the same name, but in a form that no sentence can quote.
   Competences.clear();
@@ -94,14 +94,14 @@ void FormLettre::ChargerFichierLettre(const std::filesystem::path& chemin) {
   loading = false;
   savedText_ = Text1;
 
-  CadreObjetVisible = Check_Modele[Mail];
+  SubjectVisible = Check_Modele[Mail];
 }
 
 void FormLettre::EnregistrerLettre() {
   saveFailed = !talvor::EnregistrerLettre(*this, dialogs_, principale_);
 }
 
-void FormLettre::Timer1() {
+void FormLettre::SaveIfChanged() {
   // A change that leaves the letter as it was is not seen here, nor is a model without a surname.
   if (loading || Nom.empty() || Text1 == savedText_) return;
   EnregistrerLettre();
@@ -110,14 +110,14 @@ void FormLettre::Timer1() {
 
 void FormLettre::ComposerLettre() {
   talvor::ComposerLettre(*this, clock_.Today());
-  CadreObjetVisible = !Check_Modele[Printed];
+  SubjectVisible = !Check_Modele[Printed];
 }
 
-void FormLettre::BoutonTLV1(std::size_t i) {
+void FormLettre::PreviousSentence(std::size_t i) {
   if (i < CorpsCount) TakeSentence(i, propositions_.Previous(i, Corps[i]));
 }
 
-void FormLettre::BoutonTLV2(std::size_t i) {
+void FormLettre::NextSentence(std::size_t i) {
   if (i < CorpsCount) TakeSentence(i, propositions_.Next(i, Corps[i]));
 }
 
@@ -126,11 +126,11 @@ void FormLettre::TakeSentence(std::size_t i, const Text& sentence) {
   RecomposeUnlessLoading();
 }
 
-void FormLettre::ClicCheck_Modele(std::size_t i) { ClicFlag(Check_Modele, i); }
+void FormLettre::ToggleMedium(std::size_t i) { ToggleFlag(Check_Modele, i); }
 
-void FormLettre::ClicCheck_candidature(std::size_t i) { ClicFlag(Check_candidature, i); }
+void FormLettre::ToggleOccasion(std::size_t i) { ToggleFlag(Check_candidature, i); }
 
-void FormLettre::ClicFlag(FlagPair& flags, std::size_t i) {
+void FormLettre::ToggleFlag(FlagPair& flags, std::size_t i) {
   if (i >= flags.size()) return;
   SetFlag(flags, i, !flags[i]);
   RecomposeUnlessLoading();
@@ -140,25 +140,25 @@ void FormLettre::RecomposeUnlessLoading() {
   if (!loading) ComposerLettre();
 }
 
-void FormLettre::ClicNomCV(std::size_t i) {
+void FormLettre::BeginFromCv(std::size_t i) {
   if (i >= NomCV.size() || NomCV[i].empty()) return;
   const auto file = CvFile(NomCV[i]);
   std::error_code unreadable;
   if (std::filesystem::is_regular_file(file, unreadable)) InitLettre(file);
 }
 
-void FormLettre::ClicPicture2() {
+void FormLettre::ComposeAnew() {
   Text1.clear();
   ComposerLettre();
 }
 
-void FormLettre::Command1() {
+void FormLettre::OpenPropositions() {
   if (OuvrirDocument) OuvrirDocument(PropositionsFile());
 }
 
-void FormLettre::QuitterEmail() { ComposerLettre(); }
+void FormLettre::LeaveEmail() { ComposerLettre(); }
 
-void FormLettre::QuitterPrénom() {
+void FormLettre::LeavePrenom() {
   if (!Prénom.empty()) Prénom = NomPropre(Prénom);
 }
 

@@ -24,10 +24,10 @@ class FormLettre : public LetterModel {
   FormLettre(Principale& principale, const Clock& clock, Dialogs& dialogs, Shell& shell);
 
   std::array<Text, CvCount> NomCV;  // the list of CVs: file names without ".dat", empty beyond the last
-  bool ListeCVVisible = true;
-  bool CadreObjetVisible = true;  // the frame of the subject
-  bool loading = false;           // a file is being applied: flags and buttons do not recompose
-  bool saveFailed = false;        // the last save was not written; no message box tells it
+  bool CvListVisible = true;
+  bool SubjectVisible = true;  // the frame of the subject
+  bool loading = false;        // a file is being applied: flags and buttons do not recompose
+  bool saveFailed = false;     // the last save was not written; no message box tells it
 
   // Opens a document in the program associated with it; nothing happens while it is not set.
   std::function<void(const std::filesystem::path&)> OuvrirDocument;
@@ -46,25 +46,25 @@ class FormLettre : public LetterModel {
   // Writes the model to its file.
   void EnregistrerLettre();
   // Every 1000 ms: saves a model with a surname whose text has changed.
-  void Timer1();
+  void SaveIfChanged();
 
   // Rebuilds `Text1`; what was typed into it is lost.
   void ComposerLettre();
 
-  void BoutonTLV1(std::size_t i);  // "Précédent" of a sentence group
-  void BoutonTLV2(std::size_t i);  // "Suivant"
+  void PreviousSentence(std::size_t i);  // of a sentence group
+  void NextSentence(std::size_t i);
   // A click turns the flag over, and its pair with it.
-  void ClicCheck_Modele(std::size_t i);
-  void ClicCheck_candidature(std::size_t i);
-  void ClicNomCV(std::size_t i);
-  void ClicPicture2();  // empties the letter and composes it anew
-  void Command1();      // opens the propositions
-  void QuitterEmail();
-  void QuitterPrénom();
+  void ToggleMedium(std::size_t i);    // `Check_Modele`
+  void ToggleOccasion(std::size_t i);  // `Check_candidature`
+  void BeginFromCv(std::size_t i);     // a row of the list of CVs
+  void ComposeAnew();                  // empties the letter and composes it anew
+  void OpenPropositions();
+  void LeaveEmail();
+  void LeavePrenom();
 
  private:
   void Clear();
-  void ClicFlag(FlagPair& flags, std::size_t i);
+  void ToggleFlag(FlagPair& flags, std::size_t i);
   void TakeSentence(std::size_t i, const Text& sentence);
   void RecomposeUnlessLoading();
 

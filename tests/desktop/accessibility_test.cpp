@@ -253,10 +253,10 @@ TEST_F(AccessibilityTest, TheLetterPrintedAndByMail) {
   LetterWindow& window = *desktop->Letters().Window();
   window.Do([&] {
     letter.ChargerFichierLettre("Lettres/Annonce (ER).dat");
-    letter.ListeCVVisible = true;
+    letter.CvListVisible = true;
   });
   for (const std::size_t kind : {Printed, Mail}) {
-    window.Do([&] { letter.ClicCheck_Modele(kind); });
+    window.Do([&] { letter.ToggleMedium(kind); });
     Walk(Main(), "letter");
   }
   window.Do([&] { letter.saveFailed = true; });

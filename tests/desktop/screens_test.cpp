@@ -329,10 +329,10 @@ TEST_P(ScreensTest, TheLetterPrintedAndByMail) {
   LetterWindow& window = *desktop->Letters().Window();
   window.Do([&] {
     letter.ChargerFichierLettre("Lettres/Annonce (ER).dat");
-    letter.ListeCVVisible = true;
+    letter.CvListVisible = true;
   });
   for (const std::size_t kind : {Printed, Mail}) {
-    window.Do([&] { letter.ClicCheck_Modele(kind); });
+    window.Do([&] { letter.ToggleMedium(kind); });
     VisitMain("letter");
   }
   window.Do([&] { letter.saveFailed = true; });

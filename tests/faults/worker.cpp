@@ -112,7 +112,7 @@ void Worker::SaveLetter() {
   lettre_.NomLettre = LetterName(id);
   lettre_.Text1 = Body(version);
   tell_({Kind::Letter, id, version, 0});
-  lettre_.Timer1();
+  lettre_.SaveIfChanged();
   if (!lettre_.saveFailed) tell_({Kind::Letter, id, version, 1});
 }
 

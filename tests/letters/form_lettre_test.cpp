@@ -28,16 +28,16 @@ TEST_F(FormLettreTest, BeginsOnAMailInAnswerAndListsTheCvs) {
   EXPECT_EQ(form.Check_candidature, (FlagPair{false, true}));
   EXPECT_EQ(form.NomCV, (std::array<Text, 5>{u"a", u"b.doc", u"", u"", u""}));
 
-  for (const std::size_t i : {1u, 2u, 9u}) form.ClicNomCV(i);
-  EXPECT_TRUE(form.ListeCVVisible) << "no file of that name";
-  form.ClicNomCV(0);
-  EXPECT_FALSE(form.ListeCVVisible);
+  for (const std::size_t i : {1u, 2u, 9u}) form.BeginFromCv(i);
+  EXPECT_TRUE(form.CvListVisible) << "no file of that name";
+  form.BeginFromCv(0);
+  EXPECT_FALSE(form.CvListVisible);
   EXPECT_EQ(form.Nom, u"Durand");
 }
 
 TEST_F(FormLettreTest, ANewLetterTakesTheFirstCvAndTheFirstSentences) {
   form.Text1 = u"old";
-  form.ClicCheck_Modele(0);
+  form.ToggleMedium(0);
   form.NouvelleLettre();
   EXPECT_EQ(dialogs.asked, std::vector<Text>{u"Souhaitez-vous initialiser le modèle de lettre à partir des "
                                              u"informations saisies dans le CV a.dat ?"});
@@ -50,7 +50,7 @@ TEST_F(FormLettreTest, ANewLetterTakesTheFirstCvAndTheFirstSentences) {
   EXPECT_EQ(form.Corps, (std::array<Text, 5>{u"bonjour", u"prêt(e)", u"c", u"d", u"e"}));
   EXPECT_TRUE(form.Text1.starts_with(u"Marie Durand\r\n1 rue X\r\nfond de cour\r\n"));
   EXPECT_TRUE(form.Text1.ends_with(u"\r\nbonjour\r\nprête\r\nc\r\nd\r\ne\r\n"));
-  EXPECT_FALSE(form.CadreObjetVisible);
+  EXPECT_FALSE(form.SubjectVisible);
 }
 
 TEST_F(FormLettreTest, WithoutACvTheFirstLetterGetsAHint) {
@@ -71,53 +71,53 @@ TEST_F(FormLettreTest, WithoutACvTheFirstLetterGetsAHint) {
 
 TEST_F(FormLettreTest, TheButtonsPutTheSentenceInItsGenderAndCompose) {
   form.Prénom = u"Marie";
-  form.BoutonTLV2(0);
+  form.NextSentence(0);
   EXPECT_EQ(form.Corps[0], u"bonsoir");
   EXPECT_TRUE(Contains(form.Text1, u"\r\n\r\nbonsoir\r\n"));
-  form.BoutonTLV1(0);
-  form.BoutonTLV1(0);
+  form.PreviousSentence(0);
+  form.PreviousSentence(0);
   EXPECT_EQ(form.Corps[0], u"bonjour") << "back does not wrap";
-  form.BoutonTLV2(1);
+  form.NextSentence(1);
   EXPECT_EQ(form.Corps[1], u"prête");
   form.Text1 = u"typed by hand";
-  form.BoutonTLV1(1);
+  form.PreviousSentence(1);
   EXPECT_EQ(form.Corps[1], u"prête");
   EXPECT_TRUE(Contains(form.Text1, u"prête")) << "composed even where nothing moves";
 
   form.loading = true;
   form.Text1 = u"kept";
-  form.BoutonTLV2(0);
-  form.ClicCheck_Modele(0);
-  form.BoutonTLV1(5);
-  form.BoutonTLV2(5);
+  form.NextSentence(0);
+  form.ToggleMedium(0);
+  form.PreviousSentence(5);
+  form.NextSentence(5);
   EXPECT_EQ(form.Text1, u"kept");
   EXPECT_EQ(form.Corps[0], u"bonsoir");
 }
 
 TEST_F(FormLettreTest, FlagsAndZonesRecompose) {
-  form.ClicCheck_Modele(0);
-  EXPECT_FALSE(form.CadreObjetVisible);
+  form.ToggleMedium(0);
+  EXPECT_FALSE(form.SubjectVisible);
   EXPECT_TRUE(Contains(form.Text1, u"Objet : En réponse"));
-  form.ClicCheck_candidature(1);
+  form.ToggleOccasion(1);
   EXPECT_EQ(form.Check_candidature, (FlagPair{true, false}));
   EXPECT_TRUE(Contains(form.Text1, u"Objet : Candidature spontanée"));
-  form.ClicCheck_Modele(0);
+  form.ToggleMedium(0);
   EXPECT_EQ(form.Check_Modele, (FlagPair{false, true}));
-  EXPECT_TRUE(form.CadreObjetVisible);
+  EXPECT_TRUE(form.SubjectVisible);
   form.Prénom = u"MARIE";
   form.Corps[4] = u"né(e)";
-  form.QuitterPrénom();
+  form.LeavePrenom();
   EXPECT_EQ(form.Prénom, u"Marie");
-  form.QuitterEmail();
+  form.LeaveEmail();
   EXPECT_TRUE(Contains(form.Text1, u"née"));
   form.Text1 = u"typed by hand";
-  form.ClicPicture2();
+  form.ComposeAnew();
   EXPECT_TRUE(form.Text1.ends_with(u"née\r\n"));
 
   std::filesystem::path opened;
-  form.Command1();
+  form.OpenPropositions();
   form.OuvrirDocument = [&](const auto& file) { opened = file; };
-  form.Command1();
+  form.OpenPropositions();
   EXPECT_EQ(opened.filename(), "propositions.txt");
 }
 
@@ -129,36 +129,36 @@ TEST_F(FormLettreTest, LoadingKeepsWhatTheFileLacksAndSavesNothing) {
   form.ChargerFichierLettre(Write("Lettres/x.dat", u"Text1=a<N>b\r\n"));
   EXPECT_EQ(form.Text1, u"a\r\nb");
   EXPECT_EQ(form.Nom, u"Durand");
-  EXPECT_TRUE(form.CadreObjetVisible);
+  EXPECT_TRUE(form.SubjectVisible);
   EXPECT_EQ(shell.calls, std::vector<Text>{u"Show FormLettre"});
-  form.Timer1();
+  form.SaveIfChanged();
   EXPECT_EQ(form.NomLettre, u"") << "the text is the one of the file";
 
   form.ChargerFichierLettre(Write("Lettres/y.dat", u"0:Check_Modele=1\r\n1:Check_Modele=0\r\n"));
   EXPECT_EQ(form.Check_Modele, (FlagPair{true, false}));
-  EXPECT_FALSE(form.CadreObjetVisible);
+  EXPECT_FALSE(form.SubjectVisible);
 }
 
 TEST_F(FormLettreTest, TheTimerSavesAChangedLetterWithASurname) {
   const std::filesystem::path file = "Lettres/ Durand (ER).dat";
   form.Text1 = u"a";
-  form.Timer1();
+  form.SaveIfChanged();
   EXPECT_EQ(form.NomLettre, u"") << "no surname, no save";
   form.Nom = u"Durand";
-  form.Timer1();
+  form.SaveIfChanged();
   EXPECT_TRUE(Contains(Bytes(file), u"Text1=a\r\n"));
   EXPECT_EQ(principale.ImageMenu[5].toolTip, u" Durand (ER).dat");
 
   form.Tel = u"04";
-  form.Timer1();
+  form.SaveIfChanged();
   EXPECT_FALSE(Contains(Bytes(file), u"Tel=04")) << "the letter itself has not changed";
   form.Text1 = u"b";
-  form.Timer1();
+  form.SaveIfChanged();
   EXPECT_TRUE(Contains(Bytes(file), u"Tel=04"));
 
   form.NomLettre = u"a/b";
   form.Text1 = u"c";
-  form.Timer1();
+  form.SaveIfChanged();
   EXPECT_TRUE(form.saveFailed);
 
   form.Charger();

@@ -117,7 +117,7 @@ TEST_F(Delivered, LeaveNoTagAndNoTokenInAnyLetter) {
       SetFlag(form.Check_Modele, modele, true);
       // From the last sentence of each group back to the first.
       for (std::size_t step = 0; step < longest; ++step) {
-        for (std::size_t i = 0; i < CorpsCount; ++i) form.BoutonTLV1(i);
+        for (std::size_t i = 0; i < CorpsCount; ++i) form.PreviousSentence(i);
         MergedLetter letter;
         form.EnregistrerLettre();
         ASSERT_TRUE(

@@ -32,7 +32,7 @@ QWidget* LetterDesk::MakeWindow(QWidget* parent) {
 // What was typed since the last tick is saved; the model may serve another window at once, so this one
 // goes first.
 void LetterDesk::Unloaded() {
-  form_.Timer1();
+  form_.SaveIfChanged();
   delete window_.data();
 }
 
@@ -57,7 +57,7 @@ void LetterDesk::CloseDocuments() { around_.shell.Unload(LetterForm); }
 
 void LetterDesk::Stop() {
   if (window_) window_->StopTimer();
-  form_.Timer1();
+  form_.SaveIfChanged();
 }
 
 }  // namespace talvor

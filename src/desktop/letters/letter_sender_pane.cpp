@@ -190,7 +190,7 @@ void LetterSenderPane::ShowCvs(const FormLettre& form) {
     names_ = names;
     FillCvs();
   }
-  cvs_->setVisible(form.ListeCVVisible);
+  cvs_->setVisible(form.CvListVisible);
 }
 
 void LetterSenderPane::FitForms() {

@@ -202,8 +202,8 @@ void LetterSheetPane::TellNotes() {
 void LetterSheetPane::ShowState(const FormLettre& form, bool edited) {
   Check(*modele_, form.Check_Modele);
   Check(*candidature_, form.Check_candidature);
-  if (object_->isHidden() == form.CadreObjetVisible) {
-    object_->setVisible(form.CadreObjetVisible);
+  if (object_->isHidden() == form.SubjectVisible) {
+    object_->setVisible(form.SubjectVisible);
     FitLater();
   }
   if (edited != edited_) {

@@ -45,15 +45,15 @@ void LetterWindow::Bind() {
 }
 
 void LetterWindow::ConnectPanes() {
-  sender_->OnCv = [this](std::size_t i) { Do([&] { form_.ClicNomCV(i); }); };
-  sender_->OnLeaveEmail = [this] { Do([&] { form_.QuitterEmail(); }); };
-  sender_->OnLeavePrénom = [this] { Do([&] { form_.QuitterPrénom(); }); };
-  sentences_->OnPrevious = [this](std::size_t i) { Do([&] { form_.BoutonTLV1(i); }); };
-  sentences_->OnNext = [this](std::size_t i) { Do([&] { form_.BoutonTLV2(i); }); };
-  sentences_->OnPropositions = [this] { Do([&] { form_.Command1(); }); };
-  sheet_->OnRecompose = [this] { Do([&] { form_.ClicPicture2(); }); };
-  sheet_->OnModele = [this](std::size_t i) { Do([&] { form_.ClicCheck_Modele(i); }); };
-  sheet_->OnCandidature = [this](std::size_t i) { Do([&] { form_.ClicCheck_candidature(i); }); };
+  sender_->OnCv = [this](std::size_t i) { Do([&] { form_.BeginFromCv(i); }); };
+  sender_->OnLeaveEmail = [this] { Do([&] { form_.LeaveEmail(); }); };
+  sender_->OnLeavePrénom = [this] { Do([&] { form_.LeavePrenom(); }); };
+  sentences_->OnPrevious = [this](std::size_t i) { Do([&] { form_.PreviousSentence(i); }); };
+  sentences_->OnNext = [this](std::size_t i) { Do([&] { form_.NextSentence(i); }); };
+  sentences_->OnPropositions = [this] { Do([&] { form_.OpenPropositions(); }); };
+  sheet_->OnRecompose = [this] { Do([&] { form_.ComposeAnew(); }); };
+  sheet_->OnModele = [this](std::size_t i) { Do([&] { form_.ToggleMedium(i); }); };
+  sheet_->OnCandidature = [this](std::size_t i) { Do([&] { form_.ToggleOccasion(i); }); };
 }
 
 void LetterWindow::ChainTabs() {
@@ -75,7 +75,7 @@ void LetterWindow::NewLetter() {
 }
 
 void LetterWindow::Tick1000() {
-  Do([&] { form_.Timer1(); });
+  Do([&] { form_.SaveIfChanged(); });
 }
 
 // The letter reports a change of its looks, too: only another text is an edit.
