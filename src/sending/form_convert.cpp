@@ -44,7 +44,7 @@ void FormConvert::Charger() {
   target_ = ConvertedCv(around_.environment, DocumentsLayout::OfTheSystem, around_.editor.NomCV, u".doc");
 
   const auto empty = TextOf(fs::current_path() / "DocWord.doc");
-  Text1 = empty ? around_.documents.ProgramFor(*empty) : Text{};
+  DocProgram = empty ? around_.documents.ProgramFor(*empty) : Text{};
 
   if (TraitementTexteOuvert(around_.documents)) around_.dialogs.Tell(CloseBefore);
 
@@ -59,25 +59,27 @@ void FormConvert::Ouvrir(const fs::path& target) {
   OuvrirDocument(TextOf(target).value_or(Text{}), around_.documents, around_.dialogs);
 }
 
-void FormConvert::ClicInfo() {
+void FormConvert::OpenLastVersion() {
   if (infoLeads) Ouvrir(target_);
 }
 
-void FormConvert::ClicLabel2() { Ouvrir(PathOf(DocumentsFolder(around_.environment)).parent_path()); }
+void FormConvert::OpenDocumentsFolder() {
+  Ouvrir(PathOf(DocumentsFolder(around_.environment)).parent_path());
+}
 
-void FormConvert::BoutonTLV1() { around_.shell.Unload(ConvertForm); }
+void FormConvert::Close() { around_.shell.Unload(ConvertForm); }
 
-void FormConvert::BoutonTLV2() {
+void FormConvert::ConvertToDoc() {
   if (TraitementTexteOuvert(around_.documents)) around_.dialogs.Tell(CloseAll);
   conversion_.ConvertirWord();
   around_.shell.Unload(ConvertForm);
 }
 
-void FormConvert::BoutonTLV3() {
+void FormConvert::OpenPage() {
   Ouvrir(ExistingModelFile(u"CVtemp.html").value_or(ModelFile(u"CVtemp.html")));
 }
 
-void FormConvert::ClicPDF() {
+void FormConvert::ConvertToPdf() {
   conversion_.ConvertirPDF();
   around_.shell.Unload(ConvertForm);
 }

@@ -11,19 +11,19 @@ class FormConvert {
  public:
   explicit FormConvert(const CvConversion::Surroundings& around) : around_(around), conversion_(around) {}
 
-  Text Text1;                           // the program associated with .doc
+  Text DocProgram;                      // the program associated with .doc
   Text Info{u"Aucun fichier trouvé."};  // the last converted version, with its date
   bool infoLeads = false;               // a click on `Info` opens that version
 
   // The form is loaded, which comes before anything else asked of it.
   void Charger();
 
-  void ClicInfo();
-  void ClicLabel2();  // opens the documents folder
-  void BoutonTLV1();  // closes the form
-  void BoutonTLV2();  // converts to .doc and closes the form
-  void BoutonTLV3();  // opens the rendered page
-  void ClicPDF();     // converts to PDF and closes the form
+  void OpenLastVersion();
+  void OpenDocumentsFolder();
+  void Close();
+  void ConvertToDoc();  // and closes the form
+  void OpenPage();
+  void ConvertToPdf();  // and closes the form
 
  private:
   void Ouvrir(const std::filesystem::path& target);

@@ -55,17 +55,18 @@ FormPostuler::FormPostuler(Surroundings around) : around_(std::move(around)) {}
 void FormPostuler::Charger() {
   num_ = around_.formCand().Num;
   // The models; those beyond the fifth are not offered.
-  File1.Point(workspace_paths::LetterFolder());
-  for (std::size_t i = 0; i < ModelCount; ++i) Modele[i] = ReplaceAll(File1.List(i), LetterEnding, {});
-  for (std::size_t j = std::min(File1.Count(), ModelCount); j < ModelCount; ++j) ImageLettre[j] = false;
+  LetterFiles.Point(workspace_paths::LetterFolder());
+  for (std::size_t i = 0; i < ModelCount; ++i) Modele[i] = ReplaceAll(LetterFiles.List(i), LetterEnding, {});
+  for (std::size_t j = std::min(LetterFiles.Count(), ModelCount); j < ModelCount; ++j)
+    ModelVisible[j] = false;
 
   // Without any model the path leads to the folder itself, and the merge tells so.
-  Merge(File1.List(0));
+  Merge(LetterFiles.List(0));
 
   for (std::size_t i = 0; i < CvCount; ++i) CV[i] = around_.principale.ImageMenu[i].toolTip;
 
   // After the merge: the subject of the model stands only once the model is picked by hand.
-  ChangerEmailDest(around_.formCand().Email);
+  ChangeRecipient(around_.formCand().Email);
   Objet = u"Réponse à l'annonce ref " + around_.formCand().Reference;
 
   around_.shell.Show(ApplyForm);
@@ -73,11 +74,11 @@ void FormPostuler::Charger() {
   // An advertisement that is answered on the web alone.
   if (EmailDest.empty() && !around_.formCand().www.empty()) {
     SendByMailEnabled = false;
-    ClicMessagerie(MarkAsSent);
+    ChooseWay(MarkAsSent);
   }
-  if (!EmailDest.empty()) BoutonTLV2Visible = false;
+  if (!EmailDest.empty()) ApplyOnlineVisible = false;
 
-  PointFile2();
+  ListAttachableFiles();
 }
 
 void FormPostuler::Merge(TextView fileName) {
@@ -85,14 +86,14 @@ void FormPostuler::Merge(TextView fileName) {
                   *this, around_.dialogs, around_.shell);
 }
 
-void FormPostuler::PointFile2() {
+void FormPostuler::ListAttachableFiles() {
   documents_ = DocumentsFolder(around_.environment);
   documents_.pop_back();
   FileList files;
   files.Point(PathOf(documents_));
-  File2.clear();
+  AttachableFiles.clear();
   for (std::size_t i = 0; i < files.Count(); ++i)
-    if (CanBeAttached(files.List(i))) File2.push_back(files.List(i));
+    if (CanBeAttached(files.List(i))) AttachableFiles.push_back(files.List(i));
 }
 
 bool FormPostuler::IsForTheSame() const { return num_ == around_.formCand().Num; }
@@ -102,21 +103,21 @@ void LoadForReview(const FormPostuler* open, Shell& shell) {
   shell.Load(ApplyForm);
 }
 
-void FormPostuler::OuvrirDepuisFormCand(const ApplyRequest& request) {
+void FormPostuler::OpenFromFormCand(const ApplyRequest& request) {
   around_.shell.Load(ApplyForm);
   Texte = request.Texte;
-  BoutonTLV1Visible = request.canBeSent;
+  SendVisible = request.canBeSent;
   around_.shell.Show(ApplyForm);
 }
 
-void FormPostuler::OuvrirDepuisMenu() {
+void FormPostuler::OpenFromMenu() {
   around_.shell.Load(ApplyForm);
   Texte = around_.formCand().Lettre;
   PJ = around_.formCand().CV;
   around_.shell.Show(ApplyForm);
 }
 
-void FormPostuler::Timer1() {
+void FormPostuler::UpdateMarks() {
   const auto mark = [](bool fit) { return fit ? MarkOk : MarkX; };
   Ok[SenderCheck] = mark(LooksLikeAddress(Email));
   Ok[RecipientCheck] = mark(LooksLikeAddress(EmailDest));
@@ -126,20 +127,20 @@ void FormPostuler::Timer1() {
   Ok[AttachmentCheck] = mark(IsFile(PJ));
 }
 
-void FormPostuler::ChangerEmailDest(TextView text) {
+void FormPostuler::ChangeRecipient(TextView text) {
   if (EmailDest == text) return;
   EmailDest = text;
   if (!Contains(EmailDest, u"@")) return;
-  BoutonTLV2Visible = false;
+  ApplyOnlineVisible = false;
   SendByMailEnabled = true;
-  ClicMessagerie(SendByMail);
+  ChooseWay(SendByMail);
 }
 
-void FormPostuler::ClicModele(std::size_t i) {
+void FormPostuler::ChooseModel(std::size_t i) {
   if (i < ModelCount && !Modele[i].empty()) Merge(Modele[i] + Text{LetterEnding});
 }
 
-void FormPostuler::ClicCV(std::size_t i) {
+void FormPostuler::ChooseCv(std::size_t i) {
   if (i >= CvCount || CV[i].empty()) return;
   const Text name = CV[i];
 
@@ -163,27 +164,27 @@ void FormPostuler::ClicCV(std::size_t i) {
   around_.shell.Show(ConvertForm);
 }
 
-void FormPostuler::ClicMessagerie(std::size_t i) {
+void FormPostuler::ChooseWay(std::size_t i) {
   if (i > SendByMail || (i == SendByMail && !SendByMailEnabled)) return;
   Messagerie = i;
-  BoutonTLV1Libelle = i == SendByMail ? u"Envoyer la candidature" : u"Marquer comme envoyée";
+  SendLabel = i == SendByMail ? u"Envoyer la candidature" : u"Marquer comme envoyée";
 }
 
-void FormPostuler::ClicParcourir() {
+void FormPostuler::OfferAttachableFiles() {
   // A CV may have been converted since the form was opened.
-  PointFile2();
-  if (File2.empty()) return around_.dialogs.Tell(NothingConverted);
-  File2Visible = true;
+  ListAttachableFiles();
+  if (AttachableFiles.empty()) return around_.dialogs.Tell(NothingConverted);
+  AttachableFilesVisible = true;
   around_.shell.Focus(ApplyForm, u"File2");
 }
 
-void FormPostuler::ClicFile2(std::size_t row) {
-  if (row >= File2.size()) return;
-  PJ = documents_ + u"/" + File2[row];
-  File2Visible = false;
+void FormPostuler::AttachFile(std::size_t row) {
+  if (row >= AttachableFiles.size()) return;
+  PJ = documents_ + u"/" + AttachableFiles[row];
+  AttachableFilesVisible = false;
 }
 
-void FormPostuler::BoutonTLV1() {
+void FormPostuler::SendOrMark() {
   try {
     if (Messagerie == SendByMail) return Send();
     MarquerEnvoyee();
@@ -201,7 +202,7 @@ void FormPostuler::Send() {
   }();
   if (ok) {
     MarquerEnvoyee();
-    BoutonTLV1Visible = false;
+    SendVisible = false;
     around_.dialogs.Tell(Sent);
     return;
   }
@@ -213,7 +214,7 @@ void FormPostuler::Send() {
 
 void FormPostuler::MarquerEnvoyee() { around_.formCand().MarquerEnvoyee(PJ, Texte); }
 
-void FormPostuler::BoutonTLV2() {
+void FormPostuler::ApplyOnline() {
   around_.shell.Show(CandidatureForm);
   FormCand& form = around_.formCand();
   form.ShowWebPane();

@@ -57,17 +57,17 @@ class FormPostuler : public MergedLetter {
   Text EmailDest;
   Text PJ;  // one path, or several parted by ";"
   std::array<Text, ModelCount> Modele;
-  std::array<bool, ModelCount> ImageLettre{true, true, true, true, true};  // which ones are shown
+  std::array<bool, ModelCount> ModelVisible{true, true, true, true, true};  // which ones are shown
   std::array<Text, CvCount> CV;
   std::array<CheckMark, 5> Ok{MarkX, MarkX, MarkX, MarkX, MarkX};
   std::optional<std::size_t> Messagerie;  // the way chosen, none at first
   bool SendByMailEnabled = true;
-  Text BoutonTLV1Libelle{u"Postuler"};
-  bool BoutonTLV1Visible = true;
-  bool BoutonTLV2Visible = true;
-  FileList File1;           // the letter models
-  std::vector<Text> File2;  // the documents that can be attached, by name
-  bool File2Visible = false;
+  Text SendLabel{u"Postuler"};
+  bool SendVisible = true;
+  bool ApplyOnlineVisible = true;
+  FileList LetterFiles;               // the letter models
+  std::vector<Text> AttachableFiles;  // the documents that can be attached, by name
+  bool AttachableFilesVisible = false;
 
   // The form is loaded, which comes before anything else asked of it: the letter of the first model is
   // merged with the candidature, and the form comes to the front.
@@ -79,33 +79,33 @@ class FormPostuler : public MergedLetter {
   // -- The ways in that review a candidature. They replace the merged letter, even by an empty text, and
   // load the form unless it stands already. Showing the form is the third way: the letter stays.
   // From the picture of `FormCand`: what was sent already cannot be sent again.
-  void OuvrirDepuisFormCand(const ApplyRequest& request);
+  void OpenFromFormCand(const ApplyRequest& request);
   // `MenuPostuler` of the main window: the main button stays whatever the date of sending holds.
-  void OuvrirDepuisMenu();
+  void OpenFromMenu();
 
   // Every 1000 ms: works the marks out anew. They inform; nothing is barred by them.
-  void Timer1();
+  void UpdateMarks();
 
   // Typing into the recipient: an address opens the way by mail.
-  void ChangerEmailDest(TextView text);
-  void ClicModele(std::size_t i);  // the same for `ImageLettre`
-  void ClicCV(std::size_t i);
-  void ClicMessagerie(std::size_t i);
-  void ClicParcourir();
-  void ClicFile2(std::size_t row);
-  void QuitterFile2() { File2Visible = false; }
-  void BoutonTLV1();  // sends or marks as sent
-  void BoutonTLV2();  // leads to the web page of the advertisement
+  void ChangeRecipient(TextView text);
+  void ChooseModel(std::size_t i);  // the same for its picture
+  void ChooseCv(std::size_t i);
+  void ChooseWay(std::size_t i);
+  void OfferAttachableFiles();
+  void AttachFile(std::size_t row);
+  void CloseAttachableFiles() { AttachableFilesVisible = false; }
+  void SendOrMark();   // by the way that is chosen
+  void ApplyOnline();  // leads to the web page of the advertisement
 
  private:
   void Merge(TextView fileName);
   void Send();
   void MarquerEnvoyee();
-  void PointFile2();
+  void ListAttachableFiles();
 
   Surroundings around_;
   Text num_;        // the number of its candidature at the load
-  Text documents_;  // the folder of `File2`, without a "/" at its end
+  Text documents_;  // the folder of `AttachableFiles`, without a "/" at its end
 };
 
 // Loads the apply form so that it can review a candidature. `open` is the form while it is loaded: one that

@@ -27,7 +27,7 @@ struct ChoiceList {
 // What `OuvrirPostuler` hands to the apply form.
 struct ApplyRequest {
   Text Texte;              // the letter
-  bool canBeSent = false;  // shows `BoutonTLV1`
+  bool canBeSent = false;  // shows the button that sends
 };
 
 // Why the last check refused the fields.

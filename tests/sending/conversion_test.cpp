@@ -154,9 +154,9 @@ TEST_F(ConversionTest, ADocumentsFolderThatCannotBeMadeIsTold) {
 
 TEST_F(ConversionTest, TheFormShowsTheProgramAndTheLastVersion) {
   form.Charger();
-  EXPECT_EQ(form.Text1, u"");
+  EXPECT_EQ(form.DocProgram, u"");
   EXPECT_EQ(form.Info, u"Aucun fichier trouvé.");
-  form.ClicInfo();
+  form.OpenLastVersion();
   EXPECT_TRUE(documents.opened.empty());
 
   documents.program = u"libreoffice-writer.desktop";
@@ -167,11 +167,11 @@ TEST_F(ConversionTest, TheFormShowsTheProgramAndTheLastVersion) {
   const auto written = std::chrono::system_clock::from_time_t(std::mktime(&noon));
   fs::last_write_time(Documents("Dupont.doc"), std::chrono::file_clock::from_sys(written));
   form.Charger();
-  EXPECT_EQ(form.Text1, u"libreoffice-writer.desktop");
+  EXPECT_EQ(form.DocProgram, u"libreoffice-writer.desktop");
   EXPECT_EQ(form.Info, u"Dupont.doc     10/03/2026 18:42:05");
-  form.ClicInfo();
-  form.ClicLabel2();
-  form.BoutonTLV3();
+  form.OpenLastVersion();
+  form.OpenDocumentsFolder();
+  form.OpenPage();
   EXPECT_EQ(documents.opened,
             (std::vector{*TextOf(Documents("Dupont.doc")), *TextOf(scratch.Path() / "Documents"),
                          *TextOf(scratch.Path() / "Modeles" / "CVtemp.html")}));
@@ -180,7 +180,7 @@ TEST_F(ConversionTest, TheFormShowsTheProgramAndTheLastVersion) {
 TEST_F(ConversionTest, AnOpenWordProcessorIsAdvisedAgainstAtOpeningAndAtConverting) {
   documents.titles = {u"x - OpenOffice.org Writer"};
   form.Charger();
-  form.BoutonTLV2();
+  form.ConvertToDoc();
   EXPECT_EQ(dialogs.told,
             (std::vector<Text>{
                 u"Il est recommandé de ferme Microsoft Word ou Open Office pour faciliter la conversion",

@@ -109,19 +109,19 @@ TEST_F(FormPostulerTest, TheLoadMergesTheFirstModelAndOverridesItsSubject) {
   EXPECT_EQ(form.EmailDest, u"rh@acme.fr");
   EXPECT_EQ(form.Objet, u"Réponse à l'annonce ref R12");
   EXPECT_EQ(form.Modele, (std::array<Text, 5>{u"A", u"b"}));
-  EXPECT_EQ(form.ImageLettre, (std::array{true, true, false, false, false}));
+  EXPECT_EQ(form.ModelVisible, (std::array{true, true, false, false, false}));
   EXPECT_EQ(form.CV, (std::array<Text, 5>{u"Zoé.dat", u"Zoé.docx"}));
   EXPECT_TRUE(shell.FormeVisible(ApplyForm));
   EXPECT_TRUE(dialogs.told.empty());
 
   // A model picked by hand brings its own subject, and what was typed is lost.
   form.Texte = u"typed";
-  form.ClicModele(1);
+  form.ChooseModel(1);
   EXPECT_EQ(form.Texte, u"b.dat Acme");
   EXPECT_EQ(form.Objet, u"Pour R12");
   form.Texte = u"typed";
-  form.ClicModele(2);
-  form.ClicModele(9);
+  form.ChooseModel(2);
+  form.ChooseModel(9);
   EXPECT_EQ(form.Texte, u"typed");
 }
 
@@ -129,7 +129,7 @@ TEST_F(FormPostulerTest, OfSixModelsTheFirstFiveAreOffered) {
   for (const TextView name : {u"f.dat", u"e.dat", u"d.dat", u"c.dat", u"b.dat", u"a.dat"}) Model(name);
   Load();
   EXPECT_EQ(form.Modele, (std::array<Text, 5>{u"a", u"b", u"c", u"d", u"e"}));
-  EXPECT_EQ(form.ImageLettre, (std::array{true, true, true, true, true}));
+  EXPECT_EQ(form.ModelVisible, (std::array{true, true, true, true, true}));
 }
 
 TEST_F(FormPostulerTest, WithoutModelOrFolderTheMergeTellsAndTheFormOpensEmpty) {
@@ -138,10 +138,10 @@ TEST_F(FormPostulerTest, WithoutModelOrFolderTheMergeTellsAndTheFormOpensEmpty) 
     if (!folder) fs::remove("Lettres");
     dialogs.told.clear();
     form.Charger();
-    form.Timer1();
+    form.UpdateMarks();
     EXPECT_EQ(dialogs.told, std::vector<Text>{Text{NoModel}});
     EXPECT_EQ(form.Texte, u"");
-    EXPECT_EQ(form.ImageLettre, (std::array{false, false, false, false, false}));
+    EXPECT_EQ(form.ModelVisible, (std::array{false, false, false, false, false}));
     EXPECT_EQ(form.Ok[FormPostuler::LetterCheck], MarkX);
     EXPECT_TRUE(shell.FormeVisible(ApplyForm));
   }
@@ -163,17 +163,17 @@ TEST_P(Recipients, DecideTheWaysOnOffer) {
   formCand.www = GetParam().www;
   Load();
   EXPECT_EQ(form.SendByMailEnabled, GetParam().byMail);
-  EXPECT_EQ(form.BoutonTLV2Visible, GetParam().online);
+  EXPECT_EQ(form.ApplyOnlineVisible, GetParam().online);
   EXPECT_EQ(form.Messagerie, GetParam().way);
-  EXPECT_EQ(form.BoutonTLV1Libelle, GetParam().label);
+  EXPECT_EQ(form.SendLabel, GetParam().label);
   // An address typed in opens the way by mail at once; other letters change nothing.
-  form.ChangerEmailDest(u"x");
+  form.ChangeRecipient(u"x");
   EXPECT_EQ(form.SendByMailEnabled, GetParam().byMail);
-  form.ChangerEmailDest(u"x@");
+  form.ChangeRecipient(u"x@");
   EXPECT_TRUE(form.SendByMailEnabled);
-  EXPECT_FALSE(form.BoutonTLV2Visible);
+  EXPECT_FALSE(form.ApplyOnlineVisible);
   EXPECT_EQ(form.Messagerie, FormPostuler::SendByMail);
-  EXPECT_EQ(form.BoutonTLV1Libelle, u"Envoyer la candidature");
+  EXPECT_EQ(form.SendLabel, u"Envoyer la candidature");
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -192,26 +192,26 @@ TEST_F(FormPostulerTest, TheThreeWaysInDifferInWhatTheyReplace) {
   formCand.RunAction(DetailAction::ShowApplyForm);
   EXPECT_EQ(form.Texte, u"a.dat Acme");
   EXPECT_EQ(form.PJ, u"");
-  EXPECT_TRUE(form.BoutonTLV1Visible);
+  EXPECT_TRUE(form.SendVisible);
 
-  formCand.OuvrirPostuler = [this](const ApplyRequest& request) { form.OuvrirDepuisFormCand(request); };
+  formCand.OuvrirPostuler = [this](const ApplyRequest& request) { form.OpenFromFormCand(request); };
   formCand.DateEnvoi = u"01/02/2026";
   formCand.OpenApplyForm();
   EXPECT_EQ(form.Texte, u"stored");
   EXPECT_EQ(form.PJ, u"");
-  EXPECT_FALSE(form.BoutonTLV1Visible);
+  EXPECT_FALSE(form.SendVisible);
   formCand.DateEnvoi.clear();
   formCand.Lettre.clear();
   formCand.OpenApplyForm();
   EXPECT_EQ(form.Texte, u"");
-  EXPECT_TRUE(form.BoutonTLV1Visible);
+  EXPECT_TRUE(form.SendVisible);
 
   formCand.DateEnvoi = u"01/02/2026";
   formCand.Lettre = u"again";
-  form.OuvrirDepuisMenu();
+  form.OpenFromMenu();
   EXPECT_EQ(form.Texte, u"again");
   EXPECT_EQ(form.PJ, u"C.doc");
-  EXPECT_TRUE(form.BoutonTLV1Visible);
+  EXPECT_TRUE(form.SendVisible);
   EXPECT_EQ(shell.calls.back(), u"Show FormPostuler");
 }
 
@@ -247,14 +247,14 @@ TEST_P(Checks, TellWhatIsFitToGoAndTouchNothingElse) {
   form.Email = form.EmailDest = u"a@b.fr";
   form.Texte = form.Objet = u"texte";
   form.PJ = u"cv.doc";
-  form.Timer1();
+  form.UpdateMarks();
   EXPECT_EQ(form.Ok, (std::array{MarkOk, MarkOk, MarkOk, MarkOk, MarkOk}));
   Field(GetParam().check) = GetParam().value;
-  form.Timer1();
+  form.UpdateMarks();
   std::array<CheckMark, 5> expected{MarkOk, MarkOk, MarkOk, MarkOk, MarkOk};
   if (!GetParam().fit) expected[GetParam().check] = MarkX;
   EXPECT_EQ(form.Ok, expected);
-  EXPECT_TRUE(form.BoutonTLV1Visible);
+  EXPECT_TRUE(form.SendVisible);
 }
 
 INSTANTIATE_TEST_SUITE_P(Marks, Checks,
@@ -297,23 +297,23 @@ TEST_F(FormPostulerTest, AFormOpenForAnotherCandidatureBeginsAnew) {
 TEST_F(FormPostulerTest, AnAttachmentRemovedMeanwhileTurnsItsMark) {
   Write(u"Documents/x.pdf");
   form.PJ = Documents(u"x.pdf");
-  form.Timer1();
+  form.UpdateMarks();
   EXPECT_EQ(form.Ok[FormPostuler::AttachmentCheck], MarkOk);
   fs::remove("Documents/x.pdf");
-  form.Timer1();
+  form.UpdateMarks();
   EXPECT_EQ(form.Ok[FormPostuler::AttachmentCheck], MarkX);
 }
 
 TEST_F(FormPostulerTest, ASlotGivesItsFileOrItsConvertedVersionOrTheConversion) {
   form.CV = {u"a.docx", u"b.rtf", u"c.pdf.dat", u"Roy Zoé.dat", u""};
   for (std::size_t i = 0; i < 3; ++i) {
-    form.ClicCV(i);
+    form.ChooseCv(i);
     EXPECT_EQ(form.PJ, form.CV[i]);
   }
   form.PJ = u"before";
-  form.ClicCV(4);
+  form.ChooseCv(4);
   dialogs.answer = false;
-  form.ClicCV(3);
+  form.ChooseCv(3);
   EXPECT_EQ(dialogs.asked,
             std::vector<Text>{
                 u"Ce CV n'a pas été converti au format .doc. Souhaitez vous le convertir maintenant ?"});
@@ -321,7 +321,7 @@ TEST_F(FormPostulerTest, ASlotGivesItsFileOrItsConvertedVersionOrTheConversion) 
   EXPECT_TRUE(loadedCvs.empty());
 
   dialogs.answer = true;
-  form.ClicCV(3);
+  form.ChooseCv(3);
   EXPECT_EQ(loadedCvs, std::vector<Text>{u"Roy Zoé.dat"});
   EXPECT_EQ(shell.calls.back(), u"Show FormConvert");
   EXPECT_EQ(form.PJ, u"before");
@@ -329,32 +329,32 @@ TEST_F(FormPostulerTest, ASlotGivesItsFileOrItsConvertedVersionOrTheConversion) 
   // Clicked again once it is converted; the newer folder whatever the layout.
   Write(u"Documents/Roy Zoé.doc");
   environment.values.erase(u"ALLUSERSPROFILE");
-  form.ClicCV(3);
+  form.ChooseCv(3);
   EXPECT_EQ(form.PJ, Documents(u"Roy Zoé.doc"));
   EXPECT_EQ(dialogs.asked.size(), 2u);
 }
 
 TEST_F(FormPostulerTest, TheListOfDocumentsShowsWhatCanBeAttached) {
   Load();
-  form.ClicParcourir();
-  EXPECT_FALSE(form.File2Visible);
+  form.OfferAttachableFiles();
+  EXPECT_FALSE(form.AttachableFilesVisible);
   EXPECT_EQ(dialogs.told.back(), u"Vous n'avez pas converti votre CV au format word (ou pdf, ou rtf ou odt)");
 
   for (const TextView name : {u"a.doc", u"b.DOCX", u"c.pdf", u"d.odt", u"e.rtf", u"f.doc.bak", u"doc"})
     Write(u"Documents/" + Text{name});
-  form.ClicParcourir();
-  EXPECT_TRUE(form.File2Visible);
+  form.OfferAttachableFiles();
+  EXPECT_TRUE(form.AttachableFilesVisible);
   EXPECT_EQ(shell.focus, u"FormPostuler.File2");
-  EXPECT_EQ(form.File2, (std::vector<Text>{u"a.doc", u"b.DOCX", u"c.pdf", u"d.odt"}));
-  form.ClicFile2(4);
-  EXPECT_TRUE(form.File2Visible);
-  form.QuitterFile2();
-  EXPECT_FALSE(form.File2Visible);
+  EXPECT_EQ(form.AttachableFiles, (std::vector<Text>{u"a.doc", u"b.DOCX", u"c.pdf", u"d.odt"}));
+  form.AttachFile(4);
+  EXPECT_TRUE(form.AttachableFilesVisible);
+  form.CloseAttachableFiles();
+  EXPECT_FALSE(form.AttachableFilesVisible);
   EXPECT_EQ(form.PJ, u"");
-  form.ClicParcourir();
-  form.ClicFile2(1);
+  form.OfferAttachableFiles();
+  form.AttachFile(1);
   EXPECT_EQ(form.PJ, Documents(u"b.DOCX"));
-  EXPECT_FALSE(form.File2Visible);
+  EXPECT_FALSE(form.AttachableFilesVisible);
 }
 
 TEST_F(FormPostulerTest, TheListOfDocumentsFollowsTheOlderLayout) {
@@ -362,8 +362,8 @@ TEST_F(FormPostulerTest, TheListOfDocumentsFollowsTheOlderLayout) {
   fs::create_directory("Mes documents");
   Write(u"Mes documents/a.doc");
   Load();
-  form.ClicParcourir();
-  form.ClicFile2(0);
+  form.OfferAttachableFiles();
+  form.AttachFile(0);
   EXPECT_EQ(form.PJ, *TextOf(scratch.Path()) + u"/Mes documents/a.doc");
 }
 
@@ -373,12 +373,12 @@ TEST_F(FormPostulerTest, ASendThatWorksMarksTheCandidatureAndHidesTheButton) {
   Write(u"Documents/cv.doc");
   form.PJ = Documents(u"cv.doc");
   form.Texte = u"\r\nBonjour\r\n";
-  form.BoutonTLV1();
+  form.SendOrMark();
   EXPECT_EQ(mail.steps[2], u"SetRecipient rh@acme.fr");
   EXPECT_EQ(mail.steps[3], u"SetSubject Réponse à l'annonce ref R12");
   EXPECT_EQ(mail.steps[4], u"SetNoteText Bonjour");
   EXPECT_EQ(dialogs.told, std::vector<Text>{Text{SentText}});
-  EXPECT_FALSE(form.BoutonTLV1Visible);
+  EXPECT_FALSE(form.SendVisible);
   const Candidature row = Row();
   EXPECT_EQ(row.Statut, ListeStatuts[1]);
   EXPECT_EQ(row.DateEnvoi, u"01/03/2026");
@@ -390,15 +390,15 @@ TEST_F(FormPostulerTest, AFailedSendMarksNothingAndLeavesTheButton) {
   Model(u"a.dat");
   Load();
   mail.failing = {u"Send"};
-  form.BoutonTLV1();
+  form.SendOrMark();
   EXPECT_EQ(dialogs.told, std::vector<Text>{Text{NotSentText}});
-  EXPECT_TRUE(form.BoutonTLV1Visible);
+  EXPECT_TRUE(form.SendVisible);
   EXPECT_EQ(Database::Open(clock).CountRows(), 0);
   EXPECT_EQ(formCand.DateEnvoi, u"");
 
   // The file in which the message has been left is told besides.
   mail.left = u"Documents/Message.eml";
-  form.BoutonTLV1();
+  form.SendOrMark();
   ASSERT_EQ(dialogs.told.size(), 3u);
   EXPECT_EQ(dialogs.told[1], NotSentText);
   EXPECT_TRUE(Contains(dialogs.told[2], mail.left));
@@ -407,13 +407,13 @@ TEST_F(FormPostulerTest, AFailedSendMarksNothingAndLeavesTheButton) {
 TEST_F(FormPostulerTest, MarkingAsSentWritesTheCandidatureAndKeepsTheButton) {
   Model(u"a.dat");
   Load();
-  form.ClicMessagerie(FormPostuler::MarkAsSent);
-  EXPECT_EQ(form.BoutonTLV1Libelle, u"Marquer comme envoyée");
+  form.ChooseWay(FormPostuler::MarkAsSent);
+  EXPECT_EQ(form.SendLabel, u"Marquer comme envoyée");
   form.PJ = u"a.doc;b.pdf";
-  form.BoutonTLV1();
+  form.SendOrMark();
   EXPECT_TRUE(mail.steps.empty());
   EXPECT_EQ(dialogs.told, std::vector<Text>{Text{MarkedText}});
-  EXPECT_TRUE(form.BoutonTLV1Visible);
+  EXPECT_TRUE(form.SendVisible);
   EXPECT_EQ(Row().Statut, ListeStatuts[1]);
   EXPECT_EQ(Row().DateEnvoi, u"01/03/2026");
   EXPECT_EQ(Row().CV, u"a.doc;b.pdf");
@@ -425,10 +425,10 @@ TEST_F(FormPostulerTest, AFailureOfTheDatabaseIsToldInTheWordsOfTheConnection) {
   Load();
   fs::remove("Talvor.mdb");
   for (const std::size_t way : {FormPostuler::SendByMail, FormPostuler::MarkAsSent}) {
-    form.ClicMessagerie(way);
-    form.BoutonTLV1();
+    form.ChooseWay(way);
+    form.SendOrMark();
     EXPECT_EQ(dialogs.told.back(), u"Talvor ne parvient pas à se connecter à Internet");
-    EXPECT_TRUE(form.BoutonTLV1Visible);
+    EXPECT_TRUE(form.SendVisible);
   }
 }
 
@@ -438,13 +438,13 @@ TEST_F(FormPostulerTest, ApplyingOnlineLeadsToThePageUnlessItIsOnShow) {
   Load();
   browser.location = u"elsewhere";
   formCand.AdresseWeb = formCand.www;
-  form.BoutonTLV2();
+  form.ApplyOnline();
   EXPECT_TRUE(formCand.WebPaneVisible);
   EXPECT_EQ(shell.calls.back(), u"Show FormCand");
   EXPECT_EQ(browser.location, u"elsewhere");
 
   formCand.AdresseWeb = u"http://other";
-  form.BoutonTLV2();
+  form.ApplyOnline();
   EXPECT_EQ(browser.location, u"http://annonces.example/4");
   EXPECT_EQ(formCand.AdresseWeb, u"http://annonces.example/4");
 }

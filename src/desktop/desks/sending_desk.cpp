@@ -109,11 +109,11 @@ void SendingDesk::Review(const std::function<void()>& wayIn) {
 }
 
 void SendingDesk::OpenFromFormCand(const ApplyRequest& request) {
-  Review([&] { apply_->OuvrirDepuisFormCand(request); });
+  Review([&] { apply_->OpenFromFormCand(request); });
 }
 
 void SendingDesk::OpenFromMenu() {
-  Review([this] { apply_->OuvrirDepuisMenu(); });
+  Review([this] { apply_->OpenFromMenu(); });
 }
 
 void SendingDesk::Stop() {

@@ -62,7 +62,7 @@ ApplyWindow::ApplyWindow(FormPostuler& form, const Theme& theme, QWidget* parent
   AddFoot(MakeFoot());
 
   binder_.OnEdited = [this](QWidget& field) {
-    if (&field == recipient_) Do([this] { form_.ChangerEmailDest(emailDest_); });
+    if (&field == recipient_) Do([this] { form_.ChangeRecipient(emailDest_); });
   };
   connect(this, &QDialog::finished, this, [this] {
     timer1_.stop();
@@ -127,7 +127,7 @@ QWidget* ApplyWindow::MakeMessage() {
   documents_->installEventFilter(this);
   documents_->hide();
   const auto take = [this](const QListWidgetItem* item) {
-    Do([&] { form_.ClicFile2(static_cast<std::size_t>(documents_->row(item))); });
+    Do([&] { form_.AttachFile(static_cast<std::size_t>(documents_->row(item))); });
   };
   connect(documents_, &QListWidget::itemClicked, this, take);
   connect(documents_, &QListWidget::itemActivated, this, take);
@@ -156,7 +156,7 @@ QWidget* ApplyWindow::MakeAttachment(QWidget* parent) {
   browse->setProperty("dense", true);
   browse->setAutoDefault(false);
   TintIcon(theme_, *browse, QStringLiteral("folder"), QStringLiteral("text"));
-  connect(browse, &QPushButton::clicked, this, [this] { Do([this] { form_.ClicParcourir(); }); });
+  connect(browse, &QPushButton::clicked, this, [this] { Do([this] { form_.OfferAttachableFiles(); }); });
   row->addWidget(path_, 1);
   row->addWidget(browse);
   box->setFocusProxy(path_);
@@ -195,9 +195,9 @@ QWidget* ApplyWindow::MakeChoices() {
   column->setSpacing(8);
   MakeCard(
       tr("Modèles de &lettre"), models_, QStringLiteral("Modele"),
-      [this](std::size_t i) { form_.ClicModele(i); }, column);
+      [this](std::size_t i) { form_.ChooseModel(i); }, column);
   column->addSpacing(6);
-  MakeCard(tr("&CV"), cvs_, QStringLiteral("CV"), [this](std::size_t i) { form_.ClicCV(i); }, column);
+  MakeCard(tr("&CV"), cvs_, QStringLiteral("CV"), [this](std::size_t i) { form_.ChooseCv(i); }, column);
   column->addStretch(1);
   MakeWays(plane, column);
   return plane;
@@ -211,7 +211,7 @@ void ApplyWindow::MakeWays(QWidget* parent, QVBoxLayout* column) {
     auto* option = new QRadioButton(caption, parent);
     option->setObjectName(QStringLiteral("Messagerie%1").arg(way));
     connect(option, &QRadioButton::clicked, this,
-            [this, chosen = way] { Do([&] { form_.ClicMessagerie(chosen); }); });
+            [this, chosen = way] { Do([&] { form_.ChooseWay(chosen); }); });
     group->addButton(option);
     column->addWidget(option);
     ways_[way] = option;
@@ -238,7 +238,7 @@ QWidget* ApplyWindow::MakeFoot() {
   action_->setObjectName(QStringLiteral("BoutonTLV1"));
   action_->setProperty("role", QStringLiteral("primary"));
   for (BoutonTLV* button : {online_, action_}) button->setAutoDefault(false);
-  connect(online_, &QPushButton::clicked, this, [this] { Do([this] { form_.BoutonTLV2(); }); });
+  connect(online_, &QPushButton::clicked, this, [this] { Do([this] { form_.ApplyOnline(); }); });
   connect(action_, &QPushButton::clicked, this, &ApplyWindow::MainAction);
   row->addWidget(sign);
   row->addWidget(note, 1);
@@ -250,7 +250,7 @@ QWidget* ApplyWindow::MakeFoot() {
 void ApplyWindow::MainAction() {
   action_->setEnabled(false);  // until the client has the message
   const QPointer<ApplyWindow> self(this);
-  Do([this] { form_.BoutonTLV1(); });
+  Do([this] { form_.SendOrMark(); });
   if (self) action_->setEnabled(true);
 }
 
@@ -263,7 +263,7 @@ void ApplyWindow::Do(const std::function<void()>& action) {
 }
 
 void ApplyWindow::Tick1000() {
-  form_.Timer1();
+  form_.UpdateMarks();
   for (std::size_t i = 0; i < marks_.size(); ++i) marks_[i]->ShowMark(form_.Ok[i]);
 }
 
@@ -276,7 +276,7 @@ void ApplyWindow::SetIcon(QAbstractButton& button, const QString& icon, const QS
 
 void ApplyWindow::ShowChoices() {
   for (std::size_t i = 0; i < models_.size(); ++i) {
-    models_[i]->setVisible(form_.ImageLettre[i]);
+    models_[i]->setVisible(form_.ModelVisible[i]);
     ShowName(*models_[i], form_.Modele[i]);
     SetIcon(*models_[i], QStringLiteral("letter"), QStringLiteral("text2"));
   }
@@ -294,14 +294,14 @@ void ApplyWindow::ShowChoices() {
 }
 
 void ApplyWindow::ShowDocuments() {
-  if (form_.File2Visible && documents_->isHidden()) {
+  if (form_.AttachableFilesVisible && documents_->isHidden()) {
     documents_->clear();
-    for (const Text& name : form_.File2) documents_->addItem(ToQt(name));
+    for (const Text& name : form_.AttachableFiles) documents_->addItem(ToQt(name));
     documents_->setCurrentRow(0);
     documents_->show();
     documents_->setFocus(Qt::OtherFocusReason);
   }
-  if (!form_.File2Visible) documents_->hide();
+  if (!form_.AttachableFilesVisible) documents_->hide();
 }
 
 void ApplyWindow::Refresh() {
@@ -309,16 +309,16 @@ void ApplyWindow::Refresh() {
   binder_.Refresh();
   ShowChoices();
   ShowDocuments();
-  action_->setVisible(form_.BoutonTLV1Visible);
-  online_->setVisible(form_.BoutonTLV2Visible);
+  action_->setVisible(form_.SendVisible);
+  online_->setVisible(form_.ApplyOnlineVisible);
   const bool mail = form_.Messagerie == FormPostuler::SendByMail;
-  action_->SetLibelle(ToQt(form_.BoutonTLV1Libelle).replace(QLatin1Char('v'), QStringLiteral("&v")));
+  action_->SetLibelle(ToQt(form_.SendLabel).replace(QLatin1Char('v'), QStringLiteral("&v")));
   SetIcon(*action_, mail ? QStringLiteral("send") : QStringLiteral("check"), QStringLiteral("onprimary"));
 }
 
 bool ApplyWindow::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == documents_ && event->type() == QEvent::FocusOut && form_.File2Visible) {
-    form_.QuitterFile2();
+  if (watched == documents_ && event->type() == QEvent::FocusOut && form_.AttachableFilesVisible) {
+    form_.CloseAttachableFiles();
     // The click that takes the focus may be on its way to a button that would move.
     QMetaObject::invokeMethod(this, [this] { ShowDocuments(); }, Qt::QueuedConnection);
   }
@@ -331,8 +331,8 @@ void ApplyWindow::keyPressEvent(QKeyEvent* event) {
     if (action_->isVisible() && action_->isEnabled()) MainAction();
     return;
   }
-  if (event->key() == Qt::Key_Escape && form_.File2Visible) {
-    form_.QuitterFile2();
+  if (event->key() == Qt::Key_Escape && form_.AttachableFilesVisible) {
+    form_.CloseAttachableFiles();
     return ShowDocuments();
   }
   ScrollingDialog::keyPressEvent(event);

@@ -39,7 +39,7 @@ QWidget* ConvertWindow::MakeProgram() {
   auto* column = new QVBoxLayout(box);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(5);
-  auto* field = new QLineEdit(ToQt(form_.Text1), box);
+  auto* field = new QLineEdit(ToQt(form_.DocProgram), box);
   field->setObjectName(QStringLiteral("Text1"));
   field->setReadOnly(true);
   column->addWidget(
@@ -70,7 +70,7 @@ QWidget* ConvertWindow::MakeLastVersion() {
   const QString text = ToQt(form_.Info).replace(QLatin1Char('&'), QStringLiteral("&&"));
   auto* info = MakeLink(theme_, QStringLiteral("cv-word"), text, QStringLiteral("Info"), card);
   info->setAutoDefault(false);
-  connect(info, &QPushButton::clicked, this, [this] { form_.ClicInfo(); });
+  connect(info, &QPushButton::clicked, this, [this] { form_.OpenLastVersion(); });
   row->addWidget(info);
   row->addStretch(1);
   info->setAccessibleName(caption->text() + QStringLiteral("\u00A0: ") + ToQt(form_.Info));
@@ -92,7 +92,7 @@ QWidget* ConvertWindow::MakeFolder() {
   };
   connect(&theme_, &Theme::Changed, label, tell);
   tell();
-  connect(label, &QLabel::linkActivated, this, [this] { form_.ClicLabel2(); });
+  connect(label, &QLabel::linkActivated, this, [this] { form_.OpenDocumentsFolder(); });
   return label;
 }
 
@@ -114,14 +114,14 @@ QWidget* ConvertWindow::MakeFoot() {
     return button;
   };
   add("BoutonTLV3", tr("Ouverture du CV au format &HTML"), QStringLiteral("code"), false,
-      [this] { form_.BoutonTLV3(); });
+      [this] { form_.OpenPage(); });
   row->addStretch(1);
   add("ConvertirPDF", tr("&PDF"), QStringLiteral("cv-pdf"), false, [this] {
-    Convert([this] { form_.ClicPDF(); });
+    Convert([this] { form_.ConvertToPdf(); });
   })->setAccessibleName(tr("Convertir au format PDF"));
   convert_ = add("BoutonTLV2", tr("&Convertir"), QStringLiteral("convert"), true,
-                 [this] { Convert([this] { form_.BoutonTLV2(); }); });
-  add("BoutonTLV1", tr("&Fermer"), {}, false, [this] { form_.BoutonTLV1(); });
+                 [this] { Convert([this] { form_.ConvertToDoc(); }); });
+  add("BoutonTLV1", tr("&Fermer"), {}, false, [this] { form_.Close(); });
   return foot;
 }
 
