@@ -28,7 +28,7 @@ void CandidatureMenus::MenuRechercherOffres() {
   if (ways.naviguerAccueil) ways.naviguerAccueil();
 }
 
-bool CandidatureMenus::Choisir(TextView item) {
+bool CandidatureMenus::Choose(TextView item) {
   if (item == u"MenuOuvrirCand") {
     MenuOuvrirCand();
     return true;

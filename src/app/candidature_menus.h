@@ -29,7 +29,7 @@ class CandidatureMenus {
   Ways ways;
 
   // Runs the item of that name; false for a name of other menus.
-  bool Choisir(TextView item);
+  bool Choose(TextView item);
 
   void MenuOuvrirCand();
   void MenuRechercherOffres();

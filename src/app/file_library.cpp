@@ -81,14 +81,14 @@ Text FileLibrary::Name() const {
   return index < 0 ? Text{} : around_.principale.ImageMenu[static_cast<std::size_t>(index)].toolTip;
 }
 
-void FileLibrary::ClicSlot(std::size_t slot) {
+void FileLibrary::OpenSlotMenu(std::size_t slot) {
   EnableSlotMenu(around_.menus, around_.principale, slot, around_.shell.FormeVisible(EditorForm),
                  around_.environment);
   around_.principale.IndexMenu = static_cast<std::int16_t>(slot);
   around_.menus.Open(MenuOfSlot(slot));
 }
 
-void FileLibrary::DoubleClicSlot(std::size_t slot) {
+void FileLibrary::OpenSlot(std::size_t slot) {
   if (slot < Principale::CandidatureSlot && !around_.principale.ImageMenu[slot].visible) return;
   around_.principale.IndexMenu = static_cast<std::int16_t>(slot);
   const Text name = Name();
@@ -109,15 +109,15 @@ bool FileLibrary::ChooseFile(std::size_t slot) {
   return true;
 }
 
-void FileLibrary::RenommerSlot(std::size_t slot) {
+void FileLibrary::RenameSlot(std::size_t slot) {
   if (ChooseFile(slot)) slot < Principale::FirstLetterSlot ? Renommer() : RenommerLettre();
 }
 
-void FileLibrary::SupprimerSlot(std::size_t slot) {
+void FileLibrary::DeleteSlot(std::size_t slot) {
   if (ChooseFile(slot)) slot < Principale::FirstLetterSlot ? MenuSupprimerCV() : MenuSupprimerLettre();
 }
 
-bool FileLibrary::Choisir(TextView item) {
+bool FileLibrary::Choose(TextView item) {
   struct Action {
     TextView item;
     void (FileLibrary::*run)();
@@ -183,7 +183,7 @@ void FileLibrary::MenuOuvrirCV() {
 void FileLibrary::MenuSupprimerCV() { SupprimerCV(static_cast<std::size_t>(around_.principale.IndexMenu)); }
 
 void FileLibrary::SupprimerCV(std::size_t index) {
-  FileList& list = around_.principale.File1;
+  FileList& list = around_.principale.ListedFiles;
   list.Point(workspace_paths::CvFolder());
   const Text name = list.List(index);
   if (!around_.dialogs.Confirm(u"Confirmez-vous la suppression du CV : " + name + u" ?")) return;

@@ -42,13 +42,13 @@ class FileLibrary {
   Ways ways;
 
   // A click on a slot, 0 to 10: its menu, with the items that apply. A double click: its document.
-  void ClicSlot(std::size_t slot);
-  void DoubleClicSlot(std::size_t slot);
+  void OpenSlotMenu(std::size_t slot);
+  void OpenSlot(std::size_t slot);
   // The keys of a slot that holds a file: its renaming, its delete. A free slot has neither.
-  void RenommerSlot(std::size_t slot);
-  void SupprimerSlot(std::size_t slot);
+  void RenameSlot(std::size_t slot);
+  void DeleteSlot(std::size_t slot);
   // Runs the item of `MenuCV` or `MenuLettre` of that name; false for a name of other menus.
-  bool Choisir(TextView item);
+  bool Choose(TextView item);
 
   void MenuNouveauCV();
   void MenuRattacherCV();

@@ -258,7 +258,7 @@ bool FormLoadSave::Nouvel() {
 }
 
 // During a copy the button stops it, and the form stays for its report.
-void FormLoadSave::BoutonTLV1() {
+void FormLoadSave::Close() {
   if (busy) return Annuler();
   around_.shell.Unload(LoadSaveForm);
 }

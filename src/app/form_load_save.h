@@ -51,7 +51,7 @@ class FormLoadSave {
   bool Nouvel();
   // Stops the copy under way.
   void Annuler() { stopped_ = true; }
-  void BoutonTLV1();
+  void Close();
 
   // Copies the workspace into the folder of the answer, under its own name.
   bool SauverDans(const std::filesystem::path& answer);

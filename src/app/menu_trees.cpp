@@ -158,7 +158,7 @@ void EnableSlotMenu(Menus& menus, const Principale& principale, std::size_t slot
   const auto enabled = [&](State state) {
     // The list is the one read last, which is that of the letters after each change of the files.
     constexpr std::size_t MostFiles = 5;
-    if (state == State::FewFiles) return principale.File1.Count() < MostFiles;
+    if (state == State::FewFiles) return principale.ListedFiles.Count() < MostFiles;
     if (state == State::OpenDocument) return cvOpen && Contains(clicked.toolTip, u".dat");
     if (state == State::LastWordVersion) return HasWordVersion(environment, clicked.toolTip);
     return state == State::Enabled;

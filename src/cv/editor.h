@@ -105,7 +105,7 @@ class FormRédigerCV : public CvDocument {
 
   // -- The menus of the buttons.
   // Runs the item of that name; false for a name of other menus.
-  bool Choisir(TextView item);
+  bool Choose(TextView item);
   void PrévisualiserCV();
   void ImprimerCV();
   void MessageTrames();  // the advice on printing

@@ -8,7 +8,7 @@
 
 namespace talvor {
 
-bool FormRédigerCV::Choisir(TextView item) {
+bool FormRédigerCV::Choose(TextView item) {
   struct Action {
     TextView item;
     void (FormRédigerCV::*run)();

@@ -10,7 +10,7 @@ class Assistant {
   explicit Assistant(Shell& shell) : shell_(shell) {}
 
   // While it stands: it closes once the editor of CVs is there, over which it must not stand.
-  void Timer1() {
+  void CloseIfEditorOpen() {
     if (shell_.FormeVisible(EditorForm)) shell_.Unload(AssistantForm);
   }
 

@@ -46,9 +46,9 @@ void Depart::PlaySplash(const Steps& steps) {
   for (int i = 1; i <= 255; i += 20) {
     shell_.PumpEvents();
     Wait(40);
-    Opacite = i;
+    Opacity = i;
     shell_.Load(SplashShadowForm);
-    if (i / 5 < 35) OpaciteOmbre = i / 5;
+    if (i / 5 < 35) ShadowOpacity = i / 5;
     PictureOffset += 120;
     steps.onChange();
   }

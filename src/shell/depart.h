@@ -28,8 +28,8 @@ class Depart {
  public:
   Depart(Dialogs& dialogs, Shell& shell);
 
-  int Opacite = 0;        // of the splash, 0 to 255
-  int OpaciteOmbre = 1;   // of its shadow `Ombre`
+  int Opacity = 0;        // of the splash, 0 to 255
+  int ShadowOpacity = 1;  // of its shadow `Ombre`
   int PictureOffset = 0;  // twips that the picture has slid to the left
 
   // What the load needs of the floors around it. `showPrincipale` loads the model of the main window
@@ -47,7 +47,7 @@ class Depart {
   [[nodiscard]] bool Charger(ScreenSize screen, const Steps& steps);
 
   // A key or a click: what is left of the splash's waits is not waited for.
-  void Abreger() { shortened_ = true; }
+  void Shorten() { shortened_ = true; }
 
  private:
   void PlaySplash(const Steps& steps);

@@ -18,7 +18,7 @@ constexpr int HoldMilliseconds = 30;
 Guide::Guide(const Principale& principale, Shell& shell) : principale_(principale), shell_(shell) {}
 
 void Guide::Show(int opacity) {
-  Opacite = opacity;
+  Opacity = opacity;
   if (OnChange) OnChange();
 }
 
@@ -26,9 +26,9 @@ void Guide::Charger() {
   constexpr std::array<TextView, 3> SpokenOf{LetterForm, EditorForm, CandidatureForm};
   if (std::none_of(SpokenOf.begin(), SpokenOf.end(), [&](TextView f) { return shell_.FormeVisible(f); }))
     return;
-  Label1 = principale_.InfoGuide;
-  place = Contains(Label1, u"lettre") || Contains(Label1, u"description") ? Place::BottomLeft
-                                                                          : Place::UnderHeader;
+  Hint = principale_.InfoGuide;
+  place =
+      Contains(Hint, u"lettre") || Contains(Hint, u"description") ? Place::BottomLeft : Place::UnderHeader;
   for (int i = FadeFrom; i <= FadeTo; i += FadeStep) {
     shell_.PumpEvents();
     shell_.Wait(FadeMilliseconds);

@@ -16,8 +16,8 @@ class Guide {
 
   Guide(const Principale& principale, Shell& shell);
 
-  Text Label1;
-  int Opacite = 0;  // 0 to MaxOpacity
+  Text Hint;
+  int Opacity = 0;  // 0 to MaxOpacity
   Place place = Place::UnderHeader;
 
   // Called at each change of what is shown.

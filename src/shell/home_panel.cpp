@@ -51,15 +51,15 @@ int AssistantTexte::CountCvs() const {
 
 void AssistantTexte::Show(Level shown, std::vector<HomeRow> rows) {
   level = shown;
-  Label1 = std::move(rows);
-  Ecart = FarthestEcart;
+  Rows = std::move(rows);
+  RowOffset = FarthestRowOffset;
 }
 
-bool AssistantTexte::Timer1() {
+bool AssistantTexte::Slide() {
   // A part of what is left at each tick, and a jump at the end.
   constexpr int Jump = 2;
-  Ecart = Ecart <= Jump ? 0 : Ecart * 5 / 8;
-  return Ecart > 0;
+  RowOffset = RowOffset <= Jump ? 0 : RowOffset * 5 / 8;
+  return RowOffset > 0;
 }
 
 void AssistantTexte::Charger() {
@@ -69,7 +69,7 @@ void AssistantTexte::Charger() {
         {u"Gérer les candidatures", u"Postuler aux offres et suivre les réponses"},
         {u"Statistiques, calendrier et alertes", u"Dates d'entretiens, statistiques sur les réponses"}});
   Compteurs = u"Nombre de CV : " + NumberText(CountCvs()) + Text{LineEnd} + u"Nombre de lettres : " +
-              NumberText(static_cast<long long>(principale_.File1.Count())) + Text{LineEnd} +
+              NumberText(static_cast<long long>(principale_.ListedFiles.Count())) + Text{LineEnd} +
               u"Nombre de candidatures : " + principale_.NbCand;
 }
 
@@ -106,7 +106,7 @@ void AssistantTexte::ChoixCand() {
                              {Text{BackTitle}, Text{BackCommand}}});
 }
 
-void AssistantTexte::Clic(TextView title) {
+void AssistantTexte::Choose(TextView title) {
   if (title == u"Rédiger un Curriculum Vitae") return ChoixCV();
   if (title == u"Rédiger un modèle de lettre") return ChoixLettre();
   if (title == u"Gérer les candidatures") return ChoixCand();
@@ -125,10 +125,10 @@ void AssistantTexte::Clic(TextView title) {
   if (title == u"Justificatif de recherche d'emploi") return Run(commands.justificatif);
   // The row of the way back says so in its title, and its explanation is the command.
   if (title == BackTitle || title == BackCommand) return principale_.RetourMenu();
-  ClicFile(title);
+  ChooseFile(title);
 }
 
-void AssistantTexte::ClicFile(TextView title) {
+void AssistantTexte::ChooseFile(TextView title) {
   const Text file = Text{title} + Text{Extension};
   if (file == principale_.ImageMenu[0].toolTip) {
     if (commands.ouvrirCv) commands.ouvrirCv(file);

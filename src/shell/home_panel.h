@@ -36,12 +36,12 @@ class AssistantTexte {
   Commands commands;
 
   // At most four rows, in order; a row without a name is empty.
-  std::vector<HomeRow> Label1;
+  std::vector<HomeRow> Rows;
   Text Compteurs;  // three lines, the counts of CVs, letters and candidatures
   Level level = Level::Home;
   // How far the rows stand from their place, in pixels; a change of level moves them away.
-  static constexpr int FarthestEcart = 24;
-  int Ecart = 0;
+  static constexpr int FarthestRowOffset = 24;
+  int RowOffset = 0;
 
   // The panel is loaded: the home level and the counts.
   void Charger();
@@ -49,15 +49,15 @@ class AssistantTexte {
   void ChoixLettre();
   void ChoixCand();
   // Moves the rows towards their place; false once they are there.
-  [[nodiscard]] bool Timer1();
+  [[nodiscard]] bool Slide();
   // The click on a row, by its title.
-  void Clic(TextView title);
+  void Choose(TextView title);
 
  private:
   [[nodiscard]] int CountCvs() const;
   [[nodiscard]] HomeRow LetterRow(std::size_t slot) const;
   [[nodiscard]] Text NameInSlot(std::size_t slot) const;
-  void ClicFile(TextView title);
+  void ChooseFile(TextView title);
   void RattacherCV();
   void Show(Level shown, std::vector<HomeRow> rows);
   void GererCandidatures();

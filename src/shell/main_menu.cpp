@@ -34,7 +34,7 @@ Text SlotCaption(const Principale& principale, std::size_t slot) {
   return Text{TrimBlanks(name)};
 }
 
-void SurvolerCandidatures(Principale& principale, bool over) {
+void HoverCandidatures(Principale& principale, bool over) {
   MenuSlot& slot = principale.ImageMenu[Principale::CandidatureSlot];
   if (slot.picture == SlotPicture::ImageCandidature && over)
     slot.picture = SlotPicture::ImageCandidatureSel;
@@ -42,14 +42,14 @@ void SurvolerCandidatures(Principale& principale, bool over) {
     slot.picture = SlotPicture::ImageCandidature;
 }
 
-void MainMenu::Activer() {
+void MainMenu::Activate() {
   if (shell_.FormeVisible(LoadSaveForm)) shell_.Show(LoadSaveForm);
   shell_.Unload(StatisticsForm);
 }
 
-void MainMenu::Redimensionner() { shell_.Unload(AssistantForm); }
+void MainMenu::Resize() { shell_.Unload(AssistantForm); }
 
-void MainMenu::ClicMenu() {
+void MainMenu::GoHome() {
   if (shell_.FormeVisible(AssistantForm)) return;
   shell_.Unload(HomeForm);
   shell_.Load(HomeForm);
@@ -59,15 +59,15 @@ void MainMenu::ClicMenu() {
   shell_.Load(AssistantForm);
 }
 
-void MainMenu::ClicSauver() { shell_.Show(LoadSaveForm); }
-void MainMenu::ClicLogo() { shell_.Show(AboutForm); }
+void MainMenu::OpenBackup() { shell_.Show(LoadSaveForm); }
+void MainMenu::OpenAbout() { shell_.Show(AboutForm); }
 
-void MainMenu::DoubleClicCandidatures() {
+void MainMenu::OpenCandidatures() {
   shell_.Load(CandidatureForm);
   shell_.Show(CandidatureForm);
 }
 
-void MainMenu::Decharger() {
+void MainMenu::Unload() {
   for (const TextView form : {AssistantForm, EditorHelpForm, GuideForm, SplashForm}) shell_.Unload(form);
 }
 

@@ -16,20 +16,20 @@ namespace talvor {
 [[nodiscard]] Text KindInName(TextView name);
 
 // The pointer enters or leaves the slot of the candidatures, which changes its picture unless it is free.
-void SurvolerCandidatures(Principale& principale, bool over);
+void HoverCandidatures(Principale& principale, bool over);
 
 class MainMenu {
  public:
   explicit MainMenu(Shell& shell) : shell_(shell) {}
 
-  void Activer();
-  void Redimensionner();
+  void Activate();
+  void Resize();
   // "Menu": back to the home panel, all other forms closed; nothing while `Assistant` stands.
-  void ClicMenu();
-  void ClicSauver();
-  void ClicLogo();
-  void DoubleClicCandidatures();
-  void Decharger();
+  void GoHome();
+  void OpenBackup();
+  void OpenAbout();
+  void OpenCandidatures();
+  void Unload();
 
  private:
   Shell& shell_;

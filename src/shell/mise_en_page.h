@@ -29,12 +29,12 @@ class MiseEnPage {
   // The print preview of the editor's page; nothing while it is not set.
   std::function<void()> previsualiser;
 
-  void BoutonTLV1() { dialogs_.Tell(ColoursAlwaysPrinted); }
-  void BoutonTLV2() {
+  void TellAboutColours() { dialogs_.Tell(ColoursAlwaysPrinted); }
+  void Preview() {
     if (!shell_.FormeVisible(EditorForm)) return dialogs_.Tell(NoCvOpen);
     if (previsualiser) previsualiser();
   }
-  void BoutonTLV3() { shell_.Unload(PrintAdviceForm); }
+  void Close() { shell_.Unload(PrintAdviceForm); }
 
  private:
   Shell& shell_;

@@ -26,28 +26,28 @@ void Principale::InitMenu() {
 }
 
 void Principale::InitCvSlots() {
-  File1.Point(workspace_paths::CvFolder());
+  ListedFiles.Point(workspace_paths::CvFolder());
   for (std::size_t i = 0; i < CvSlots; ++i) {
     MenuSlot& slot = ImageMenu[i];
-    slot.toolTip = File1.List(i);
+    slot.toolTip = ListedFiles.List(i);
     // One free slot behind the last file; the slots behind it are hidden and keep their old picture.
-    slot.visible = File1.Count() >= i;
-    if (File1.Count() > i)
+    slot.visible = ListedFiles.Count() >= i;
+    if (ListedFiles.Count() > i)
       slot.picture = PictureOfCv(slot.toolTip);
-    else if (File1.Count() == i)
+    else if (ListedFiles.Count() == i)
       slot.picture = SlotPicture::ImageNew;
   }
 }
 
 void Principale::InitLetterSlots() {
-  File1.Point(workspace_paths::LetterFolder());
+  ListedFiles.Point(workspace_paths::LetterFolder());
   // A sixth letter takes over slot 10; the slots of the seventh and later ones do not exist.
-  for (std::size_t i = 0; i < File1.Count() && FirstLetterSlot + i < ImageMenu.size(); ++i)
-    ImageMenu[FirstLetterSlot + i] = {true, SlotPicture::ImageLettre, File1.List(i)};
+  for (std::size_t i = 0; i < ListedFiles.Count() && FirstLetterSlot + i < ImageMenu.size(); ++i)
+    ImageMenu[FirstLetterSlot + i] = {true, SlotPicture::ImageLettre, ListedFiles.List(i)};
   // With exactly four letters there is no free slot, although slot 9 is empty.
   constexpr std::size_t NoFreeSlotFrom = 4;
-  if (File1.Count() < NoFreeSlotFrom)
-    ImageMenu[FirstLetterSlot + File1.Count()] = {true, SlotPicture::ImageNew, {}};
+  if (ListedFiles.Count() < NoFreeSlotFrom)
+    ImageMenu[FirstLetterSlot + ListedFiles.Count()] = {true, SlotPicture::ImageNew, {}};
 }
 
 void Principale::RetourMenu() {

@@ -61,7 +61,7 @@ class Principale : public Identity {
   Text InfoGuide;               // what the next showing of `Guide` displays
   Text AdresseWeb{StartPage};
   Text NbCand;  // count of candidatures at the start, empty when there was none
-  FileList File1;
+  FileList ListedFiles;
 
   // Rebuilds slots 0 to 9 from the folders of CVs and letters. Slot 10 is never reset, but a sixth
   // letter lands on it; more CVs or letters than that are out of the menu's reach.

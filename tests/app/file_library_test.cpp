@@ -50,7 +50,7 @@ class FileLibraryTest : public testing::Test {
   void Click(std::size_t slot) {
     principale.InitMenu();
     menus.enabled.clear();
-    library.ClicSlot(slot);
+    library.OpenSlotMenu(slot);
   }
   void Rename(const Text& chosen) {
     pickers.file = fs::current_path() / PathOf(chosen);
@@ -139,9 +139,9 @@ TEST_F(FileLibraryTest, EveryItemOfTheMenusHasItsAction) {
       if (item.caption.empty() || ofTheEditor.contains(tree.name)) continue;
       Click(tree.name == u"MenuLettre" ? 5 : 0);
       if (tree.name == u"MenuLettre" && item.name == u"MenuDuppliquerLettre") continue;  // needs a letter
-      EXPECT_TRUE(library.Choisir(item.name) || candidatures.Choisir(item.name)) << ToUtf8(item.name);
+      EXPECT_TRUE(library.Choose(item.name) || candidatures.Choose(item.name)) << ToUtf8(item.name);
     }
-  EXPECT_FALSE(library.Choisir(u"Tiret"));
+  EXPECT_FALSE(library.Choose(u"Tiret"));
 }
 
 TEST_F(FileLibraryTest, ADoubleClickOpensByTheSlotAndTheMenuByTheName) {
@@ -149,20 +149,20 @@ TEST_F(FileLibraryTest, ADoubleClickOpensByTheSlotAndTheMenuByTheName) {
   Write("CV/b.dat.doc", "x");
   Write("Lettres/l.txt", "x");
   principale.InitMenu();
-  library.DoubleClicSlot(0);
+  library.OpenSlot(0);
   EXPECT_EQ(done, u"cv a.doc");
   library.MenuOuvrirCV();
   EXPECT_EQ(documents.opened, std::vector<Text>{*TextOf(scratch.Path() / "CV" / "a.doc")});
   Click(1);
   library.MenuOuvrirCV();
   EXPECT_EQ(done, u"cv b.dat.doc") << "the mark counts anywhere in the name";
-  library.DoubleClicSlot(5);
+  library.OpenSlot(5);
   EXPECT_EQ(done, u"lettre l.txt");
-  library.DoubleClicSlot(6);
+  library.OpenSlot(6);
   EXPECT_EQ(done, u"nouvelle lettre");
-  library.DoubleClicSlot(2);
+  library.OpenSlot(2);
   EXPECT_EQ(shell.calls.back(), u"Show FormRédigerCV");
-  library.DoubleClicSlot(10);
+  library.OpenSlot(10);
   EXPECT_EQ(shell.calls.back(), u"Show FormCand");
 }
 
@@ -381,12 +381,12 @@ TEST_F(FileLibraryTest, TheCandidaturesAreHelpedOnlyWhereThereAreNone) {
   menu.ways.montrerCadreWeb = [&] { steps.push_back("cadre"); };
   menu.ways.naviguerAccueil = [&] { steps.push_back("accueil"); };
   principale.ImageMenu[10].picture = SlotPicture::ImageNew;
-  EXPECT_TRUE(menu.Choisir(u"MenuOuvrirCand"));
+  EXPECT_TRUE(menu.Choose(u"MenuOuvrirCand"));
   EXPECT_EQ(principale.InfoGuide, u"") << "a low description has no room for the hint";
   height = 5201;
-  EXPECT_TRUE(menu.Choisir(u"MenuOuvrirCand"));
+  EXPECT_TRUE(menu.Choose(u"MenuOuvrirCand"));
   EXPECT_TRUE(Contains(principale.InfoGuide, u"copier/coller dans la zone description"));
-  EXPECT_TRUE(menu.Choisir(u"MenuRechercherOffres"));
+  EXPECT_TRUE(menu.Choose(u"MenuRechercherOffres"));
   EXPECT_TRUE(Contains(principale.InfoGuide, u"'Enregistrer cette annonce'"));
   EXPECT_EQ(steps, (std::vector<std::string>{"cadre", "accueil"}));
   EXPECT_TRUE(shell.FormeVisible(u"FormCand"));

@@ -345,13 +345,13 @@ TEST_F(FormLoadSaveTest, TheUserCanStopACopyAndNoOtherBeginsMeanwhile) {
     if (!form->busy) return;
     ++pictures;
     EXPECT_FALSE(form->Nouvel());
-    form->BoutonTLV1();
+    form->Close();
   };
   EXPECT_FALSE(Save());
   EXPECT_EQ(pictures, 1);
   EXPECT_TRUE(Contains(Told(), u"interrompue")) << ToUtf8(Told());
   EXPECT_TRUE(fs::is_empty(Key()));
-  form->BoutonTLV1();
+  form->Close();
   EXPECT_FALSE(shell.FormeVisible(u"FormLoadSave"));
 }
 

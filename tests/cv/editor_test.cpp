@@ -261,12 +261,12 @@ TEST_F(Editor, AnItemOfItsMenusLeadsWhereItSays) {
   form_.Photo = "GIF89a";
   for (const TextView item : {u"MenuAnglais", u"SupprimerPhoto", u"MessageTrames", u"MenuConvFWord",
                               u"ConsulterWord", u"PrévisualiserCV", u"ImprimerCV"})
-    EXPECT_TRUE(form_.Choisir(item)) << ToUtf8(item);
+    EXPECT_TRUE(form_.Choose(item)) << ToUtf8(item);
   EXPECT_EQ(form_.LangueCV, u"1");
   EXPECT_EQ(form_.Photo, "");
   EXPECT_EQ(shell_.log, (std::vector<Text>{u"show MiseEnPage", u"show FormConvert"}));
   EXPECT_EQ(opened_, std::vector<Text>{*TextOf(scratch_.Path() / "Documents/essai.DOC")});
-  EXPECT_FALSE(form_.Choisir(u"MenuNouveauCV")) << "an item of the slots";
+  EXPECT_FALSE(form_.Choose(u"MenuNouveauCV")) << "an item of the slots";
 }
 
 TEST_F(Editor, TheLastWordVersionIsOfferedWhenItExists) {

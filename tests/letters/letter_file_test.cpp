@@ -150,7 +150,7 @@ TEST_F(LetterFileTest, ASaveKeepsTheOldVersionAndNeverLeavesTheFolder) {
     EXPECT_FALSE(EnregistrerLettre(model, dialogs, principale));
   }
   EXPECT_FALSE(std::filesystem::exists("y.dat"));
-  EXPECT_EQ(principale.File1.Count(), 1u);
+  EXPECT_EQ(principale.ListedFiles.Count(), 1u);
 }
 
 }  // namespace

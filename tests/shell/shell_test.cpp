@@ -42,7 +42,7 @@ TEST_F(GuideTest, FadesInHoldsAndFadesOut) {
   shell.visible = {u"FormCand", u"Principale"};
   principale.InfoGuide = u"collez l'annonce dans la zone description";
   std::vector<int> shown;
-  guide.OnChange = [&] { shown.push_back(guide.Opacite); };
+  guide.OnChange = [&] { shown.push_back(guide.Opacity); };
   guide.Charger();
   EXPECT_EQ(shell.waited, 13 * 40 + 180 * 30 + 13 * 40);
   EXPECT_EQ(guide.place, Guide::Place::BottomLeft);
@@ -76,7 +76,7 @@ class DepartTest : public ShellTest {
                                    .maximise = [&] { done += "maximise"; },
                                    .onChange =
                                        [&] {
-                                         if (++changes == shortenAt) depart.Abreger();
+                                         if (++changes == shortenAt) depart.Shorten();
                                        }});
   }
 
@@ -93,8 +93,8 @@ TEST_F(DepartTest, PlaysTheSplashBeforeTheMainWindow) {
   EXPECT_TRUE(dialogs.told.empty());
   EXPECT_EQ(done, "folder principale maximise");
   EXPECT_EQ(shell.waited, 13 * 40 + 100 * 20 + 200);
-  EXPECT_EQ(depart.Opacite, 241);
-  EXPECT_EQ(depart.OpaciteOmbre, 161 / 5);
+  EXPECT_EQ(depart.Opacity, 241);
+  EXPECT_EQ(depart.ShadowOpacity, 161 / 5);
   EXPECT_EQ(depart.PictureOffset, 13 * 120 + 100 * 50);
   EXPECT_EQ(
       std::vector<Text>(shell.calls.end() - 4, shell.calls.end()),
@@ -143,10 +143,10 @@ TEST(Depart, AFullHdScreenIsNoSmallOneAtAnyUsualZoom) {
 TEST_F(ShellTest, TheMenuClosesTheFormsUnlessTheAssistantStands) {
   MainMenu menu(shell);
   shell.visible = {u"Assistant"};
-  menu.ClicMenu();
+  menu.GoHome();
   EXPECT_TRUE(shell.calls.empty());
   shell.visible = {u"FormCand"};
-  menu.ClicMenu();
+  menu.GoHome();
   EXPECT_EQ(shell.calls, (std::vector<Text>{u"Unload AssistantTexte", u"Load AssistantTexte",
                                             u"Unload FormLettre", u"Unload FormRédigerCV", u"Unload FormCand",
                                             u"Unload Guide", u"Unload Aide", u"Load Assistant"}));
@@ -163,12 +163,12 @@ TEST_F(ShellTest, ASlotTellsItsNameKindAndCaption) {
   EXPECT_EQ(KindInName(principale.ImageMenu[5].toolTip), u"ER");
   EXPECT_EQ(SlotInformation(principale, 10), u"Gérer mes candidatures");
 
-  SurvolerCandidatures(principale, true);
+  HoverCandidatures(principale, true);
   EXPECT_EQ(principale.ImageMenu[10].picture, SlotPicture::ImageCandidatureSel);
-  SurvolerCandidatures(principale, false);
+  HoverCandidatures(principale, false);
   EXPECT_EQ(principale.ImageMenu[10].picture, SlotPicture::ImageCandidature);
   principale.ImageMenu[10].picture = SlotPicture::ImageNew;
-  SurvolerCandidatures(principale, true);
+  HoverCandidatures(principale, true);
   EXPECT_EQ(principale.ImageMenu[10].picture, SlotPicture::ImageNew);
 }
 
@@ -182,7 +182,7 @@ TEST_F(HomePanelTest, CountsTheSlotsBeforeTheFreeOne) {
   for (std::size_t i = 0; i < 3; ++i) principale.ImageMenu[i].visible = true;
   panel.Charger();
   EXPECT_EQ(panel.Compteurs, u"Nombre de CV : 2\r\nNombre de lettres : 0\r\nNombre de candidatures : 3");
-  EXPECT_EQ(panel.Label1.size(), 4u);
+  EXPECT_EQ(panel.Rows.size(), 4u);
 }
 
 TEST_F(HomePanelTest, TitlesAreCommands) {
@@ -193,44 +193,44 @@ TEST_F(HomePanelTest, TitlesAreCommands) {
   panel.commands.ouvrirCv = [&](TextView file) { opened = file; };
   panel.commands.ouvrirLettre = [&](TextView file) { opened = file; };
 
-  panel.Clic(u"Rédiger un Curriculum Vitae");
-  EXPECT_EQ(panel.Label1[2], (HomeRow{u"Julie", u"Consulter / Modifier"}));
-  panel.Clic(u"Julie");
+  panel.Choose(u"Rédiger un Curriculum Vitae");
+  EXPECT_EQ(panel.Rows[2], (HomeRow{u"Julie", u"Consulter / Modifier"}));
+  panel.Choose(u"Julie");
   EXPECT_EQ(opened, u"Julie.dat");
 
-  panel.Clic(u"Rédiger un modèle de lettre");
-  EXPECT_EQ(panel.Label1[1], (HomeRow{u"Réponse (ER)", u"Modèle mail, réponse à une annonce"}));
-  EXPECT_EQ(panel.Label1[2], (HomeRow{u"Sans suffixe", u""}));
-  panel.Clic(u"Sans suffixe");
+  panel.Choose(u"Rédiger un modèle de lettre");
+  EXPECT_EQ(panel.Rows[1], (HomeRow{u"Réponse (ER)", u"Modèle mail, réponse à une annonce"}));
+  EXPECT_EQ(panel.Rows[2], (HomeRow{u"Sans suffixe", u""}));
+  panel.Choose(u"Sans suffixe");
   EXPECT_EQ(opened, u"Sans suffixe.dat");
 
-  panel.Clic(panel.Label1.back().title);
+  panel.Choose(panel.Rows.back().title);
   EXPECT_EQ(shell.calls.back(), u"Load AssistantTexte");
   principale.ImageMenu[0].toolTip = u"Julie.doc";
   panel.ChoixCV();
-  EXPECT_EQ(panel.Label1[2], HomeRow{}) << "only a file of the editor is offered";
+  EXPECT_EQ(panel.Rows[2], HomeRow{}) << "only a file of the editor is offered";
 }
 
 TEST_F(HomePanelTest, AChangeOfLevelMovesTheRowsAwayAndTheyComeBackInAShortTime) {
   panel.ChoixCV();
-  int before = panel.Ecart;
-  EXPECT_EQ(before, AssistantTexte::FarthestEcart);
+  int before = panel.RowOffset;
+  EXPECT_EQ(before, AssistantTexte::FarthestRowOffset);
   int ticks = 1;
-  while (panel.Timer1()) {
-    EXPECT_LT(panel.Ecart, before);
-    before = panel.Ecart;
+  while (panel.Slide()) {
+    EXPECT_LT(panel.RowOffset, before);
+    before = panel.RowOffset;
     ++ticks;
   }
-  EXPECT_EQ(panel.Ecart, 0);
+  EXPECT_EQ(panel.RowOffset, 0);
   EXPECT_LE(ticks, 12);
 }
 
 TEST_F(HomePanelTest, TheAssistantGivesWayToTheEditor) {
   Assistant assistant(shell);
-  assistant.Timer1();
+  assistant.CloseIfEditorOpen();
   EXPECT_TRUE(shell.calls.empty());
   shell.visible.insert(u"FormRédigerCV");
-  assistant.Timer1();
+  assistant.CloseIfEditorOpen();
   EXPECT_EQ(shell.calls, std::vector<Text>{u"Unload Assistant"});
 }
 
@@ -238,22 +238,22 @@ TEST_F(HomePanelTest, AttachingTheFirstCvIsAdvisedAgainst) {
   int attached = 0;
   panel.commands.rattacherCv = [&] { ++attached; };
   principale.ImageMenu[0].picture = SlotPicture::ImageNew;
-  panel.Clic(u"Rattacher un CV existant");
+  panel.Choose(u"Rattacher un CV existant");
   ASSERT_EQ(dialogs.told.size(), 1u);
   EXPECT_TRUE(Contains(dialogs.told[0], u"prégénération des courriers d'accompagnement"));
   principale.ImageMenu[0].picture = SlotPicture::CVPDF;
-  panel.Clic(u"Rattacher un CV existant");
+  panel.Choose(u"Rattacher un CV existant");
   EXPECT_EQ(dialogs.told.size(), 1u);
   EXPECT_EQ(attached, 2);
 }
 
 TEST_F(HomePanelTest, TheFirstCandidatureIsHelpedByAHint) {
   principale.ImageMenu[10].picture = SlotPicture::ImageCandidature;
-  panel.Clic(u"Gestion manuelle des candidatures");
+  panel.Choose(u"Gestion manuelle des candidatures");
   EXPECT_TRUE(shell.FormeVisible(u"FormCand"));
   EXPECT_EQ(principale.InfoGuide, u"");
   principale.ImageMenu[10].picture = SlotPicture::ImageNew;
-  panel.Clic(u"Gestion manuelle des candidatures");
+  panel.Choose(u"Gestion manuelle des candidatures");
   EXPECT_TRUE(Contains(principale.InfoGuide, u"copier/coller dans la zone description"));
 }
 

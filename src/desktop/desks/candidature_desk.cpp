@@ -83,13 +83,13 @@ void CandidatureDesk::OfferWays() {
   ways.goToStartPage = [this] { InWindow([this] { browser_.Navigate(around_.principale.AdresseWeb); }); };
   ways.candidatureChanged = [this] { InWindow([] {}); };
   ways.readCandidatures = [this] { InWindow([this] { models_->form.InitListe(); }); };
-  ways.candidatureMenu = [this](TextView item) { menus_.Choisir(item); };
+  ways.candidatureMenu = [this](TextView item) { menus_.Choose(item); };
 }
 
 void CandidatureDesk::ConnectMenus() {
   popup_.OnChosen = [this](TextView item) {
     around_.ways.keepTyping();
-    menus_.Choisir(item);
+    menus_.Choose(item);
     around_.ways.refresh();
     around_.ways.refreshHome();
   };

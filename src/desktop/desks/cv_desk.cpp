@@ -31,7 +31,7 @@ CvDesk::CvDesk(const DeskSurroundings& around)
       menus_(around.theme, {u"MenuImprimer", u"MenuPhoto", u"MenuLangues", u"MenuConvertirWord"}),
       printAdvice_(around.shell, around.dialogs) {
   menus_.OnChosen = [this](TextView item) {
-    if (window_) window_->Do([&] { form_->Choisir(item); });
+    if (window_) window_->Do([&] { form_->Choose(item); });
   };
   documents_.OnRefused = [this](TextView target) { TellNotOpened(target, around_.dialogs); };
   printAdvice_.previsualiser = [this] { Preview(); };

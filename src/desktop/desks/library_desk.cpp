@@ -13,7 +13,7 @@ LibraryDesk::LibraryDesk(const DeskSurroundings& around)
   documents_.OnRefused = [this](TextView target) { TellNotOpened(target, around_.dialogs); };
   menus_.OnChosen = [this](TextView item) {
     around_.ways.keepTyping();
-    if (!library_.Choisir(item)) around_.ways.candidatureMenu(item);
+    if (!library_.Choose(item)) around_.ways.candidatureMenu(item);
     Acted();
   };
   DeskWays& ways = around_.ways;
@@ -59,11 +59,11 @@ void LibraryDesk::TakeGestures() {
     Acted();
     if (!slot) return;
     menus_.SetAnchor(&header.Slot(*slot));
-    library_.ClicSlot(*slot);
+    library_.OpenSlotMenu(*slot);
   };
-  header.OnSlotOpen = doing(&FileLibrary::DoubleClicSlot);
-  header.OnSlotRename = doing(&FileLibrary::RenommerSlot);
-  header.OnSlotDelete = doing(&FileLibrary::SupprimerSlot);
+  header.OnSlotOpen = doing(&FileLibrary::OpenSlot);
+  header.OnSlotRename = doing(&FileLibrary::RenameSlot);
+  header.OnSlotDelete = doing(&FileLibrary::DeleteSlot);
 }
 
 }  // namespace talvor

@@ -18,7 +18,7 @@ SplashDesk::SplashDesk(const DeskSurroundings& around)
 
 QWidget* SplashDesk::MakeSplash() {
   auto* splash = new SplashWindow(depart_, around_.theme, nullptr);
-  splash->OnShorten = [this] { depart_.Abreger(); };
+  splash->OnShorten = [this] { depart_.Shorten(); };
   return splash;
 }
 
@@ -30,7 +30,7 @@ QWidget* SplashDesk::MakeShadow() const {
 void SplashDesk::Refresh() {
   if (auto* splash = static_cast<SplashWindow*>(around_.shell.WindowOf(SplashForm))) splash->Refresh();
   if (QWidget* shadow = around_.shell.WindowOf(SplashShadowForm))
-    shadow->setWindowOpacity(depart_.OpaciteOmbre / 255.0);
+    shadow->setWindowOpacity(depart_.ShadowOpacity / 255.0);
 }
 
 bool SplashDesk::Play(const std::function<bool()>& showMain, const std::function<void()>& maximise) {

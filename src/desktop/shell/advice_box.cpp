@@ -38,10 +38,10 @@ AdviceBox::AdviceBox(MiseEnPage& form, const Theme& theme, QWidget* parent)
   };
   addAdvice(MiseEnPage::HeadersAdvice);
   addAdvice(MiseEnPage::ColoursAdvice);
-  addButton(u"BoutonTLV1", tr("Paramètres &Internet"), &MiseEnPage::BoutonTLV1);
+  addButton(u"BoutonTLV1", tr("Paramètres &Internet"), &MiseEnPage::TellAboutColours);
   buttons->addStretch(1);
-  addButton(u"BoutonTLV2", tr("&Prévisualiser"), &MiseEnPage::BoutonTLV2);
-  addButton(u"BoutonTLV3", tr("&Fermer"), &MiseEnPage::BoutonTLV3);
+  addButton(u"BoutonTLV2", tr("&Prévisualiser"), &MiseEnPage::Preview);
+  addButton(u"BoutonTLV3", tr("&Fermer"), &MiseEnPage::Close);
   column->addSpacing(4);
   column->addLayout(buttons);
 }

@@ -13,7 +13,7 @@ class AdviceBox : public ScrollingDialog {
   AdviceBox(MiseEnPage& form, const Theme& theme, QWidget* parent);
 
  protected:
-  void reject() override { form_.BoutonTLV3(); }
+  void reject() override { form_.Close(); }
 
  private:
   MiseEnPage& form_;

@@ -25,7 +25,7 @@ AssistantFigure::AssistantFigure(Assistant& assistant, const Theme& theme, QWidg
     };
   }
   constexpr int TickMilliseconds = 500;
-  connect(&timer1_, &QTimer::timeout, this, [&assistant] { assistant.Timer1(); });
+  connect(&timer1_, &QTimer::timeout, this, [&assistant] { assistant.CloseIfEditorOpen(); });
   timer1_.start(TickMilliseconds);
 }
 

@@ -113,7 +113,7 @@ BackupWindow::BackupWindow(FormLoadSave& form, const Theme& theme, QWidget* pare
   close_ = new BoutonTLV(theme, tr("&Fermer"), this);
   close_->setObjectName(QStringLiteral("BoutonTLV1"));
   close_->setAutoDefault(false);
-  connect(close_, &QPushButton::clicked, this, [this] { Do([&] { form_.BoutonTLV1(); }); });
+  connect(close_, &QPushButton::clicked, this, [this] { Do([&] { form_.Close(); }); });
   column->addWidget(close_, 0, Qt::AlignRight);
   Refresh();
 }
@@ -181,10 +181,10 @@ void BackupWindow::Refresh() {
 // The window goes by its button's rule: a copy under way is stopped first and tells its end.
 void BackupWindow::closeEvent(QCloseEvent* event) {
   const bool copying = form_.busy;
-  form_.BoutonTLV1();
+  form_.Close();
   event->setAccepted(!copying);
 }
 
-void BackupWindow::reject() { form_.BoutonTLV1(); }
+void BackupWindow::reject() { form_.Close(); }
 
 }  // namespace talvor

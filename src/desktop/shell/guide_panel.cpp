@@ -47,8 +47,8 @@ void GuidePanel::Place(Guide::Place place) {
 }
 
 void GuidePanel::Show(const Guide& guide) {
-  if (text_->text() != ToQt(guide.Label1)) {
-    text_->setText(ToQt(guide.Label1));
+  if (text_->text() != ToQt(guide.Hint)) {
+    text_->setText(ToQt(guide.Hint));
     Place(guide.place);
     show();
     raise();
@@ -56,7 +56,7 @@ void GuidePanel::Show(const Guide& guide) {
     QAccessibleEvent event(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&event);
   }
-  opacity_->setOpacity(static_cast<qreal>(guide.Opacite) / Guide::MaxOpacity);
+  opacity_->setOpacity(static_cast<qreal>(guide.Opacity) / Guide::MaxOpacity);
 }
 
 AidePanel::AidePanel(QWidget* parent) : QFrame(parent), info_(new QLabel(this)) {

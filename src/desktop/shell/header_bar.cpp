@@ -210,7 +210,7 @@ void HeaderBar::MoveFocus(std::size_t index, int step) {
 }
 
 void HeaderBar::HoverSlot(std::size_t index, bool over) {
-  if (index == Principale::CandidatureSlot) SurvolerCandidatures(principale_, over);
+  if (index == Principale::CandidatureSlot) HoverCandidatures(principale_, over);
   if (over && width() >= TextPixels(NarrowWindow)) ShowInformation(SlotInformation(principale_, index));
 }
 

@@ -171,18 +171,18 @@ QWidget* HomeWindow::MakeRows() {
 // A system without animations has the rows in their place at once.
 void HomeWindow::BeginSlide() {
   if (style()->styleHint(QStyle::SH_Widget_Animate, nullptr, this) == 0)
-    while (panel_.Timer1()) continue;
+    while (panel_.Slide()) continue;
   timer1_.start();
   Slide();
 }
 
 void HomeWindow::Slide() {
-  const int ecart = panel_.Ecart;
+  const int ecart = panel_.RowOffset;
   rowsColumn_->setContentsMargins(ecart, 0, 0, 0);
-  fade_->setOpacity(1 - static_cast<double>(ecart) / (AssistantTexte::FarthestEcart + 1));
+  fade_->setOpacity(1 - static_cast<double>(ecart) / (AssistantTexte::FarthestRowOffset + 1));
   fade_->setEnabled(ecart > 0);
   if (ecart == 0) return timer1_.stop();
-  static_cast<void>(panel_.Timer1());
+  static_cast<void>(panel_.Slide());
 }
 
 QWidget* HomeWindow::MakeCounts() {
@@ -210,7 +210,7 @@ void HomeWindow::Click(const HomeRowButton& button) {
   const QPointer<HomeWindow> self(this);
   const Text title = button.Row().title;
   const auto acted = OnActed;
-  panel_.Clic(title);
+  panel_.Choose(title);
   if (!self) {
     if (acted) acted();
     return;
@@ -221,7 +221,7 @@ void HomeWindow::Click(const HomeRowButton& button) {
 
 void HomeWindow::Refresh() {
   for (std::size_t i = 0; i < rows_.size(); ++i) {
-    const HomeRow row = i < panel_.Label1.size() ? panel_.Label1[i] : HomeRow{};
+    const HomeRow row = i < panel_.Rows.size() ? panel_.Rows[i] : HomeRow{};
     const RowLook* look = LookOf(row.title);
     const QString fileIcon =
         panel_.level == AssistantTexte::Level::CV ? QStringLiteral("cv") : QStringLiteral("letter");
@@ -230,7 +230,7 @@ void HomeWindow::Refresh() {
     rows_[i]->setVisible(!row.title.empty());
   }
   PlaceSide();
-  if (panel_.Ecart > 0 && !timer1_.isActive()) BeginSlide();
+  if (panel_.RowOffset > 0 && !timer1_.isActive()) BeginSlide();
   const QStringList lines = ShownText(panel_.Compteurs).split(QLatin1Char('\n'));
   for (std::size_t i = 0; i < counts_.size(); ++i) {
     const QString line = lines.value(static_cast<qsizetype>(i));

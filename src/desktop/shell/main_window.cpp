@@ -52,12 +52,12 @@ MainWindow::MainWindow(Principale& principale, QtShell& shell, const Theme& them
     page_ = page;
     Refresh();
   };
-  header_->OnLogo = [this] { menu_.ClicLogo(); };
+  header_->OnLogo = [this] { menu_.OpenAbout(); };
   header_->OnMenu = [this] {
     if (BeforeMenu) BeforeMenu();
-    menu_.ClicMenu();
+    menu_.GoHome();
   };
-  header_->OnSave = [this] { menu_.ClicSauver(); };
+  header_->OnSave = [this] { menu_.OpenBackup(); };
   AddShortcuts();
   KeepSurface();
 }
@@ -83,7 +83,7 @@ void MainWindow::AddShortcuts() {
   add(QKeySequence(QKeySequence::Print), [this] {
     if (header_->OnPrint) header_->OnPrint();
   });
-  add(QKeySequence(Qt::CTRL | Qt::Key_G), [this] { menu_.DoubleClicCandidatures(); });
+  add(QKeySequence(Qt::CTRL | Qt::Key_G), [this] { menu_.OpenCandidatures(); });
   // Ctrl+1 to Ctrl+9, then Ctrl+0, open the slots 0 to 9 as a double click does.
   for (int slot = 0; slot < 10; ++slot)
     add(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_0 + (slot + 1) % 10)), [this, slot] {
@@ -119,17 +119,17 @@ void MainWindow::StepPane(int step) {
 
 void MainWindow::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
-  if (event->type() == QEvent::ActivationChange && isActiveWindow()) menu_.Activer();
+  if (event->type() == QEvent::ActivationChange && isActiveWindow()) menu_.Activate();
 }
 
 void MainWindow::resizeEvent(QResizeEvent* event) {
   QMainWindow::resizeEvent(event);
-  menu_.Redimensionner();
+  menu_.Resize();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
   KeepPlace(*this);
-  menu_.Decharger();
+  menu_.Unload();
   event->accept();
   if (OnClosed) OnClosed();
 }

@@ -27,7 +27,7 @@ SplashWindow::SplashWindow(const Depart& depart, const Theme& theme, QWidget* pa
 }
 
 void SplashWindow::Refresh() {
-  setWindowOpacity(depart_.Opacite / 255.0);
+  setWindowOpacity(depart_.Opacity / 255.0);
   raise();
   update();
 }
