@@ -39,10 +39,10 @@ FormCandWindow::FormCandWindow(FormCand& form, FormCandCapture& capture, FormCan
 
   constexpr int PasteWatchMilliseconds = 500;
   constexpr int SaveMilliseconds = 3000;
-  connect(&timer1_, &QTimer::timeout, this, [this] { Tick500(); });
-  connect(&timer2_, &QTimer::timeout, this, [this] { Tick3000(); });
-  timer1_.start(PasteWatchMilliseconds);
-  timer2_.start(SaveMilliseconds);
+  connect(&watchTimer_, &QTimer::timeout, this, [this] { Tick500(); });
+  connect(&saveTimer_, &QTimer::timeout, this, [this] { Tick3000(); });
+  watchTimer_.start(PasteWatchMilliseconds);
+  saveTimer_.start(SaveMilliseconds);
   shownVersion_ = form_.ListVersion;
   Refresh();
 }
@@ -192,8 +192,8 @@ void FormCandWindow::resizeEvent(QResizeEvent* event) {
 }
 
 void FormCandWindow::StopTimers() {
-  timer1_.stop();
-  timer2_.stop();
+  watchTimer_.stop();
+  saveTimer_.stop();
 }
 
 void FormCandWindow::Refresh() {

@@ -74,8 +74,8 @@ class FormCandWindow : public QWidget {
   CandidatureListPane* list_;
   CandidatureDetailPane* detail_;
   BrowserPane* web_;
-  QTimer timer1_;
-  QTimer timer2_;
+  QTimer watchTimer_;
+  QTimer saveTimer_;
   unsigned shownVersion_ = 0;
   std::optional<bool> narrow_;  // until the first layout
 };

@@ -33,8 +33,8 @@ LetterWindow::LetterWindow(FormLettre& form, const Theme& theme, QWidget* parent
   ConnectPanes();
   ChainTabs();
   constexpr int SaveMilliseconds = 1000;
-  connect(&timer1_, &QTimer::timeout, this, [this] { Tick1000(); });
-  timer1_.start(SaveMilliseconds);
+  connect(&saveTimer_, &QTimer::timeout, this, [this] { Tick1000(); });
+  saveTimer_.start(SaveMilliseconds);
   Refresh();
 }
 

@@ -28,7 +28,7 @@ class LetterWindow : public QWidget {
   void NewLetter();
   // What the timer calls each 1000 ms.
   void Tick1000();
-  void StopTimer() { timer1_.stop(); }
+  void StopTimer() { saveTimer_.stop(); }
 
  protected:
   void showEvent(QShowEvent* event) override;
@@ -47,7 +47,7 @@ class LetterWindow : public QWidget {
   LetterSentencesPane* sentences_ = nullptr;
   LetterSheetPane* sheet_ = nullptr;
   FieldBinder binder_;
-  QTimer timer1_;
+  QTimer saveTimer_;
   Text knownLetter_;  // `Text1` as composed, or as the user has left it
   bool edited_ = false;
   bool narrow_ = false;

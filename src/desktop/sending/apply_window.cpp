@@ -65,13 +65,13 @@ ApplyWindow::ApplyWindow(FormPostuler& form, const Theme& theme, QWidget* parent
     if (&field == recipient_) Do([this] { form_.ChangeRecipient(emailDest_); });
   };
   connect(this, &QDialog::finished, this, [this] {
-    timer1_.stop();
+    marksTimer_.stop();
     if (OnClosed) OnClosed();
   });
   connect(&theme, &Theme::Changed, this, &ApplyWindow::Refresh);
   constexpr int CheckMilliseconds = 1000;
-  connect(&timer1_, &QTimer::timeout, this, &ApplyWindow::Tick1000);
-  timer1_.start(CheckMilliseconds);
+  connect(&marksTimer_, &QTimer::timeout, this, &ApplyWindow::Tick1000);
+  marksTimer_.start(CheckMilliseconds);
 }
 
 QLineEdit* ApplyWindow::Line(const QString& name, QWidget* parent) {

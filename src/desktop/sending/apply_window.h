@@ -36,7 +36,7 @@ class ApplyWindow : public ScrollingDialog {
   void Refresh();
   // What the timer calls each 1000 ms.
   void Tick1000();
-  void StopTimer() { timer1_.stop(); }
+  void StopTimer() { marksTimer_.stop(); }
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -69,7 +69,7 @@ class ApplyWindow : public ScrollingDialog {
   QListWidget* documents_ = nullptr;
   BoutonTLV* action_ = nullptr;
   BoutonTLV* online_ = nullptr;
-  QTimer timer1_;
+  QTimer marksTimer_;
 };
 
 }  // namespace talvor

@@ -25,8 +25,8 @@ AssistantFigure::AssistantFigure(Assistant& assistant, const Theme& theme, QWidg
     };
   }
   constexpr int TickMilliseconds = 500;
-  connect(&timer1_, &QTimer::timeout, this, [&assistant] { assistant.CloseIfEditorOpen(); });
-  timer1_.start(TickMilliseconds);
+  connect(&watchTimer_, &QTimer::timeout, this, [&assistant] { assistant.CloseIfEditorOpen(); });
+  watchTimer_.start(TickMilliseconds);
 }
 
 void AssistantFigure::paintEvent(QPaintEvent*) {

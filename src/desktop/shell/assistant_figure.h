@@ -19,7 +19,7 @@ class AssistantFigure : public QWidget {
 
  private:
   const Theme& theme_;
-  QTimer timer1_;
+  QTimer watchTimer_;
 };
 
 }  // namespace talvor

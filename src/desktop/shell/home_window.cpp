@@ -146,8 +146,8 @@ HomeWindow::HomeWindow(AssistantTexte& panel, const Theme& theme, QWidget* paren
   columns->addWidget(side_);
   columns->addStretch(1);
   constexpr int TickMilliseconds = 16;
-  timer1_.setInterval(TickMilliseconds);
-  connect(&timer1_, &QTimer::timeout, this, [this] { Slide(); });
+  slideTimer_.setInterval(TickMilliseconds);
+  connect(&slideTimer_, &QTimer::timeout, this, [this] { Slide(); });
   Refresh();
 }
 
@@ -172,7 +172,7 @@ QWidget* HomeWindow::MakeRows() {
 void HomeWindow::BeginSlide() {
   if (style()->styleHint(QStyle::SH_Widget_Animate, nullptr, this) == 0)
     while (panel_.Slide()) continue;
-  timer1_.start();
+  slideTimer_.start();
   Slide();
 }
 
@@ -181,7 +181,7 @@ void HomeWindow::Slide() {
   rowsColumn_->setContentsMargins(ecart, 0, 0, 0);
   fade_->setOpacity(1 - static_cast<double>(ecart) / (AssistantTexte::FarthestRowOffset + 1));
   fade_->setEnabled(ecart > 0);
-  if (ecart == 0) return timer1_.stop();
+  if (ecart == 0) return slideTimer_.stop();
   static_cast<void>(panel_.Slide());
 }
 
@@ -230,7 +230,7 @@ void HomeWindow::Refresh() {
     rows_[i]->setVisible(!row.title.empty());
   }
   PlaceSide();
-  if (panel_.RowOffset > 0 && !timer1_.isActive()) BeginSlide();
+  if (panel_.RowOffset > 0 && !slideTimer_.isActive()) BeginSlide();
   const QStringList lines = ShownText(panel_.Compteurs).split(QLatin1Char('\n'));
   for (std::size_t i = 0; i < counts_.size(); ++i) {
     const QString line = lines.value(static_cast<qsizetype>(i));

@@ -60,7 +60,7 @@ class HomeWindow : public QWidget {
 
   AssistantTexte& panel_;
   const Theme& theme_;
-  QTimer timer1_;  // the slide of the rows
+  QTimer slideTimer_;  // the slide of the rows
   QGraphicsOpacityEffect* fade_ = nullptr;
   QBoxLayout* columns_ = nullptr;
   QVBoxLayout* rowsColumn_ = nullptr;
