@@ -79,7 +79,7 @@ Result<> FormCandWeb::MajListeSites() {
 
 ApplyTexts FormCandWeb::Postuler() const {
   const bool shown = shell_.FormeVisible(ApplyForm);
-  return shown && FormPostuler ? FormPostuler() : ApplyTexts{};
+  return shown && askApplyForm ? askApplyForm() : ApplyTexts{};
 }
 
 void FormCandWeb::PrefillForm() {

@@ -52,7 +52,7 @@ class FormCandWeb {
   // -- Ways out; one that is not set does nothing.
   std::function<void()> OnChange;            // the state has changed while an operation goes on
   std::function<void(TextView)> OnSignal;    // lights up the node of that key in the tree
-  std::function<ApplyTexts()> FormPostuler;  // asked only while the apply form is on screen
+  std::function<ApplyTexts()> askApplyForm;  // asked only while the apply form is on screen
 
   // The form is loaded: the directory of sites is read.
   void Charger();

@@ -81,7 +81,7 @@ void Desktop::OfferWays() {
   parts.ways.keepTyping = [&parts] { parts.OfAll(&Desk::KeepTyping); };
   parts.ways.closeDocuments = [&parts] { parts.AfterTyping(&Desk::CloseDocuments); };
   parts.ownPickers.SetFrame(parts.main.get());
-  parts.ownPickers.CurrentColour = [&parts] { return QColor(ToQt(parts.cv.Form().Couleur)); };
+  parts.ownPickers.askCurrentColour = [&parts] { return QColor(ToQt(parts.cv.Form().Couleur)); };
 }
 
 void Desktop::ConnectMain() {
@@ -93,7 +93,7 @@ void Desktop::ConnectMain() {
     FinishPrinting();
     QCoreApplication::quit();
   };
-  parts.main->Header().OpenFile = [&parts](TextView page) {
+  parts.main->Header().askOpenFile = [&parts](TextView page) {
     return (page == LetterForm ? parts.letters.Form().NomLettre : parts.cv.Form().NomCV) + u".dat";
   };
 }

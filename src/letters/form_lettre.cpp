@@ -153,7 +153,7 @@ void FormLettre::ComposeAnew() {
 }
 
 void FormLettre::OpenPropositions() {
-  if (OuvrirDocument) OuvrirDocument(PropositionsFile());
+  if (openDocument) openDocument(PropositionsFile());
 }
 
 void FormLettre::LeaveEmail() { ComposerLettre(); }

@@ -30,7 +30,7 @@ class FormLettre : public LetterModel {
   bool saveFailed = false;     // the last save was not written; no message box tells it
 
   // Opens a document in the program associated with it; nothing happens while it is not set.
-  std::function<void(const std::filesystem::path&)> OuvrirDocument;
+  std::function<void(const std::filesystem::path&)> openDocument;
 
   // The form is loaded, which comes before anything else asked of it: every field is empty, the flags
   // stand on a mail in answer to an advertisement, the list of CVs and the propositions are read.

@@ -172,7 +172,7 @@ void FormCand::ViderControles() {
 }
 
 void FormCand::OpenApplyForm() {
-  if (OuvrirPostuler) OuvrirPostuler({Lettre, DateEnvoi.empty()});
+  if (openApplyForm) openApplyForm({Lettre, DateEnvoi.empty()});
 }
 
 void FormCand::MarquerEnvoyee(TextView cv, TextView lettre) {

@@ -24,7 +24,7 @@ struct ChoiceList {
   std::optional<std::size_t> selected;  // index of the row that equals the field, if any
 };
 
-// What `OuvrirPostuler` hands to the apply form.
+// What `openApplyForm` hands to the apply form.
 struct ApplyRequest {
   Text Texte;              // the letter
   bool canBeSent = false;  // shows the button that sends
@@ -67,8 +67,8 @@ class FormCand : public Candidature {
   bool ApplyItemEnabled = false;  // whether the popup offers "Postuler"
 
   // -- Ways out to what stands on higher floors; one that is not set does nothing.
-  std::function<void(const ApplyRequest&)> OuvrirPostuler;
-  std::function<void()> OuvrirMenuItemCand;
+  std::function<void(const ApplyRequest&)> openApplyForm;
+  std::function<void()> openItemMenu;
 
   // The form is loaded: blank browser, list built, no known description.
   void Charger();

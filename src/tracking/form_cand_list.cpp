@@ -62,7 +62,7 @@ void FormCand::OpenNode(TextView key) {
   const TreeNode* node = Liste.Find(key);
   if (node == nullptr || node->childCount != 0 || !BoutonDroit) return;
   ApplyItemEnabled = DateEnvoi.empty();
-  if (OuvrirMenuItemCand) OuvrirMenuItemCand();
+  if (openItemMenu) openItemMenu();
 }
 
 // The rows go only once a copy of them stands.

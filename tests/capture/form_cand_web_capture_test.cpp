@@ -213,7 +213,7 @@ TEST_F(WebTest, ThePrefillTakesTheElementsOneToAThousand) {
   page.elements[3] = {u"", u"message"};
   page.elements[4] = {u"rien", u"email"};
   Show(Board, page);
-  web.FormPostuler = [] { return ApplyTexts{u"moi@a.example", u"Madame"}; };
+  web.askApplyForm = [] { return ApplyTexts{u"moi@a.example", u"Madame"}; };
   web.PrefillForm();
   const auto filled = [this] {
     std::string text;
@@ -230,7 +230,7 @@ TEST_F(WebTest, ThePrefillTakesTheElementsOneToAThousand) {
 }
 
 TEST_F(WebTest, AKnownFormIsFilledWhileTheApplyFormIsOnScreen) {
-  web.FormPostuler = [] { return ApplyTexts{u"moi@a.example", u"Madame"}; };
+  web.askApplyForm = [] { return ApplyTexts{u"moi@a.example", u"Madame"}; };
   web.EvaluerPage();
   EXPECT_TRUE(browser.named.empty());
   shell.visible.insert(u"FormPostuler");

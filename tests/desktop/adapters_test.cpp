@@ -234,7 +234,7 @@ TEST(Pickers, AFileIsPickedAmongItsKindsAndTheCurrentFolderStays) {
   EXPECT_EQ(pickers.PickColour(), (Colour{1, 128, 255}));
   for (const auto& [now, start] :
        {std::pair{"#0369A1", QColor(3, 105, 161)}, {"rouille", QColor(Qt::white)}}) {
-    pickers.CurrentColour = [text = now] { return QColor(QString::fromUtf8(text)); };
+    pickers.askCurrentColour = [text = now] { return QColor(QString::fromUtf8(text)); };
     Once<QColorDialog>([expected = start](QColorDialog& dialog) {
       EXPECT_EQ(dialog.currentColor(), expected);
       dialog.accept();

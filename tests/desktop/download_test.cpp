@@ -64,7 +64,7 @@ TEST(DownloadName, ProgramsAreToldFromDocuments) {
 class DownloadTest : public BrowserTest {
  protected:
   DownloadTest() {
-    Pages().Profile().AskWhere = [this](const QString& path) {
+    Pages().Profile().askWhere = [this](const QString& path) {
       proposed.append(path);
       return answer;
     };

@@ -209,7 +209,7 @@ TEST_F(LetterWindowTest, TheHomePanelBeginsAndOpensLettersInAFreshForm) {
 TEST_F(LetterWindowTest, TheSentenceFileOpensAndTheWindowFitsASmallScreen) {
   OpenSlot(Principale::FirstLetterSlot);
   std::filesystem::path opened;
-  desktop->Letters().Form().OuvrirDocument = [&](const std::filesystem::path& file) { opened = file; };
+  desktop->Letters().Form().openDocument = [&](const std::filesystem::path& file) { opened = file; };
   Click("Command1");
   EXPECT_EQ(opened.filename(), "propositions.txt");
 

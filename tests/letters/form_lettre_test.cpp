@@ -116,7 +116,7 @@ TEST_F(FormLettreTest, FlagsAndZonesRecompose) {
 
   std::filesystem::path opened;
   form.OpenPropositions();
-  form.OuvrirDocument = [&](const auto& file) { opened = file; };
+  form.openDocument = [&](const auto& file) { opened = file; };
   form.OpenPropositions();
   EXPECT_EQ(opened.filename(), "propositions.txt");
 }

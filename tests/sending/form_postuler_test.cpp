@@ -194,7 +194,7 @@ TEST_F(FormPostulerTest, TheThreeWaysInDifferInWhatTheyReplace) {
   EXPECT_EQ(form.PJ, u"");
   EXPECT_TRUE(form.SendVisible);
 
-  formCand.OuvrirPostuler = [this](const ApplyRequest& request) { form.OpenFromFormCand(request); };
+  formCand.openApplyForm = [this](const ApplyRequest& request) { form.OpenFromFormCand(request); };
   formCand.DateEnvoi = u"01/02/2026";
   formCand.OpenApplyForm();
   EXPECT_EQ(form.Texte, u"stored");

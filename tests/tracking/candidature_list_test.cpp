@@ -126,7 +126,7 @@ TEST_F(ListTest, AClickOpensALeafAndNothingElse) {
 
 TEST_F(ListTest, TheRightButtonOpensThePopupOnALeafOnly) {
   int opened = 0;
-  form.OuvrirMenuItemCand = [&] { ++opened; };
+  form.openItemMenu = [&] { ++opened; };
   Insert({.Intitule = u"Maçon", .Societe = u"A", .Statut = u"NON EMISE"});
   Insert({.Intitule = u"Maçon", .Societe = u"A", .DateEnvoi = u"01/02/2026", .Statut = u"NON EMISE"});
   form.InitListe();

@@ -292,7 +292,7 @@ TEST_F(FormCandTest, NewEmptiesTheDetailAndTheBrowser) {
 
 TEST_F(FormCandTest, ApplyingHandsOverTheLetterAndMarksTheRowAsSent) {
   ApplyRequest request;
-  form.OuvrirPostuler = [&](const ApplyRequest& asked) { request = asked; };
+  form.openApplyForm = [&](const ApplyRequest& asked) { request = asked; };
   form.Intitule = u"Maçon";
   form.Lettre = u"Madame,";
   form.OpenApplyForm();

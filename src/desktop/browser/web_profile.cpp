@@ -36,7 +36,7 @@ QString AskWithDialog(const QString& proposed) {
 
 WebProfile::WebProfile(Dialogs& dialogs, SiteStore::Beginning beginning)
     : QWebEngineProfile(QStringLiteral("talvor")),
-      AskWhere(AskWithDialog),
+      askWhere(AskWithDialog),
       dialogs_(dialogs),
       store_(beginning) {
   setPersistentStoragePath(store_.Folder());
@@ -92,7 +92,7 @@ void WebProfile::Download(QWebEngineDownloadRequest* download) {
 void WebProfile::Save(QWebEngineDownloadRequest& download, const QString& name) {
   const Raised asking(asking_);
   const QPointer<QWebEngineDownloadRequest> kept(&download);
-  const QString path = AskWhere(DownloadsFolder() + QLatin1Char('/') + name);
+  const QString path = askWhere(DownloadsFolder() + QLatin1Char('/') + name);
   if (!kept) return;
   if (path.isEmpty()) return download.cancel();
   const QFileInfo file(path);

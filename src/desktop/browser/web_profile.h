@@ -30,7 +30,7 @@ class WebProfile : public QWebEngineProfile {
   void TakeCookies(const WebProfile& other);
 
   // Asks where a download goes, given the proposed path: the full path, empty when it is given up.
-  std::function<QString(const QString& proposed)> AskWhere;
+  std::function<QString(const QString& proposed)> askWhere;
   // Whether the user has just asked for this download; true once for each time that he does.
   std::function<bool(const QUrl& address)> IsAskedByUser;
   // A page offers a file by itself, or one that acts when it is opened.

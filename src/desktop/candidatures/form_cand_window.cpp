@@ -72,7 +72,7 @@ void FormCandWindow::ConnectList() {
   tree.OnPress = [this](bool right) { form_.BoutonDroit = right; };
   tree.OnNode = [this](TextView key) { Do([&] { form_.OpenNode(key); }); };
   tree.OnDelete = [this] { Do([&] { form_.MenuSupprimerCand(); }); };
-  form_.OuvrirMenuItemCand = [this] {
+  form_.openItemMenu = [this] {
     Refresh();
     if (OnItemMenu) OnItemMenu(list_->Tree().PopupPlace());
   };

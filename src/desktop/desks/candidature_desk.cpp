@@ -40,8 +40,8 @@ FormCandWeb& CandidatureDesk::Web() { return models_->web; }
 
 void CandidatureDesk::MakeModels() {
   models_ = std::make_shared<Models>(around_, browser_, clipboard_, documents_);
-  models_->web.FormPostuler = [&ways = around_.ways] { return ways.applyTexts(); };
-  models_->form.OuvrirPostuler = [&ways = around_.ways](const ApplyRequest& request) { ways.apply(request); };
+  models_->web.askApplyForm = [&ways = around_.ways] { return ways.applyTexts(); };
+  models_->form.openApplyForm = [&ways = around_.ways](const ApplyRequest& request) { ways.apply(request); };
 }
 
 QWidget* CandidatureDesk::MakeWindow(QWidget* parent) {

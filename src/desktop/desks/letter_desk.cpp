@@ -12,7 +12,7 @@ namespace talvor {
 LetterDesk::LetterDesk(const DeskSurroundings& around)
     : around_(around), form_(around.principale, around.clock, around.dialogs, around.shell) {
   documents_.OnRefused = [this](TextView target) { TellNotOpened(target, around_.dialogs); };
-  form_.OuvrirDocument = [this](const std::filesystem::path& document) {
+  form_.openDocument = [this](const std::filesystem::path& document) {
     OuvrirDocument(TextOf(document).value_or(Text{}), documents_, around_.dialogs);
   };
   around_.ways.newLetter = [this] { OpenNew(); };

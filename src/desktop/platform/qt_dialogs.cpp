@@ -94,7 +94,7 @@ std::optional<std::filesystem::path> QtPickers::SaveFile(const FileQuestion& que
 }
 
 std::optional<Colour> QtPickers::PickColour() {
-  const QColor now = CurrentColour ? CurrentColour() : QColor();
+  const QColor now = askCurrentColour ? askCurrentColour() : QColor();
   const QColor colour = QColorDialog::getColor(now.isValid() ? now : QColor(Qt::white), frame_);
   if (!colour.isValid()) return std::nullopt;
   const auto part = [](int value) { return static_cast<std::uint8_t>(value); };

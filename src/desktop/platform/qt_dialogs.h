@@ -37,7 +37,7 @@ class QtPickers : public Pickers {
   std::optional<Colour> PickColour() override;
 
   // Where the colour dialog starts; an invalid colour is white.
-  std::function<QColor()> CurrentColour;
+  std::function<QColor()> askCurrentColour;
 
  private:
   QPointer<QWidget> frame_;
