@@ -21,7 +21,7 @@ namespace fs = std::filesystem;
 CvDocument LongCareer() {
   CvDocument cv;
   cv.Nom = u"Marchand";
-  cv.Prénom = u"Julie";
+  cv.Prenom = u"Julie";
   cv.Ville = u"Lyon";
   cv.Police = u"Verdana";
   cv.Couleur = u"#112233";

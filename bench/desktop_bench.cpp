@@ -115,7 +115,7 @@ double StartEmptyWindow() {
 void MeasureCvPage(Desktop& desktop) {
   desktop.Cv().OpenNew();
   CvWindow& window = *desktop.Cv().Window();
-  FormRédigerCV& form = desktop.Cv().Form();
+  FormRedigerCV& form = desktop.Cv().Form();
   Text career;
   for (int year = 1985; year < 2025; ++year)
     career += u"Depuis " + NumberText(year) +

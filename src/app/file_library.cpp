@@ -96,7 +96,7 @@ void FileLibrary::OpenSlot(std::size_t slot) {
     around_.shell.Load(CandidatureForm);
     return around_.shell.Show(CandidatureForm);
   }
-  if (slot >= Principale::FirstLetterSlot) return name.empty() ? MenuRédigerLettre() : MenuOuvrirLettre();
+  if (slot >= Principale::FirstLetterSlot) return name.empty() ? MenuRedigerLettre() : MenuOuvrirLettre();
   if (name.empty()) return MenuNouveauCV();
   // The editor takes the file whatever its extension is.
   if (ways.ouvrirCV) ways.ouvrirCV(name);
@@ -134,7 +134,7 @@ bool FileLibrary::Choose(TextView item) {
       {u"MenuImprimerCV", &FileLibrary::MenuImprimerCV},
       {u"MenuEnvoyerAmi", &FileLibrary::MenuEnvoyerAmi},
       {u"MenuEnvoyerRecruteur", &FileLibrary::MenuEnvoyerRecruteur},
-      {u"MenuRédigerLettre", &FileLibrary::MenuRédigerLettre},
+      {u"MenuRédigerLettre", &FileLibrary::MenuRedigerLettre},
       {u"MenuOuvrirLettre", &FileLibrary::MenuOuvrirLettre},
       {u"MenuDuppliquerLettre", &FileLibrary::MenuDuppliquerLettre},
       {u"RenommerLettre", &FileLibrary::RenommerLettre},
@@ -262,7 +262,7 @@ void FileLibrary::MenuImprimerCV() {
   if (ways.imprimerCV) ways.imprimerCV();
 }
 
-void FileLibrary::MenuRédigerLettre() {
+void FileLibrary::MenuRedigerLettre() {
   if (ways.nouvelleLettre) ways.nouvelleLettre();
 }
 

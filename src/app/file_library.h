@@ -67,7 +67,7 @@ class FileLibrary {
   void MenuEnvoyerAmi() {}
   void MenuEnvoyerRecruteur() {}
 
-  void MenuRédigerLettre();
+  void MenuRedigerLettre();
   void MenuOuvrirLettre();
   void MenuDuppliquerLettre();
   void RenommerLettre();

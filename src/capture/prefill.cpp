@@ -39,7 +39,7 @@ constexpr std::array<Row, 28> Rows{{
 PrefillValues PrefillValuesOf(const Identity& identity, Text letter) {
   return {.email = identity.Email,
           .surname = identity.Nom,
-          .firstName = identity.Prénom,
+          .firstName = identity.Prenom,
           .address = identity.Adresse1,
           .postalCode = identity.CP,
           .town = identity.Ville,

@@ -44,9 +44,9 @@ std::optional<fs::path> FindIn(const std::vector<fs::path>& folders, TextView na
 
 // Writes the page of a CV, with its photo beside it, into a folder.
 fs::path WritePage(CvDocument cv, const std::vector<fs::path>& folders, const fs::path& folder) {
-  const auto model = FindIn(folders, cv.Modèle);
+  const auto model = FindIn(folders, cv.Modele);
   auto page = model ? ReadTemplate(*model) : std::nullopt;
-  if (!page) throw CommandError("le modèle " + Quoted(ToUtf8(cv.Modèle)) + " est introuvable ou illisible");
+  if (!page) throw CommandError("le modèle " + Quoted(ToUtf8(cv.Modele)) + " est introuvable ou illisible");
   const auto photo = FindIn(folders, cv.NomCV + u".jpg");
   if (photo) fs::copy_file(*photo, folder / "Photo.jpg");
   cv.Langues = LanguageSummary(cv);

@@ -17,7 +17,7 @@ namespace fs = std::filesystem;
 
 // What the parser of an identity block fills.
 constexpr FieldTable<CvDocument, 11> ParsedFields{{
-    {u"Prénom", &CvDocument::Prénom},
+    {u"Prénom", &CvDocument::Prenom},
     {u"Nom", &CvDocument::Nom},
     {u"Adresse1", &CvDocument::Adresse1},
     {u"Adresse2", &CvDocument::Adresse2},

@@ -25,14 +25,14 @@ struct CvDocument {
   Text LangueCV{u"0"};  // language of the page: "0" French, "1" English
   Text Identite;        // the pasted identity block
   Text Langues;         // summary of the language grid, one language a line
-  Text Nom, Adresse1, Prénom, Adresse2, CP, Ville, Pays, Tel, Mob, Email;
+  Text Nom, Adresse1, Prenom, Adresse2, CP, Ville, Pays, Tel, Mob, Email;
   Text Fonction, Etudes, Formations, Experiences, LanguesPlus, Objectifs, Divers, Competences;
   Text DateNaissance, LieuNaissance, Age, NbEnfants, Situation;
   Text NomCV;
   Text NomModele{u"Basic"};   // the template, without extension
   Text Police{u"Arial"};      // the font of the page
-  Text Modèle{u"Basic.htm"};  // the template's file name
-  Text Souligné{u"0"}, Gras{u"1"}, Indentation{u"1"}, Saut{u"0"};
+  Text Modele{u"Basic.htm"};  // the template's file name
+  Text Souligne{u"0"}, Gras{u"1"}, Indentation{u"1"}, Saut{u"0"};
   Text Couleur{u"#FF6600"}, CouleurClaire{u"#FFE6D5"};
   // What the lists of the editor have selected, and the title of the font frame: written, never read.
   Text ListeSituations, List1, ListeModeles, FramePolice{u"Police"};
@@ -49,7 +49,7 @@ inline constexpr FieldTable<CvDocument, 40> CvFields{{
     {u"Langues", &CvDocument::Langues},
     {u"Nom", &CvDocument::Nom},
     {u"Adresse1", &CvDocument::Adresse1},
-    {u"Prénom", &CvDocument::Prénom},
+    {u"Prénom", &CvDocument::Prenom},
     {u"Adresse2", &CvDocument::Adresse2},
     {u"CP", &CvDocument::CP},
     {u"Ville", &CvDocument::Ville},
@@ -73,8 +73,8 @@ inline constexpr FieldTable<CvDocument, 40> CvFields{{
     {u"NomCV", &CvDocument::NomCV},
     {u"NomModele", &CvDocument::NomModele},
     {u"Police", &CvDocument::Police},
-    {u"Modèle", &CvDocument::Modèle},
-    {u"Souligné", &CvDocument::Souligné},
+    {u"Modèle", &CvDocument::Modele},
+    {u"Souligné", &CvDocument::Souligne},
     {u"Gras", &CvDocument::Gras},
     {u"Indentation", &CvDocument::Indentation},
     {u"Saut", &CvDocument::Saut},

@@ -113,11 +113,11 @@ bool ReadCv(const std::filesystem::path& file, CvDocument& cv) {
 Text CvFileText(const CvDocument& cv) { return CvFileWriter{cv}.Lines(); }
 
 bool SauvegarderCV(CvDocument& cv, Dialogs& dialogs, Principale& principale) {
-  if (cv.NomCV.empty() && cv.Nom.empty() && cv.Prénom.empty()) {
+  if (cv.NomCV.empty() && cv.Nom.empty() && cv.Prenom.empty()) {
     dialogs.Tell(NoNameMessage);
     return false;
   }
-  if (cv.NomCV.empty()) cv.NomCV = cv.Nom + u" " + cv.Prénom;
+  if (cv.NomCV.empty()) cv.NomCV = cv.Nom + u" " + cv.Prenom;
   cv.NomCV = NomPropre(Normaliser(cv.NomCV));
   if (SaveDocument(CvFile(cv.NomCV), ToCodePage(CvFileText(cv))).Failed()) {
     dialogs.Tell(Text{WriteFailedMessage} + cv.NomCV);

@@ -31,10 +31,10 @@ bool RendersOnLeaving(TextView field) {
 
 }  // namespace
 
-FormRédigerCV::FormRédigerCV(Surroundings surroundings)
+FormRedigerCV::FormRedigerCV(Surroundings surroundings)
     : ZonesTitle(editor_texts::ZonesLabel), around_(std::move(surroundings)) {}
 
-void FormRédigerCV::Open(int width) {
+void FormRedigerCV::Open(int width) {
   if (width < CompactUnder) CompactLayout();
 
   FileList files;
@@ -55,15 +55,15 @@ void FormRédigerCV::Open(int width) {
   around_.principale.AfficherGuide(editor_texts::Welcome);
 }
 
-void FormRédigerCV::SauvegarderCV() {
+void FormRedigerCV::SauvegarderCV() {
   if (talvor::SauvegarderCV(*this, around_.dialogs, around_.principale)) unsaved_ = false;
 }
 
-void FormRédigerCV::EnregistrerSaisie() {
+void FormRedigerCV::EnregistrerSaisie() {
   if (unsaved_ && !Nom.empty()) SaveUnderName();
 }
 
-void FormRédigerCV::Change(TextView field, TextView text) {
+void FormRedigerCV::Change(TextView field, TextView text) {
   const auto* known = FindField(CvFields, field);
   if (known == nullptr || this->*(known->text) == text) return;
   this->*(known->text) = text;
@@ -72,7 +72,7 @@ void FormRédigerCV::Change(TextView field, TextView text) {
   if (RendersOnChange(field)) VisualisationCV();
 }
 
-void FormRédigerCV::AgeFromBirthDate() {
+void FormRedigerCV::AgeFromBirthDate() {
   constexpr double YoungestLikely = 15;
   constexpr double OldestLikely = 80;
   constexpr int DaysOfAYear = 365;
@@ -83,12 +83,12 @@ void FormRédigerCV::AgeFromBirthDate() {
     Age = NumberText((around_.clock.Today().serial - birth->serial) / DaysOfAYear);
 }
 
-void FormRédigerCV::Enter(TextView field) {
+void FormRedigerCV::Enter(TextView field) {
   if (field == u"NomModele") OpenPanel(Panel::Templates);
   if (field == u"Police") OpenPanel(Panel::Fonts);
 }
 
-void FormRédigerCV::Leave(TextView field) {
+void FormRedigerCV::Leave(TextView field) {
   const auto capitalised = [](Text& text) {
     if (text.size() >= 2) text.front() = ToUpper(text.front());
   };
@@ -99,8 +99,8 @@ void FormRédigerCV::Leave(TextView field) {
   } else if (field == u"Nom") {
     Nom = UpperCase(Nom);
     ClosePanels();
-  } else if (field == u"Prénom" && Prénom.size() > 1) {
-    Prénom = NomPropre(Prénom);
+  } else if (field == u"Prénom" && Prenom.size() > 1) {
+    Prenom = NomPropre(Prenom);
     VisualisationCV();
   } else if (field == u"Adresse1") {
     Adresse1 = NomPropre(Adresse1);

@@ -23,7 +23,7 @@
 
 namespace talvor {
 
-class FormRédigerCV : public CvDocument {
+class FormRedigerCV : public CvDocument {
  public:
   struct Surroundings {
     Principale& principale;
@@ -45,7 +45,7 @@ class FormRédigerCV : public CvDocument {
   // The option panels, of which one at most is open.
   enum class Panel { None, Templates, Fonts, Paragraph, Colours };
 
-  explicit FormRédigerCV(Surroundings surroundings);
+  explicit FormRedigerCV(Surroundings surroundings);
 
   bool RenderingOn = true;         // nothing renders while it is off
   bool IdentityBoxVisible = true;  // the box of the pasted identity block

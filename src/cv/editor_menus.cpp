@@ -8,22 +8,22 @@
 
 namespace talvor {
 
-bool FormRédigerCV::Choose(TextView item) {
+bool FormRedigerCV::Choose(TextView item) {
   struct Action {
     TextView item;
-    void (FormRédigerCV::*run)();
+    void (FormRedigerCV::*run)();
   };
   static constexpr std::array<Action, 10> Actions{{
-      {u"PrévisualiserCV", &FormRédigerCV::PrévisualiserCV},
-      {u"ImprimerCV", &FormRédigerCV::ImprimerCV},
-      {u"MessageTrames", &FormRédigerCV::MessageTrames},
-      {u"MenuFrancais", &FormRédigerCV::MenuFrancais},
-      {u"MenuAnglais", &FormRédigerCV::MenuAnglais},
-      {u"RattacherPhoto", &FormRédigerCV::RattacherPhoto},
-      {u"CollerPhoto", &FormRédigerCV::CollerPhoto},
-      {u"SupprimerPhoto", &FormRédigerCV::SupprimerPhoto},
-      {u"MenuConvFWord", &FormRédigerCV::MenuConvFWord},
-      {u"ConsulterWord", &FormRédigerCV::ConsulterWord},
+      {u"PrévisualiserCV", &FormRedigerCV::PrévisualiserCV},
+      {u"ImprimerCV", &FormRedigerCV::ImprimerCV},
+      {u"MessageTrames", &FormRedigerCV::MessageTrames},
+      {u"MenuFrancais", &FormRedigerCV::MenuFrancais},
+      {u"MenuAnglais", &FormRedigerCV::MenuAnglais},
+      {u"RattacherPhoto", &FormRedigerCV::RattacherPhoto},
+      {u"CollerPhoto", &FormRedigerCV::CollerPhoto},
+      {u"SupprimerPhoto", &FormRedigerCV::SupprimerPhoto},
+      {u"MenuConvFWord", &FormRedigerCV::MenuConvFWord},
+      {u"ConsulterWord", &FormRedigerCV::ConsulterWord},
   }};
   for (const Action& action : Actions)
     if (action.item == item) {
@@ -33,38 +33,38 @@ bool FormRédigerCV::Choose(TextView item) {
   return false;
 }
 
-void FormRédigerCV::PrévisualiserCV() {
+void FormRedigerCV::PrévisualiserCV() {
   if (around_.previsualiser) around_.previsualiser();
 }
 
-void FormRédigerCV::ImprimerCV() {
+void FormRedigerCV::ImprimerCV() {
   if (around_.imprimer) around_.imprimer();
 }
 
-void FormRédigerCV::MessageTrames() { around_.shell.Show(PrintAdviceForm); }
+void FormRedigerCV::MessageTrames() { around_.shell.Show(PrintAdviceForm); }
 
-void FormRédigerCV::MenuFrancais() {
+void FormRedigerCV::MenuFrancais() {
   around_.menus.Check(u"MenuFrancais", true);
   around_.menus.Check(u"MenuAnglais", false);
   Change(u"LangueCV", u"0");
 }
 
-void FormRédigerCV::MenuAnglais() {
+void FormRedigerCV::MenuAnglais() {
   around_.menus.Check(u"MenuAnglais", true);
   around_.menus.Check(u"MenuFrancais", false);
   Change(u"LangueCV", u"1");
 }
 
-void FormRédigerCV::MenuConvFWord() { around_.shell.Show(ConvertForm); }
+void FormRedigerCV::MenuConvFWord() { around_.shell.Show(ConvertForm); }
 
 // In "Documents", whatever the layout of the folders is.
-void FormRédigerCV::ConsulterWord() {
+void FormRedigerCV::ConsulterWord() {
   const auto version = ConvertedCv(around_.environment, DocumentsLayout::Newer, NomCV, u".doc");
   if (around_.ouvrirDocument)
     around_.ouvrirDocument(TextOf(ExistingFile(version).value_or(version)).value_or(Text{}));
 }
 
-std::filesystem::path FormRédigerCV::VersionPDF() const {
+std::filesystem::path FormRedigerCV::VersionPDF() const {
   return ConvertedCv(around_.environment, DocumentsLayout::Newer, NomCV, u".pdf");
 }
 

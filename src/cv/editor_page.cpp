@@ -20,7 +20,7 @@ namespace {
 // The name that a CV takes from its owner. After three homonyms no more are looked for: a fourth
 // overwrites the third copy.
 Text NameFromOwner(const CvDocument& cv) {
-  Text name{TrimBlanks(Normaliser(cv.Nom) + u" " + Normaliser(cv.Prénom))};
+  Text name{TrimBlanks(Normaliser(cv.Nom) + u" " + Normaliser(cv.Prenom))};
   for (int i = 0; i < 3; ++i)
     if (ExistingFile(CvFile(name))) name.insert(0, u"Copie de ");
   return name;
@@ -28,7 +28,7 @@ Text NameFromOwner(const CvDocument& cv) {
 
 }  // namespace
 
-void FormRédigerCV::TakeLine(TextView line) {
+void FormRedigerCV::TakeLine(TextView line) {
   auto parsed = ParseCvLine(line);
   if (!parsed) return;
   const auto* field = ApplyCvLine(*this, *std::move(parsed));
@@ -38,13 +38,13 @@ void FormRédigerCV::TakeLine(TextView line) {
     around_.principale.*(mirror->text) = this->*(field->text);
 }
 
-void FormRédigerCV::LoadPhotoOf(TextView name) {
+void FormRedigerCV::LoadPhotoOf(TextView name) {
   const auto file = ExistingModelFile(Text{name} + u".jpg");
   if (!file) return;
   if (auto picture = ReadBytes(*file)) Photo = *std::move(picture);
 }
 
-void FormRédigerCV::ChargerFichierCV(const std::filesystem::path& chemin) {
+void FormRedigerCV::ChargerFichierCV(const std::filesystem::path& chemin) {
   constexpr std::size_t ExtensionLength = 4;
 
   // No render starts while the fields change one by one.
@@ -72,11 +72,11 @@ void FormRédigerCV::ChargerFichierCV(const std::filesystem::path& chemin) {
   ZonesTitle = Text{editor_texts::ZonesLabel} + u" (" + NomCV + u")";
 }
 
-void FormRédigerCV::VisualisationCV() {
+void FormRedigerCV::VisualisationCV() {
   if (!RenderingOn) return;
   IdentityBoxVisible = false;
 
-  const auto file = ExistingModelFile(Modèle);
+  const auto file = ExistingModelFile(Modele);
   auto page = file ? ReadTemplate(*file) : std::nullopt;
   if (!page) return;
 
@@ -95,7 +95,7 @@ void FormRédigerCV::VisualisationCV() {
 }
 
 // A CV without a name takes that of its owner.
-void FormRédigerCV::SaveUnderName() {
+void FormRedigerCV::SaveUnderName() {
   if (NomCV.empty()) NomCV = NameFromOwner(*this);
   SauvegarderCV();
 }

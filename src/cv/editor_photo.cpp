@@ -29,7 +29,7 @@ void KeepPastedPhoto(TextView nomModele, std::string_view picture) {
 
 }  // namespace
 
-void FormRédigerCV::RattacherPhoto() {
+void FormRedigerCV::RattacherPhoto() {
   const auto pictures = PathOf(around_.environment.Variable(u"homepath") + u"/Pictures");
   const auto chosen =
       around_.pickers.OpenFile({Text{editor_texts::PhotoTitle}, pictures, Text{editor_texts::PhotoFilter}});
@@ -44,7 +44,7 @@ void FormRédigerCV::RattacherPhoto() {
   VisualisationCV();
 }
 
-void FormRédigerCV::CollerPhoto() {
+void FormRedigerCV::CollerPhoto() {
   auto picture = around_.clipboard.Image();
   if (!picture) return;
   Photo = *std::move(picture);
@@ -52,7 +52,7 @@ void FormRédigerCV::CollerPhoto() {
   VisualisationCV();
 }
 
-void FormRédigerCV::SupprimerPhoto() {
+void FormRedigerCV::SupprimerPhoto() {
   std::error_code ignored;  // a photo that is not there is gone already
   static_cast<void>(DeleteDocument(PhotoFile(NomCV)));
   std::filesystem::remove(PhotoFile(u"Photo"), ignored);

@@ -10,21 +10,21 @@
 
 namespace talvor {
 
-void FormRédigerCV::ToggleParagraph(std::size_t i) {
+void FormRedigerCV::ToggleParagraph(std::size_t i) {
   static constexpr std::array<TextView, 4> Mirrors{u"Gras", u"Souligné", u"Indentation", u"Saut"};
   if (i >= Mirrors.size()) return;
   CheckParagraphe[i] = !CheckParagraphe[i];
   Change(Mirrors[i], CheckParagraphe[i] ? u"1" : u"0");
 }
 
-void FormRédigerCV::ToggleOrder(std::size_t i) {
+void FormRedigerCV::ToggleOrder(std::size_t i) {
   if (i > 1) return;
   CheckDisposition[i] = !CheckDisposition[i];
   CheckDisposition[1 - i] = !CheckDisposition[i];
   VisualisationCV();
 }
 
-void FormRédigerCV::ToggleLanguage(TextView grid, std::size_t i) {
+void FormRedigerCV::ToggleLanguage(TextView grid, std::size_t i) {
   const CheckGroup* clicked = FindCheckGroup(grid);
   if (clicked == nullptr || !grid.starts_with(u"Langue") || i >= clicked->size) return;
   const bool ticked = !(this->*(clicked->values))[i];
@@ -34,7 +34,7 @@ void FormRédigerCV::ToggleLanguage(TextView grid, std::size_t i) {
   VisualisationCV();
 }
 
-void FormRédigerCV::TakeColour(Colour colour) {
+void FormRedigerCV::TakeColour(Colour colour) {
   // The change of the main colour renders, so that the pale one must stand before it.
   CouleurClaire = ColourText(PaleColour(colour));
   const Text main = ColourText(colour);
@@ -44,23 +44,23 @@ void FormRédigerCV::TakeColour(Colour colour) {
     Change(u"Couleur", main);
 }
 
-void FormRédigerCV::ChooseSwatch(std::size_t i) {
+void FormRedigerCV::ChooseSwatch(std::size_t i) {
   if (i < Swatches.size()) TakeColour(Swatches[i]);
 }
 
-void FormRédigerCV::ChooseOtherColour() {
+void FormRedigerCV::ChooseOtherColour() {
   if (const auto colour = around_.pickers.PickColour()) TakeColour(*colour);
 }
 
-void FormRédigerCV::OpenPanel(Panel panel) {
+void FormRedigerCV::OpenPanel(Panel panel) {
   ClosePanels();
   openPanel = panel;
 }
 
-void FormRédigerCV::OpenTemplates() { OpenPanel(Panel::Templates); }
-void FormRédigerCV::OpenFonts() { OpenPanel(Panel::Fonts); }
+void FormRedigerCV::OpenTemplates() { OpenPanel(Panel::Templates); }
+void FormRedigerCV::OpenFonts() { OpenPanel(Panel::Fonts); }
 
-void FormRédigerCV::ChooseTemplate(std::size_t row) {
+void FormRedigerCV::ChooseTemplate(std::size_t row) {
   if (row >= templateRows.size()) return;
   ListeModeles = templateRows[row];
   Change(u"NomModele", ListeModeles);
@@ -68,36 +68,36 @@ void FormRédigerCV::ChooseTemplate(std::size_t row) {
   ClosePanels();
 }
 
-void FormRédigerCV::ChooseFont(std::size_t i) {
+void FormRedigerCV::ChooseFont(std::size_t i) {
   if (i < editor_texts::Fonts.size()) Change(u"Police", editor_texts::Fonts[i]);
 }
 
-void FormRédigerCV::ChooseSituation(std::size_t row) {
+void FormRedigerCV::ChooseSituation(std::size_t row) {
   if (row >= editor_texts::Situations.size()) return;
   ListeSituations = editor_texts::Situations[row];
   Change(u"Situation", ListeSituations);
 }
 
-void FormRédigerCV::HideIdentityBox() { IdentityBoxVisible = false; }
+void FormRedigerCV::HideIdentityBox() { IdentityBoxVisible = false; }
 
-void FormRédigerCV::CompactLayout() {
+void FormRedigerCV::CompactLayout() {
   compact = true;
   if (around_.layOut) around_.layOut();
 }
 
-void FormRédigerCV::OpenPanelFocusing(Panel panel, TextView field) {
+void FormRedigerCV::OpenPanelFocusing(Panel panel, TextView field) {
   // The focus moves first: the field that it leaves may close the panels.
   around_.shell.Focus(EditorForm, field);
   OpenPanel(panel);
 }
 
-void FormRédigerCV::OfferLastWordVersion() {
+void FormRedigerCV::OfferLastWordVersion() {
   const auto version = ConvertedCv(around_.environment, DocumentsLayout::Newer, NomCV, u".doc");
   around_.menus.Enable(u"ConsulterWord", ExistingFile(version).has_value());
   around_.menus.Open(u"MenuConvertirWord");
 }
 
-void FormRédigerCV::OpenEntry(std::size_t i) {
+void FormRedigerCV::OpenEntry(std::size_t i) {
   ClosePanels();
   switch (i) {
     case 0:
@@ -120,7 +120,7 @@ void FormRédigerCV::OpenEntry(std::size_t i) {
   }
 }
 
-void FormRédigerCV::ShowHelpOf(int i) {
+void FormRedigerCV::ShowHelpOf(int i) {
   const auto help = std::find_if(editor_texts::Help.begin(), editor_texts::Help.end(),
                                  [i](const auto& row) { return row.icon == i; });
   if (help == editor_texts::Help.end()) return;

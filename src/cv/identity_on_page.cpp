@@ -6,13 +6,13 @@ namespace talvor {
 namespace {
 
 Text BirthDate(const CvDocument& cv, TextView value) {
-  Text text{EstPrenomFeminin(cv.Prénom) ? u"Née le " : u"Né le "};
+  Text text{EstPrenomFeminin(cv.Prenom) ? u"Née le " : u"Né le "};
   return text.append(value);
 }
 
 // The two situations that agree with the first name; the others print as they stand.
 Text Situation(const CvDocument& cv, TextView value) {
-  const bool feminine = EstPrenomFeminin(cv.Prénom);
+  const bool feminine = EstPrenomFeminin(cv.Prenom);
   if (value == u"Marié(e)") return feminine ? u"Mariée" : u"Marié";
   if (value == u"Divorcé(e)") return feminine ? u"Divorcée" : u"Divorcé";
   return Text{value};

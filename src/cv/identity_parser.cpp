@@ -44,11 +44,11 @@ class IdentityLines {
   // The first word is always the first name: «DUPONT Jean» gives the first name «DUPONT».
   void TakeName(TextView line, double value) {
     const auto blank = line.find(u' ');
-    if (value != 0 || blank == TextView::npos || !cv_.Prénom.empty()) return;
-    cv_.Prénom = line.substr(0, blank);
+    if (value != 0 || blank == TextView::npos || !cv_.Prenom.empty()) return;
+    cv_.Prenom = line.substr(0, blank);
     cv_.Nom = TrimBlanks(line.substr(blank));
-    if (ValeurNumerique(cv_.Prénom) > 0 || ValeurNumerique(cv_.Nom) > 0) {
-      cv_.Prénom.clear();
+    if (ValeurNumerique(cv_.Prenom) > 0 || ValeurNumerique(cv_.Nom) > 0) {
+      cv_.Prenom.clear();
       cv_.Nom.clear();
     }
   }

@@ -30,7 +30,7 @@ void ReplaceWithinBound(Text& page, TextView what, TextView by) {
 bool IsOne(TextView text) { return ValeurNumerique(text) == 1; }
 
 ParagraphStyle StyleOf(const CvDocument& cv) {
-  return {IsOne(cv.Gras), IsOne(cv.Souligné), IsOne(cv.Indentation), IsOne(cv.Saut)};
+  return {IsOne(cv.Gras), IsOne(cv.Souligne), IsOne(cv.Indentation), IsOne(cv.Saut)};
 }
 
 bool IsLongParagraph(TextView name) {
@@ -76,7 +76,7 @@ Text FillTemplate(const CvDocument& cv, Text page, PhotoOnPage photo) {
 
   // The photo comes before the colours, so that its frame takes the main one.
   ReplaceWithinBound(page, u"#Photographie#", photo == PhotoOnPage::Picture ? PhotoMarkup : TextView{});
-  ReplaceWithinBound(page, u"#Prénom#", cv.Prénom);
+  ReplaceWithinBound(page, u"#Prénom#", cv.Prenom);
   ReplaceWithinBound(page, u"#FF6600", cv.Couleur);
   ReplaceWithinBound(page, u"#808080", cv.Couleur);
   ReplaceWithinBound(page, u"#c0c0c0", cv.CouleurClaire);

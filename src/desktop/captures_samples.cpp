@@ -44,7 +44,7 @@ constexpr std::array<Sample, 18> Samples{{
 CvDocument SampleCv() {
   CvDocument cv;
   cv.Nom = u"MARCHAND";
-  cv.Prénom = u"Julie";
+  cv.Prenom = u"Julie";
   cv.NomCV = u"Marchand Julie";
   cv.Adresse1 = u"7 Rue Des Lilas";
   cv.Adresse2 = u"Bâtiment C";

@@ -59,7 +59,7 @@ class Lines {
 
 // Sender, addressee, date and subject of a printed letter.
 void AddHead(Lines& lines, const LetterModel& model, Day today) {
-  lines.Add(model.Prénom + u" " + model.Nom)
+  lines.Add(model.Prenom + u" " + model.Nom)
       .Add(model.Adresse1)
       .AddIfAny({}, model.Adresse2)
       .Add(model.CP + u" " + model.Ville + u" " + model.Pays)
@@ -119,7 +119,7 @@ void ComposerLettre(LetterModel& model, Day today) {
   for (const auto& field : QuotedFields) text = ReplaceAll(text, field.name, model.*(field.text));
 
   // The gender of the sender, over the whole letter.
-  model.Text1 = WithGender(text, model.Prénom);
+  model.Text1 = WithGender(text, model.Prenom);
 }
 
 }  // namespace talvor

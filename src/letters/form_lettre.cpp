@@ -122,7 +122,7 @@ void FormLettre::NextSentence(std::size_t i) {
 }
 
 void FormLettre::TakeSentence(std::size_t i, const Text& sentence) {
-  Corps[i] = WithGender(sentence, Prénom);
+  Corps[i] = WithGender(sentence, Prenom);
   RecomposeUnlessLoading();
 }
 
@@ -159,7 +159,7 @@ void FormLettre::OpenPropositions() {
 void FormLettre::LeaveEmail() { ComposerLettre(); }
 
 void FormLettre::LeavePrenom() {
-  if (!Prénom.empty()) Prénom = NomPropre(Prénom);
+  if (!Prenom.empty()) Prenom = NomPropre(Prenom);
 }
 
 }  // namespace talvor

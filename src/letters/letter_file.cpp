@@ -84,7 +84,7 @@ Text NameFor(const LetterModel& model) {
   Text name;
   for (const auto& kind : LetterKinds)
     if (model.Check_Modele[kind.modele] && model.Check_candidature[kind.candidature])
-      name = proper(model.Prénom) + u" " + proper(model.Nom) + Text{kind.suffix};
+      name = proper(model.Prenom) + u" " + proper(model.Nom) + Text{kind.suffix};
   return name;
 }
 
@@ -130,7 +130,7 @@ void TakeFieldsOfCv(const std::filesystem::path& file, LetterModel& model) {
 
 bool EnregistrerLettre(LetterModel& model, Dialogs& dialogs, Principale& principale) {
   // The message stops nothing: the file is then written under the bare name «.dat».
-  if (model.NomLettre.empty() && model.Nom.empty() && model.Prénom.empty()) dialogs.Tell(NoNameMessage);
+  if (model.NomLettre.empty() && model.Nom.empty() && model.Prenom.empty()) dialogs.Tell(NoNameMessage);
   // A name that is there is kept, even with the suffix of another kind.
   else if (model.NomLettre.empty())
     model.NomLettre = NameFor(model);

@@ -28,7 +28,7 @@ inline constexpr std::size_t CorpsCount = 5;
 
 struct LetterModel {
   Text NomLettre;  // the model's name, that of its file without extension
-  Text Nom, Prénom, Adresse1, Adresse2, CP, Ville, Pays, Tel, Mob, Email;
+  Text Nom, Prenom, Adresse1, Adresse2, CP, Ville, Pays, Tel, Mob, Email;
   Text Poste, LastSociete;              // last post held, last company
   Text Competences, Domaine, Fonction;  // quoted in the sentences
   std::array<Text, CorpsCount> Corps;   // Introduction, Adequation, Motivation, Disposition, Politesse
@@ -54,7 +54,7 @@ inline constexpr FieldTable<LetterModel, 18> LetterFields{{
     {u"Ville", &LetterModel::Ville},
     {u"CP", &LetterModel::CP},
     {u"Adresse2", &LetterModel::Adresse2},
-    {u"Prénom", &LetterModel::Prénom},
+    {u"Prénom", &LetterModel::Prenom},
     {u"Adresse1", &LetterModel::Adresse1},
     {u"Nom", &LetterModel::Nom},
 }};

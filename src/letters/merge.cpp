@@ -13,7 +13,7 @@ constexpr TextView NoModelMessage =
     u"Aucun modèle de lettre n'a été créé. Vous devrez rédiger le courrier d'accompagnement.";
 
 struct Sender {
-  Text Nom, Prénom;
+  Text Nom, Prenom;
 };
 
 // Lines are told by their first characters alone; the "=" keeps `NomLettre` out of the third.
@@ -24,7 +24,7 @@ void ReadLine(TextView line, MergedLetter& letter, Sender& sender) {
   if (line.starts_with(u"Text1")) letter.Texte = ReplaceAll(value, u"<N>", LineEnd);
   if (line.starts_with(u"Email")) letter.Email = value;
   if (line.starts_with(u"Nom=")) sender.Nom = value;
-  if (line.starts_with(u"Préno")) sender.Prénom = value;
+  if (line.starts_with(u"Préno")) sender.Prenom = value;
   if (line.starts_with(u"Objet") && !TrimBlanks(value).empty()) letter.Objet = value;
 }
 
@@ -92,7 +92,7 @@ bool FusionnerLettre(const std::filesystem::path& chemin, const CandidatureTexts
   shell.Show(ApplyForm);
 
   // The sender; no blank stands before the address.
-  letter.Email = ProperName(sender.Prénom) + u" " + ProperName(sender.Nom) + u"<" + letter.Email + u">";
+  letter.Email = ProperName(sender.Prenom) + u" " + ProperName(sender.Nom) + u"<" + letter.Email + u">";
 
   // Every field of the form for the tag of its name.
   for (const auto& field : CandidatureTags)

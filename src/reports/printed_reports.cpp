@@ -38,7 +38,7 @@ void ListRow(Text& page, const RowView& row) {
 
 void ProofHead(Text& page, const Identity& identity) {
   Line(page,
-       {u"<html><font face='Arial' size=5><b>Activité de recherche d'emploi</b> - ", identity.Prénom, u" ",
+       {u"<html><font face='Arial' size=5><b>Activité de recherche d'emploi</b> - ", identity.Prenom, u" ",
         identity.Nom, u"</font><font face='Arial' size=1>&nbsp;&nbsp;sur les 90 derniers jours<hr><table>"});
   Line(
       page,

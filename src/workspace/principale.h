@@ -34,12 +34,12 @@ inline constexpr TextView StartPage = u"talvor://accueil/";
 
 // The identity of the CV last opened, under the keys of the CV file.
 struct Identity {
-  Text Nom, Prénom, Adresse1, CP, Ville, Tel, Email, Fonction;
+  Text Nom, Prenom, Adresse1, CP, Ville, Tel, Email, Fonction;
 };
 
 inline constexpr FieldTable<Identity, 8> IdentityFields{{
     {u"Nom", &Identity::Nom},
-    {u"Prénom", &Identity::Prénom},
+    {u"Prénom", &Identity::Prenom},
     {u"Adresse1", &Identity::Adresse1},
     {u"CP", &Identity::CP},
     {u"Ville", &Identity::Ville},

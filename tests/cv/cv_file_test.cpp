@@ -189,7 +189,7 @@ TEST_P(CvNames, AreFreeOfAccentsAndStayInTheFolder) {
   CvDocument cv;
   cv.NomCV = GetParam().nomCV;
   cv.Nom = GetParam().nom;
-  cv.Prénom = GetParam().prenom;
+  cv.Prenom = GetParam().prenom;
   EXPECT_TRUE(Save(cv));
   EXPECT_TRUE(fs::exists(GetParam().file));
 }

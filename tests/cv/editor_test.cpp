@@ -20,7 +20,7 @@ namespace talvor {
 namespace {
 
 namespace fs = std::filesystem;
-using Panel = FormRédigerCV::Panel;
+using Panel = FormRedigerCV::Panel;
 
 class Editor : public testing::Test {
  protected:
@@ -56,7 +56,7 @@ class Editor : public testing::Test {
   Text help_;
   int layouts_ = 0;
   std::vector<Text> opened_;
-  FormRédigerCV form_{{principale_,
+  FormRedigerCV form_{{principale_,
                        shell_,
                        dialogs_,
                        pickers_,
@@ -186,7 +186,7 @@ TEST_F(Editor, ParagraphBoxesCopyTheirValueToTheirMirror) {
   EXPECT_EQ(form_.Saut, u"1");
   form_.ToggleParagraph(1);
   form_.ToggleParagraph(2);
-  EXPECT_EQ(form_.Souligné, u"1");
+  EXPECT_EQ(form_.Souligne, u"1");
   EXPECT_EQ(form_.Indentation, u"0");
   EXPECT_EQ(browser_.visited.size(), 4u);
   form_.ToggleParagraph(4);
@@ -296,7 +296,7 @@ TEST_F(Editor, ListsFillTheirFields) {
   form_.ChooseTemplate(2);
   form_.ChooseFont(6);
   form_.ChooseSituation(5);
-  EXPECT_EQ(form_.Modèle, u"Zen.htm");
+  EXPECT_EQ(form_.Modele, u"Zen.htm");
   form_.HideIdentityBox();
   EXPECT_FALSE(form_.IdentityBoxVisible);
 }
@@ -321,7 +321,7 @@ TEST_F(Editor, LoadingFillsTheFormOnceRendersOnceAndMirrorsTheIdentity) {
                    u"0:CheckDisposition=1\r\n2:CheckParagraphe=0\r\nbruit\r\n"));
   EXPECT_EQ(Renders([&] { form_.ChargerFichierCV(fs::absolute("CV/jean dupont.dat")); }), 1u);
   EXPECT_EQ(principale_.Nom, u"Dupont");
-  EXPECT_EQ(principale_.Prénom, u"Jean");
+  EXPECT_EQ(principale_.Prenom, u"Jean");
   EXPECT_EQ(form_.Age, u"40");
   EXPECT_TRUE(form_.CheckDisposition[0] && form_.CheckDisposition[1]) << "loading is not clicking";
   EXPECT_EQ(form_.Indentation, u"1");
@@ -344,7 +344,7 @@ TEST_F(Editor, LoadingFillsTheFormOnceRendersOnceAndMirrorsTheIdentity) {
 
 TEST_F(Editor, ACvNamesItselfAndPassesThreeHomonymsButNotAFourth) {
   form_.Nom = u"DUPONT";
-  form_.Prénom = u"Marie";
+  form_.Prenom = u"Marie";
   std::vector<Text> names;
   for (int i = 0; i < 5; ++i) {
     form_.NomCV.clear();
@@ -390,12 +390,12 @@ TEST_F(Editor, WithoutItsTemplateNothingIsRenderedNorSaved) {
   form_.Nom = u"DUPONT";
   Write("secret.htm", "secret");
   for (const TextView name : {u"", u"Absent.htm", u"../secret.htm", u"..\\secret.htm"}) {
-    form_.Modèle = name;
+    form_.Modele = name;
     EXPECT_EQ(Renders([&] { form_.VisualisationCV(); }), 0u) << ToUtf8(name);
   }
   EXPECT_FALSE(form_.IdentityBoxVisible);
   EXPECT_TRUE(fs::is_empty("CV"));
-  form_.Modèle = u"BASIC.HTM";
+  form_.Modele = u"BASIC.HTM";
   EXPECT_EQ(Renders([&] { form_.VisualisationCV(); }), 1u) << "names are compared without regard to case";
   form_.RenderingOn = false;
   EXPECT_EQ(Renders([&] { form_.VisualisationCV(); }), 0u);

@@ -102,7 +102,7 @@ TEST(ParseIdentity, StripsTheBlockItselfAndLeavesABlankOneAlone) {
 
 TEST(ParseIdentity, ASecondBlockKeepsTheNameAndOverwritesTheRest) {
   CvDocument cv;
-  cv.Prénom = u"Marie";
+  cv.Prenom = u"Marie";
   cv.Nom = u"Curie";
   cv.CP = u"75005";
   cv.Tel = u"01";

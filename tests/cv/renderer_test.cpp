@@ -24,7 +24,7 @@ class IdentityFieldsOnPage : public testing::TestWithParam<Shown> {};
 
 TEST_P(IdentityFieldsOnPage, TakeTheirWords) {
   CvDocument cv;
-  cv.Prénom = GetParam().firstName;
+  cv.Prenom = GetParam().firstName;
   EXPECT_EQ(IdentityOnPage(cv, GetParam().field, GetParam().value), GetParam().page);
 }
 
@@ -126,10 +126,10 @@ TEST(FillTemplate, AMarkWrittenInAFieldMovesTheSwapAndIsRemoved) {
 
 TEST(FillTemplate, FillsEveryMarkOfAKnownFieldInTheFormsOrder) {
   CvDocument cv;
-  cv.Prénom = u"Zoé";
+  cv.Prenom = u"Zoé";
   cv.Nom = u"<script>#Ville#";
   cv.Ville = u"Lyon #Nom#";
-  cv.Modèle = u"x.htm";
+  cv.Modele = u"x.htm";
   EXPECT_EQ(Fill(cv, u"#Prenom# #Prénom# #nom# #Inconnu# #Souligne# #Modèle# #Modele#"),
             u"Zoé Zoé #nom# #Inconnu# 0 x.htm #Modele#");
   EXPECT_EQ(Fill(cv, u"#Nom#|#Nom#"), u"<script>Lyon #Nom#|<script>Lyon #Nom#")
@@ -164,7 +164,7 @@ TEST(FillTemplate, ColoursFontAndPhotoComeInTheirOrder) {
 TEST(FillTemplate, EnglishRunsOverMarkupAndUserTextBeforeTheMarksGo) {
   CvDocument cv;
   cv.LangueCV = u"1";
-  cv.Prénom = u"Anne";
+  cv.Prenom = u"Anne";
   cv.Situation = u"Marié(e)";
   cv.Divers = u"Langues";
   EXPECT_EQ(Fill(cv, u"<p class='Divers'>#Situation# #Divers# schP01olaire"),

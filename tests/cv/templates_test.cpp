@@ -178,7 +178,7 @@ TEST_P(Templates, TakeRealCvsInBothLanguages) {
       const Text filled = FillTemplate(cv, page, PhotoOnPage::None);
       EXPECT_EQ(LeftOver(filled), u"");
       EXPECT_EQ(NestingFault(filled), "");
-      EXPECT_TRUE(Contains(filled, u">" + cv.Prénom + u" " + cv.Nom + u"<"));
+      EXPECT_TRUE(Contains(filled, u">" + cv.Prenom + u" " + cv.Nom + u"<"));
       EXPECT_TRUE(Contains(filled, u">" + cv.Email + u"<"));
       for (const auto& heading : Headings)
         EXPECT_EQ(HeadingAt(filled, language == u"0" ? heading.french : heading.english) != TextView::npos,
@@ -206,7 +206,7 @@ TEST(DeliveredTemplates, AreSixWithTheOneOfANewCvAmongThem) {
   const auto files = DeliveredTemplates();
   EXPECT_EQ(files.size(), 6u);
   EXPECT_TRUE(std::any_of(files.begin(), files.end(), [](const fs::path& file) {
-    return TextOf(file.filename()) == CvDocument{}.Modèle;
+    return TextOf(file.filename()) == CvDocument{}.Modele;
   }));
 }
 

@@ -52,7 +52,7 @@ class CvWindowTest : public DesktopTest {
   }
   std::string Bytes(const char* name) { return ReadBytes(Folder() / name).value_or(std::string()); }
   CvPageView& Page() { return desktop->Cv().Window()->Page(); }
-  FormRédigerCV& Form() { return desktop->Cv().Form(); }
+  FormRedigerCV& Form() { return desktop->Cv().Form(); }
 
   // The text that the reader of the page sees.
   QString Seen() {

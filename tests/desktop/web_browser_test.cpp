@@ -144,7 +144,7 @@ TEST_F(BrowserTest, ASecondPageThatNeverAnswersIsStoppedOrLeftWithTheForm) {
 // Fills the form on show from the identity and the letter.
 void FillFrom(Desktop& desktop, BrowserPane& pane) {
   static_cast<Identity&>(desktop.Model()) = {.Nom = u"Durand",
-                                             .Prénom = u"Zoé \"l'\\ancienne\"",
+                                             .Prenom = u"Zoé \"l'\\ancienne\"",
                                              .CP = u"69002",
                                              .Ville = u"Lyon",
                                              .Tel = u"04 72 00 00 14",
@@ -158,7 +158,7 @@ TEST_F(BrowserTest, APlainFormIsFilledAndItsSecretsStay) {
   ASSERT_TRUE(Settled());
   FillFrom(*desktop, Pane());
   EXPECT_EQ(Value(QStringLiteral("[name=nom]")), QStringLiteral("Durand"));
-  EXPECT_EQ(Value(QStringLiteral("[name=prenom]")), ToQt(desktop->Model().Prénom));
+  EXPECT_EQ(Value(QStringLiteral("[name=prenom]")), ToQt(desktop->Model().Prenom));
   EXPECT_EQ(Value(QStringLiteral("#email")), QStringLiteral("zoe@a.example"));
   EXPECT_EQ(Value(QStringLiteral("[name=cp]")), QStringLiteral("69002"));
   EXPECT_EQ(Value(QStringLiteral("[name=ville]")), QStringLiteral("69")) << "the row whose text is the town";

@@ -42,7 +42,7 @@ void CheckIdentity(Text block) {
   cv.Identite = std::move(block);
   if (!ParseIdentity(cv)) return;
   if (cv.Identite.size() > size) __builtin_trap();
-  for (const Text* field : {&cv.Prénom, &cv.Nom, &cv.Adresse1, &cv.Adresse2, &cv.CP, &cv.Ville, &cv.Tel,
+  for (const Text* field : {&cv.Prenom, &cv.Nom, &cv.Adresse1, &cv.Adresse2, &cv.CP, &cv.Ville, &cv.Tel,
                             &cv.Mob, &cv.Email, &cv.Age, &cv.DateNaissance})
     if (field->size() > size) __builtin_trap();
   if (cv.CP.size() > 6 || Contains(cv.Email, u" ")) __builtin_trap();

@@ -30,7 +30,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (again.*(field.text) != model.*(field.text)) __builtin_trap();
   if (again.Corps != model.Corps) __builtin_trap();
 
-  for (Text& corps : model.Corps) corps = WithGender(corps, model.Prénom);
+  for (Text& corps : model.Corps) corps = WithGender(corps, model.Prenom);
   ComposerLettre(model, Day{39156});
   return 0;
 }

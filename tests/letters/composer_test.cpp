@@ -11,7 +11,7 @@ const Day Today = *DayOf({2026, 3, 5});
 
 LetterModel Model() {
   LetterModel model;
-  model.Prénom = u"Marie";
+  model.Prenom = u"Marie";
   model.Nom = u"DUPONT";
   model.Adresse1 = u"3 rue X";
   model.CP = u"75001";
@@ -61,7 +61,7 @@ TEST(MailLetter, BeginsWithTwoLineEndsAndHasItsSubjectApart) {
 
 struct Sentence {
   const char* reason;
-  Text prénom, domaine, corps, composed;
+  Text prenom, domaine, corps, composed;
   friend void PrintTo(const Sentence& row, std::ostream* out) { *out << row.reason; }
 };
 
@@ -69,7 +69,7 @@ class Sentences : public testing::TestWithParam<Sentence> {};
 
 TEST_P(Sentences, AreFilled) {
   LetterModel model = Model();
-  model.Prénom = GetParam().prénom;
+  model.Prenom = GetParam().prenom;
   model.Domaine = GetParam().domaine;
   model.LastSociete = u"Acme";
   model.Competences = u"la paie (e)";

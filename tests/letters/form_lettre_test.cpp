@@ -70,7 +70,7 @@ TEST_F(FormLettreTest, WithoutACvTheFirstLetterGetsAHint) {
 }
 
 TEST_F(FormLettreTest, TheButtonsPutTheSentenceInItsGenderAndCompose) {
-  form.Prénom = u"Marie";
+  form.Prenom = u"Marie";
   form.NextSentence(0);
   EXPECT_EQ(form.Corps[0], u"bonsoir");
   EXPECT_TRUE(Contains(form.Text1, u"\r\n\r\nbonsoir\r\n"));
@@ -104,10 +104,10 @@ TEST_F(FormLettreTest, FlagsAndZonesRecompose) {
   form.ToggleMedium(0);
   EXPECT_EQ(form.Check_Modele, (FlagPair{false, true}));
   EXPECT_TRUE(form.SubjectVisible);
-  form.Prénom = u"MARIE";
+  form.Prenom = u"MARIE";
   form.Corps[4] = u"né(e)";
   form.LeavePrenom();
-  EXPECT_EQ(form.Prénom, u"Marie");
+  EXPECT_EQ(form.Prenom, u"Marie");
   form.LeaveEmail();
   EXPECT_TRUE(Contains(form.Text1, u"née"));
   form.Text1 = u"typed by hand";

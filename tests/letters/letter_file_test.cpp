@@ -101,7 +101,7 @@ TEST_F(LetterFileTest, EmptyBinaryAndHugeFilesAreRead) {
 
 struct Naming {
   const char* reason;
-  Text nomLettre, prénom, nom;
+  Text nomLettre, prenom, nom;
   std::optional<std::size_t> modele, candidature;  // the flag that is set
   const char* file;
   friend void PrintTo(const Naming& row, std::ostream* out) { *out << row.reason; }
@@ -113,14 +113,14 @@ TEST_P(SavedLetter, StandsUnderItsName) {
   const Naming& row = GetParam();
   LetterModel model;
   model.NomLettre = row.nomLettre;
-  model.Prénom = row.prénom;
+  model.Prenom = row.prenom;
   model.Nom = row.nom;
   if (row.modele) SetFlag(model.Check_Modele, *row.modele, true);
   if (row.candidature) SetFlag(model.Check_candidature, *row.candidature, true);
   EXPECT_TRUE(EnregistrerLettre(model, dialogs, principale));
   EXPECT_EQ(Bytes(std::filesystem::path{"Lettres"} / row.file), LetterFileText(model));
   EXPECT_EQ(principale.ImageMenu[5].toolTip.empty(), row.file[0] == '.') << "the menu lists the letter";
-  const bool nameless = row.nomLettre.empty() && row.prénom.empty() && row.nom.empty();
+  const bool nameless = row.nomLettre.empty() && row.prenom.empty() && row.nom.empty();
   EXPECT_EQ(dialogs.told,
             nameless ? std::vector<Text>{u"Vous devez donner un nom au modèle avant de l'enregistrer"}
                      : std::vector<Text>{});

@@ -109,10 +109,10 @@ TEST_F(Delivered, LeaveNoTagAndNoTokenInAnyLetter) {
   constexpr std::size_t longest = 8;  // sentences of a group
   CandidatureTexts candidature;
   for (const auto& field : CandidatureTags) candidature.*(field.text) = u"X";
-  for (const char16_t* prénom : {u"Marie", u"Paul"})
+  for (const char16_t* prenom : {u"Marie", u"Paul"})
     for (const std::size_t modele : {Printed, Mail}) {
       form.Nom = u"Durand";
-      form.Prénom = prénom;
+      form.Prenom = prenom;
       form.Corps = {};
       SetFlag(form.Check_Modele, modele, true);
       // From the last sentence of each group back to the first.

@@ -93,7 +93,7 @@ TEST_F(PrincipaleTest, IdentityComesFromTheKeysOfTheFile) {
          "nom=autre\r\nNbCand=99\r\n=\r\nVille=\xA0&#321;\r\n";
   principale.ChargerInfosCV("a.dat");
   EXPECT_EQ(principale.Nom, u"Durand");
-  EXPECT_EQ(principale.Prénom, u"Angèle");
+  EXPECT_EQ(principale.Prenom, u"Angèle");
   EXPECT_EQ(principale.Adresse1, u"1, rue\r\nB=2");
   EXPECT_EQ(principale.CP, u"");
   EXPECT_EQ(principale.Ville, u"\u00A0Ł");

@@ -191,7 +191,7 @@ void CvOptionPanels::MakeColours() {
   row->addLayout(chosen, 1);
 }
 
-void CvOptionPanels::ShowTemplates(const FormRédigerCV& form) {
+void CvOptionPanels::ShowTemplates(const FormRedigerCV& form) {
   constexpr int MostRows = 6;
   if (templates_->count() != static_cast<int>(form.templateRows.size())) {
     templates_->clear();
@@ -205,7 +205,7 @@ void CvOptionPanels::ShowTemplates(const FormRédigerCV& form) {
     if (templates_->item(i)->text() == talvor::ToQt(form.NomModele)) templates_->setCurrentRow(i);
 }
 
-void CvOptionPanels::Show(const FormRédigerCV& form) {
+void CvOptionPanels::Show(const FormRedigerCV& form) {
   ShowTemplates(form);
   for (std::size_t i = 0; i < fonts_.size(); ++i)
     fonts_[i]->setChecked(form.Police == editor_texts::Fonts[i]);

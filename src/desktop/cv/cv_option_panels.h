@@ -27,7 +27,7 @@ class CvOptionPanels : public QWidget {
   std::function<void()> OnOtherColour;  // `BoutonTLV3`
 
   // Shows the open panel, if any, with what the form says.
-  void Show(const FormRédigerCV& form);
+  void Show(const FormRedigerCV& form);
   // Steps through the rows of the open list, for the keyboard of the field above it; the row chosen.
   void StepTemplate(int step);
   [[nodiscard]] int CurrentTemplate() const;
@@ -40,11 +40,11 @@ class CvOptionPanels : public QWidget {
   void MakeParagraphs();
   void MakeColours();
   QPushButton* MakeSwatch(std::size_t index, QWidget* panel);
-  void ShowTemplates(const FormRédigerCV& form);
+  void ShowTemplates(const FormRedigerCV& form);
 
   const Theme& theme_;
   QVBoxLayout* column_;
-  std::array<QWidget*, 4> panels_{};  // in the order of FormRédigerCV::Panel, None left out
+  std::array<QWidget*, 4> panels_{};  // in the order of FormRedigerCV::Panel, None left out
   std::size_t made_ = 0;
   QListWidget* templates_ = nullptr;
   std::array<QPushButton*, 6> fonts_{};

@@ -214,8 +214,8 @@ QWidget* CvPagePane::MakeOptions() {
   return options_;
 }
 
-void CvPagePane::Show(const FormRédigerCV& form) {
-  using Panel = FormRédigerCV::Panel;
+void CvPagePane::Show(const FormRedigerCV& form) {
+  using Panel = FormRedigerCV::Panel;
   entries_[0]->setChecked(form.openPanel == Panel::Paragraph);
   entries_[1]->setChecked(form.openPanel == Panel::Colours);
   for (std::size_t i = 0; i < dispositions_.size(); ++i)

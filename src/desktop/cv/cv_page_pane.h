@@ -29,7 +29,7 @@ class CvPagePane : public QWidget {
   std::function<void()> OnFonts;      // `Image3`
   std::function<void(std::size_t check)> OnDisposition;
 
-  void Show(const FormRédigerCV& form);
+  void Show(const FormRedigerCV& form);
   [[nodiscard]] CvOptionPanels& Panels() { return *panels_; }
   [[nodiscard]] CvPageView& View() { return *view_; }
 

@@ -17,7 +17,7 @@ QList<int> WideSizes() { return {TextPixels(684), TextPixels(590)}; }
 
 }  // namespace
 
-CvWindow::CvWindow(FormRédigerCV& form, QtMenus& menus, const Theme& theme, QWidget* parent)
+CvWindow::CvWindow(FormRedigerCV& form, QtMenus& menus, const Theme& theme, QWidget* parent)
     : QWidget(parent), form_(form), menus_(menus), shown_(form) {
   setObjectName(ToQt(EditorForm));
   auto* row = new QHBoxLayout(this);

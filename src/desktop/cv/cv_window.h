@@ -19,7 +19,7 @@ namespace talvor {
 class CvWindow : public QWidget {
  public:
   // The view model and the menus must outlive the window.
-  CvWindow(FormRédigerCV& form, QtMenus& menus, const Theme& theme, QWidget* parent);
+  CvWindow(FormRedigerCV& form, QtMenus& menus, const Theme& theme, QWidget* parent);
   ~CvWindow() override;
 
   // Called after each action, for what other windows show.
@@ -51,7 +51,7 @@ class CvWindow : public QWidget {
   void SaveWhileTyping();
   [[nodiscard]] QString FieldOf(const QWidget* widget) const;
 
-  FormRédigerCV& form_;
+  FormRedigerCV& form_;
   QtMenus& menus_;
   // What the window shows of the document: typing goes from here to the form as a change, so that the
   // rules of the form see it.

@@ -36,14 +36,14 @@ CvDesk::CvDesk(const DeskSurroundings& around)
   documents_.OnRefused = [this](TextView target) { TellNotOpened(target, around_.dialogs); };
   printAdvice_.previsualiser = [this] { Preview(); };
   MakeForm();
-  around_.ways.cvEditor = [this]() -> FormRédigerCV& { return *form_; };
+  around_.ways.cvEditor = [this]() -> FormRedigerCV& { return *form_; };
   around_.ways.openCv = [this](TextView name) { OpenFile(name); };
   around_.ways.printCv = [this] { Print(); };
   RegisterForms();
 }
 
 void CvDesk::MakeForm() {
-  form_.emplace(FormRédigerCV::Surroundings{
+  form_.emplace(FormRedigerCV::Surroundings{
       .principale = around_.principale,
       .shell = around_.shell,
       .dialogs = around_.dialogs,

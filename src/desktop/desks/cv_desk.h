@@ -37,7 +37,7 @@ class CvDesk : public Desk {
   void Preview();
   void Print();
 
-  [[nodiscard]] FormRédigerCV& Form() { return *form_; }
+  [[nodiscard]] FormRedigerCV& Form() { return *form_; }
   // The window, or null.
   [[nodiscard]] CvWindow* Window() const { return window_; }
   // The print preview last opened, or null once it is closed.
@@ -59,7 +59,7 @@ class CvDesk : public Desk {
   QtDocuments documents_;
   MiseEnPage printAdvice_;
   // Begun anew at each load of the form, in its place.
-  std::optional<FormRédigerCV> form_;
+  std::optional<FormRedigerCV> form_;
   QPointer<CvWindow> window_;
   QPointer<PrintPreviewWindow> printPreview_;
 };

@@ -35,7 +35,7 @@ struct DeskWays {
   std::function<void(TextView item)> candidatureMenu;  // an item of its menus has been chosen
 
   // -- CVs.
-  std::function<FormRédigerCV&()> cvEditor;
+  std::function<FormRedigerCV&()> cvEditor;
   std::function<void(TextView name)> openCv;
   std::function<void()> printCv;
 

@@ -211,7 +211,7 @@ void LetterSenderPane::resizeEvent(QResizeEvent* event) {
 bool LetterSenderPane::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::FocusOut) {
     const auto reason = static_cast<QFocusEvent*>(event)->reason();
-    const auto& left = watched == email_ ? OnLeaveEmail : OnLeavePrénom;
+    const auto& left = watched == email_ ? OnLeaveEmail : OnLeavePrenom;
     const bool staysHere = reason == Qt::PopupFocusReason || reason == Qt::ActiveWindowFocusReason;
     if (!staysHere && left) left();
   }

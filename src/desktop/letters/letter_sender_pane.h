@@ -20,7 +20,7 @@ class LetterSenderPane : public QWidget {
 
   std::function<void(std::size_t)> OnCv;
   // The field has lost the focus to another one, not to another window.
-  std::function<void()> OnLeaveEmail, OnLeavePrénom;
+  std::function<void()> OnLeaveEmail, OnLeavePrenom;
 
   void ShowCvs(const FormLettre& form);
   [[nodiscard]] QWidget& Name() { return *name_; }

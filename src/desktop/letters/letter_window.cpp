@@ -47,7 +47,7 @@ void LetterWindow::Bind() {
 void LetterWindow::ConnectPanes() {
   sender_->OnCv = [this](std::size_t i) { Do([&] { form_.BeginFromCv(i); }); };
   sender_->OnLeaveEmail = [this] { Do([&] { form_.LeaveEmail(); }); };
-  sender_->OnLeavePrénom = [this] { Do([&] { form_.LeavePrenom(); }); };
+  sender_->OnLeavePrenom = [this] { Do([&] { form_.LeavePrenom(); }); };
   sentences_->OnPrevious = [this](std::size_t i) { Do([&] { form_.PreviousSentence(i); }); };
   sentences_->OnNext = [this](std::size_t i) { Do([&] { form_.NextSentence(i); }); };
   sentences_->OnPropositions = [this] { Do([&] { form_.OpenPropositions(); }); };
