@@ -69,7 +69,7 @@ class FileLibrary {
 
   void MenuRedigerLettre();
   void MenuOuvrirLettre();
-  void MenuDuppliquerLettre();
+  void MenuDuppliquerLettre();  // (spelt so in the menus)
   void RenommerLettre();
   void MenuSupprimerLettre();
 

@@ -61,6 +61,7 @@ inline constexpr auto CandidatureFields = [] {
       {u"Telephone", &C::Telephone, 100, 180, Cut::CouperTexte},
       {u"Email", &C::Email, 110, 170, Cut::CouperTexte, Signed::Yes, Holds::Words, u"courriel"},
       {u"Origine", &C::Origine, 160, 160, Cut::CouperTexte},
+      // The column is called Datediffussion (spelt so in the files).
       {u"DateDiffusion", &C::DateDiffusion, 170, 150, Cut::None, Signed::Yes, Holds::Date, u"Datediffussion"},
       {u"DateLimite", &C::DateLimite, 210, 140, Cut::None, Signed::No, Holds::Date},
       {u"DateRDV", &C::DateRDV, 220, 60, Cut::None, Signed::Yes, Holds::Date},
