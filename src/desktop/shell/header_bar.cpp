@@ -220,9 +220,9 @@ void HeaderBar::ShowInformation(TextView text) { information_->setText(ToQt(text
 bool HeaderBar::IsCurrent(std::size_t index, TextView page) const {
   if (index == Principale::CandidatureSlot) return page == CandidatureForm;
   const bool letter = index >= Principale::FirstLetterSlot;
-  if (!OpenFile || page != (letter ? LetterForm : EditorForm)) return false;
+  if (!askOpenFile || page != (letter ? LetterForm : EditorForm)) return false;
   const Text& name = principale_.ImageMenu[index].toolTip;
-  return !name.empty() && name == OpenFile(page);
+  return !name.empty() && name == askOpenFile(page);
 }
 
 void HeaderBar::Refresh(TextView page) {

@@ -23,7 +23,7 @@ class HeaderBar : public QFrame {
   // A click, which waits for the second one of a double click; a double click; F2; Del.
   std::function<void(std::size_t slot)> OnSlotClick, OnSlotOpen, OnSlotRename, OnSlotDelete;
   // The name of the file that the form at the front shows, empty without one.
-  std::function<Text(TextView page)> OpenFile;
+  std::function<Text(TextView page)> askOpenFile;
 
   // Shows the slots as they stand. `page` is the form at the front.
   void Refresh(TextView page);
