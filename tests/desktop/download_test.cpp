@@ -161,13 +161,18 @@ TEST_F(DownloadTest, AnOfferIsFetchedAtTheClickOfTheUserAlone) {
 }
 
 TEST_F(DownloadTest, AProgramIsSaidToBeOneEvenAfterAClick) {
-  site.pages[QStringLiteral("lien.htm")] = PageThat("", QStringLiteral("maj.desktop"));
-  Browse(QStringLiteral("lien.htm"));
-  ASSERT_TRUE(Settled());
-  ClickPage();
-  ASSERT_TRUE(Offered());
-  EXPECT_EQ(proposed, QStringList());
-  EXPECT_TRUE(OfferText().contains(QStringLiteral("programme")));
+  for (const QString& name : {QStringLiteral("maj.desktop"), QStringLiteral("maj.desktop. "),
+                              QStringLiteral("maj.desk\u202Etop")}) {
+    SCOPED_TRACE(name.toStdString());
+    site.pages[QStringLiteral("lien.htm")] = PageThat("", name);
+    Browse(QStringLiteral("lien.htm"));
+    ASSERT_TRUE(Settled());
+    ClickPage();
+    ASSERT_TRUE(Offered());
+    EXPECT_EQ(proposed, QStringList());
+    EXPECT_TRUE(OfferText().contains(QStringLiteral("programme")));
+    QTest::mouseClick(InPane("IgnorerFichierProposé"), Qt::LeftButton);
+  }
 }
 
 TEST_F(DownloadTest, OneClickAllowsOneFile) {

@@ -75,10 +75,11 @@ void WebProfile::Fetch(QWebEnginePage& page, const DownloadOffer& offer) {
 }
 
 void WebProfile::Download(QWebEngineDownloadRequest* download) {
-  const DownloadOffer offer{download->url(), DownloadName(download->downloadFileName()),
-                            RunsWhenOpened(download->downloadFileName(), download->mimeType())};
+  // The ending that counts is that of the name as it will be written.
+  const QString name = DownloadName(download->downloadFileName());
+  const DownloadOffer offer{download->url(), name, RunsWhenOpened(name, download->mimeType())};
   const bool wanted = !wanted_.isEmpty() && offer.address == std::exchange(wanted_, QUrl());
-  const bool asked = wanted || ((IsAskedByUser && IsAskedByUser(offer.address) && !offer.runs));
+  const bool asked = wanted || (IsAskedByUser && IsAskedByUser(offer.address) && !offer.runs);
   if (!asked) {
     download->cancel();
     if (OnOffer) OnOffer(offer);
